@@ -1,0 +1,22 @@
+# How all of our code is compiled: one language level, warnings as errors, the compiler cache where there is one.
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_C_STANDARD 11)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE})
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+find_package(Threads REQUIRED)
+
+add_library(veskar-compile-options INTERFACE)
+target_compile_options(veskar-compile-options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Werror)
+
+if(VESKAR_SANITIZE)
+    add_compile_options(-fsanitize=${VESKAR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${VESKAR_SANITIZE})
+endif()

@@ -1,0 +1,19 @@
+# The toolkit and the edje compiler. Imported targets are system headers to the compiler, which keeps the toolkit's
+# own warnings out of a build that treats warnings as errors.
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(EFL REQUIRED IMPORTED_TARGET elementary evas ecore ecore-evas ecore-wl2 ecore-input edje eina)
+find_program(EDJE_CC edje_cc REQUIRED)
+
+# Compiles SOURCE (an .edc file) to OUTPUT; further arguments are its images' and fonts' folders and its DEPENDS.
+function(veskar_add_edje target source output)
+    cmake_parse_arguments(ARG "" "" "FLAGS;DEPENDS" ${ARGN})
+    get_filename_component(directory ${output} DIRECTORY)
+    file(MAKE_DIRECTORY ${directory})
+    add_custom_command(
+        OUTPUT ${output}
+        COMMAND ${EDJE_CC} ${ARG_FLAGS} ${source} ${output}
+        DEPENDS ${source} ${ARG_DEPENDS}
+        COMMENT "Compiling ${output}"
+        VERBATIM)
+    add_custom_target(${target} ALL DEPENDS ${output})
+endfunction()
