@@ -36,16 +36,16 @@ constexpr const char* LogFileName(const char* path)
 
 } // namespace VESKAR_APP
 
-#define VESKAR_LOG_TEXT(priority, format, text)                                                                       \
-    __dlog_print(LOG_ID_MAIN, priority, VESKAR_LOG_TAG, format, VESKAR_APP::LogFileName(__FILE__), __func__, __LINE__,  \
+#define VESKAR_LOG_TEXT(priority, format, text)                                                                        \
+    __dlog_print(LOG_ID_MAIN, priority, VESKAR_LOG_TAG, format, VESKAR_APP::LogFileName(__FILE__), __func__, __LINE__, \
                  text)
 
-#define VESKAR_LOG_STREAM(priority, format, stream)                                                                   \
-    do                                                                                                                \
-    {                                                                                                                 \
-        std::ostringstream veskarLogText;                                                                             \
-        veskarLogText << stream;                                                                                      \
-        VESKAR_LOG_TEXT(priority, format, veskarLogText.str().c_str());                                               \
+#define VESKAR_LOG_STREAM(priority, format, stream)                                                                    \
+    do                                                                                                                 \
+    {                                                                                                                  \
+        std::ostringstream veskarLogText;                                                                              \
+        veskarLogText << stream;                                                                                       \
+        VESKAR_LOG_TEXT(priority, format, veskarLogText.str().c_str());                                                \
     } while (false)
 
 #define LOG_DEBUG(stream) VESKAR_LOG_STREAM(DLOG_DEBUG, VESKAR_LOG_PLAIN, stream)

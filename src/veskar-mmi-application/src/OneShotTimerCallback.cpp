@@ -21,7 +21,10 @@ OneShotTimerCallback::OneShotTimerCallback(std::function<void()> callback)
 {
 }
 
-OneShotTimerCallback::~OneShotTimerCallback() { CancelTimer(); }
+OneShotTimerCallback::~OneShotTimerCallback()
+{
+    CancelTimer();
+}
 
 void OneShotTimerCallback::StartTimer(unsigned int milliseconds)
 {

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <app_control.h>
+
+namespace VESKAR_APP
+{
+
+class IWindowManager;
+
+/**
+ * Turns one service request into one action: a screen of the window manager for the middleware, a menu position of the
+ * controller for the TV's settings menu. Keeps nothing between requests.
+ *
+ * A bad request is an error line in the log and nothing else; a missing value has a default. Called on the main thread
+ * with the frame's mutex held.
+ */
+class ServiceProcessor
+{
+public:
+    explicit ServiceProcessor(IWindowManager& windowManager);
+
+    /** True when the request named a signal type, whatever came of it. The request stays the caller's. */
+    bool HandleService(app_control_h const& request);
+
+private:
+    void m_HandleRequestFromMW(app_control_h const& request);
+    void m_HandleRequestFromMenu(app_control_h const& request);
+    bool m_HandleClose(app_control_h const& request, int uiId, unsigned char sourceId);
+
+    bool m_HandleMessage(app_control_h const& request, int uiId, unsigned char sourceId);
+    bool m_HandleImage(app_control_h const& request, int uiId, unsigned char sourceId);
+    bool m_HandleList(app_control_h const& request, int uiId, unsigned char sourceId, bool selectable);
+    bool m_HandleMultipleList(app_control_h const& request, int uiId, unsigned char sourceId, bool selectable);
+    bool m_HandleMultipleImageList(app_control_h const& request, int uiId, unsigned char sourceId);
+    bool m_HandleProgressWindow(app_control_h const& request, int uiId, unsigned char sourceId);
+    bool m_HandleLoadingWindow(app_control_h const& request, int uiId, unsigned char sourceId);
+    bool m_HandlePinEntry(app_control_h const& request, int uiId, unsigned char sourceId);
+
+    /** What the three list requests have in common. */
+    struct ListRequest
+    {
+        std::string title;
+        std::string sub;
+        std::string bottom;
+        std::vector<std::string> buttons;
+        std::vector<std::string> entries;
+        std::string format;
+        int firstRowHeader = 0;
+    };
+    ListRequest m_ReadList(app_control_h const& request);
+
+    // The readers: true when the key is there; otherwise an error line, and the output keeps its value.
+
+    /** A text that is no number reads as 0. */
+    bool m_GetParameter(app_control_h const& request, const char* key, int& value);
+    bool m_GetParameter(app_control_h const& request, const char* key, std::string& value);
+    /** Appends to `values`. */
+    bool m_GetStrings(app_control_h const& request, const char* key, std::vector<std::string>& values);
+    /** A byte for the first character of each element; appends to `data`. */
+    bool m_GetDataArray(app_control_h const& request, const char* key, std::vector<unsigned char>& data);
+
+    /** Writes one number into a request; false when the platform refuses it. */
+    bool m_AddParameter(app_control_h const& request, const char* key, int value);
+
+    IWindowManager& m_windowManager;
+};
+
+} // namespace VESKAR_APP

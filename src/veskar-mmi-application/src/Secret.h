@@ -1,0 +1,71 @@
+/** For PINs: memory that is overwritten before it is given back. */
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <string.h>
+
+namespace VESKAR_APP
+{
+
+/** Overwrites the characters of a string that held a secret; unlike a plain fill it is never optimised away. */
+inline void Wipe(std::string& text) { explicit_bzero(text.data(), text.size()); }
+
+/** Overwrites each block as it frees it, those that a growing container leaves behind included. */
+template <typename T>
+struct WipingAllocator
+{
+    using value_type = T;
+
+    WipingAllocator() = default;
+    template <typename U>
+    WipingAllocator(const WipingAllocator<U>&)
+    {
+    }
+
+    T* allocate(std::size_t count) { return std::allocator<T>().allocate(count); }
+    void deallocate(T* block, std::size_t count)
+    {
+        explicit_bzero(block, count * sizeof(T));
+        std::allocator<T>().deallocate(block, count);
+    }
+
+    bool operator==(const WipingAllocator&) const { return true; }
+    bool operator!=(const WipingAllocator&) const { return false; }
+};
+
+using SecretCharacters = std::vector<char, WipingAllocator<char>>;
+
+/** A text composed of parts, one of them secret; overwritten when it goes. */
+class SecretText
+{
+public:
+    SecretText(std::initializer_list<std::string_view> parts)
+    {
+        std::size_t size = 0;
+        for (const std::string_view part : parts)
+        {
+            size += part.size();
+        }
+        m_text.reserve(size); // so that no part is moved once it is in
+        for (const std::string_view part : parts)
+        {
+            m_text.append(part);
+        }
+    }
+    ~SecretText() { Wipe(m_text); }
+
+    SecretText(const SecretText&) = delete;
+    SecretText& operator=(const SecretText&) = delete;
+
+    const std::string& Get() const { return m_text; }
+
+private:
+    std::string m_text;
+};
+
+} // namespace VESKAR_APP

@@ -1,0 +1,14 @@
+#pragma once
+
+namespace VESKAR_APP
+{
+
+class IWindowManager;
+
+/**
+ * Shows sample screen 0 to 22 through the window manager's own operations, with UI id 0 and source id 0; false for any
+ * other number and for a screen that could not be shown.
+ */
+bool ShowTestCase(IWindowManager& windowManager, int testId);
+
+} // namespace VESKAR_APP
