@@ -1,4 +1,4 @@
-/** Owners of what the platform's and the toolkit's C functions hand out. Each takes the raw pointer in and frees it once. */
+/** Owners of what the platform's and the toolkit's C functions hand out; each frees its raw pointer once. */
 #pragma once
 
 #include "EflGuard.h"
@@ -25,10 +25,11 @@ using CString = std::unique_ptr<char, FreeMemory>;
 class CStringArray
 {
 public:
-    CStringArray(char** strings, int size) : m_strings(strings), m_size(size) {}
+    /** `strings` may be null, for an empty array. */
+    CStringArray(char** strings, int size) : m_strings(strings), m_size(strings != nullptr ? size : 0) {}
     ~CStringArray()
     {
-        for (int i = 0; m_strings != nullptr && i < m_size; ++i)
+        for (int i = 0; i < m_size; ++i)
         {
             std::free(m_strings[i]);
         }

@@ -13,7 +13,10 @@ namespace VESKAR_APP
 {
 
 /** Overwrites the characters of a string that held a secret; unlike a plain fill it is never optimised away. */
-inline void Wipe(std::string& text) { explicit_bzero(text.data(), text.size()); }
+inline void Wipe(std::string& text)
+{
+    explicit_bzero(text.data(), text.size());
+}
 
 /** Overwrites each block as it frees it, those that a growing container leaves behind included. */
 template <typename T>
