@@ -2,11 +2,12 @@
 #pragma once
 
 #ifdef __cplusplus
-extern "C" {
+extern "C"
+{
 #endif
 
-/** Asks for `action` ("stop") on `task`; 0 when the request is on its way, negative otherwise. Does not wait. */
-int app_context_manager_request_task(const char* task, const char* action);
+    /** Asks for `action` ("stop") on `task`; 0 when the request is on its way, negative otherwise. Does not wait. */
+    int app_context_manager_request_task(const char* task, const char* action);
 
 #ifdef __cplusplus
 }

@@ -2,11 +2,12 @@
 #pragma once
 
 #ifdef __cplusplus
-extern "C" {
+extern "C"
+{
 #endif
 
-/** 1 for right-to-left, any other value for left-to-right. */
-int ua_UI_orientation_get(void);
+    /** 1 for right-to-left, any other value for left-to-right. */
+    int ua_UI_orientation_get(void);
 
 #ifdef __cplusplus
 }

@@ -2,11 +2,12 @@
 #pragma once
 
 #ifdef __cplusplus
-extern "C" {
+extern "C"
+{
 #endif
 
-/** Speaks `text` at once, cutting short what is being spoken. Markup is not read out. */
-void elm_access_force_say(const char* text);
+    /** Speaks `text` at once, cutting short what is being spoken. Markup is not read out. */
+    void elm_access_force_say(const char* text);
 
 #ifdef __cplusplus
 }
