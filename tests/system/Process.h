@@ -1,0 +1,42 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <sys/types.h>
+
+/** How long anything may take before a test gives up on it; far above what a loaded machine needs. */
+constexpr std::chrono::seconds PATIENCE{20};
+
+/** Asks again and again until it is true; false when that was not so within the time. */
+bool WaitUntil(const std::function<bool()>& predicate, std::chrono::milliseconds limit = PATIENCE);
+
+/** A command with its standard output kept; standard error goes to the test's own. */
+class Process
+{
+public:
+    explicit Process(const std::vector<std::string>& command);
+    /** Ends the command where it still runs. */
+    ~Process();
+
+    Process(Process&& other) noexcept;
+    Process& operator=(Process&&) = delete;
+
+    bool HasEnded();
+
+    /** The exit status; -1 when the command did not end within the time. */
+    int Status(std::chrono::milliseconds limit = PATIENCE);
+
+    /** What was printed so far. */
+    std::string Output() const;
+
+private:
+    pid_t m_pid;
+    int m_output;
+    int m_status = -1;
+};
+
+/** Runs a command to its end and gives back what it printed; a status other than 0 fails the test. */
+std::string Run(const std::vector<std::string>& command);

@@ -1,0 +1,172 @@
+#include "Tv.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+#include <unistd.h>
+
+namespace
+{
+
+constexpr const char* APPLICATION = "org.tizen.veskar-app";
+constexpr const char* APPLICATION_PATH = "/org/tizen/veskar_app";
+constexpr const char* APPLICATION_INTERFACE = "org.tizen.Application1";
+
+std::string ReadFile(const std::string& path, std::streamoff from = 0)
+{
+    std::ifstream file(path, std::ios::binary);
+    file.seekg(from);
+    std::ostringstream content;
+    content << file.rdbuf();
+    return content.str();
+}
+
+std::string Setting(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+} // namespace
+
+TvTest::TvTest()
+    : m_bus(sdbus::createSessionBusConnection()), m_logFile(Setting("VESKAR_TV_LOG")),
+      m_logStart(static_cast<std::streamoff>(ReadFile(m_logFile).size()))
+{
+}
+
+Process TvTest::Send(const std::vector<std::string>& arguments)
+{
+    std::vector<std::string> command{"veskar-mw"};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    const int before = CountInLog("Service complete!");
+    Process process(command);
+    EXPECT_TRUE(WaitUntil([&] { return CountInLog("Service complete!") > before; })) << "the request was not handled";
+    return process;
+}
+
+Process TvTest::SendMessage(int uiId, int sourceId, const std::vector<std::string>& more)
+{
+    std::vector<std::string> arguments{
+        "--ui-id", std::to_string(uiId), "--source-id", std::to_string(sourceId), "message", "--title", "T",
+        "--text",  "A message"};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return Send(arguments);
+}
+
+void TvTest::Press(const std::vector<std::string>& keys)
+{
+    std::vector<std::string> command{"veskar-remote", "press"};
+    command.insert(command.end(), keys.begin(), keys.end());
+    Run(command);
+}
+
+std::map<std::string, std::string> TvTest::Grabs()
+{
+    std::map<std::string, std::string> grabs;
+    std::istringstream lines(Run({"veskar-remote", "grabs"}));
+    std::string line;
+    while (std::getline(lines, line))
+    {
+        std::istringstream words(line);
+        std::string key;
+        std::string mode;
+        std::string client;
+        words >> key >> mode >> client;
+        if (client.find("veskar-app") != std::string::npos)
+        {
+            grabs[key] = mode;
+        }
+    }
+    return grabs;
+}
+
+Picture TvTest::Shot()
+{
+    const std::string path = Setting("XDG_RUNTIME_DIR") + "/shot.png";
+    Run({"veskar-remote", "shot", path});
+    return ReadFile(path);
+}
+
+Picture TvTest::StillShot()
+{
+    Picture last = Shot();
+    const auto isStill = [&]
+    {
+        const Picture next = Shot();
+        const bool alike = next == last;
+        last = next;
+        return alike;
+    };
+    EXPECT_TRUE(WaitUntil(isStill)) << "the screen does not come to rest";
+    return last;
+}
+
+bool TvTest::IsApplicationRunning()
+{
+    auto bus = sdbus::createProxy(*m_bus, "org.freedesktop.DBus", "/org/freedesktop/DBus");
+    bool isRunning = false;
+    bus->callMethod("NameHasOwner")
+        .onInterface("org.freedesktop.DBus")
+        .withArguments(APPLICATION)
+        .storeResultsTo(isRunning);
+    return isRunning;
+}
+
+void TvTest::EndApplication()
+{
+    if (!IsApplicationRunning())
+    {
+        return;
+    }
+    auto application = sdbus::createProxy(*m_bus, APPLICATION, APPLICATION_PATH);
+    try
+    {
+        application->callMethod("Terminate").onInterface(APPLICATION_INTERFACE).dontExpectReply();
+    }
+    catch (const sdbus::Error&)
+    {
+        // It ended by itself meanwhile.
+    }
+    ASSERT_TRUE(WaitForApplicationEnd());
+}
+
+bool TvTest::WaitForApplicationEnd()
+{
+    return WaitUntil([this] { return !IsApplicationRunning(); });
+}
+
+int TvTest::CountInLog(const std::string& text) const
+{
+    const std::string log = ReadFile(m_logFile, m_logStart);
+    int count = 0;
+    for (std::size_t at = log.find(text); at != std::string::npos; at = log.find(text, at + text.size()))
+    {
+        ++count;
+    }
+    return count;
+}
+
+std::string TvTest::SendRaw(const std::map<std::string, sdbus::Variant>& values)
+{
+    auto application = sdbus::createProxy(*m_bus, APPLICATION, APPLICATION_PATH);
+    try
+    {
+        application->callMethod("AppControl").onInterface(APPLICATION_INTERFACE).withArguments(values);
+        return "";
+    }
+    catch (const sdbus::Error& error)
+    {
+        return error.getName() + ": " + error.getMessage();
+    }
+}
+
+std::string Answer(int uiId, int sourceId, int kind, int button, int item, const std::string& data)
+{
+    const char* results[] = {"answered", "", "closed", "back"};
+    std::ostringstream json;
+    json << R"({"uiId":)" << uiId << R"(,"sourceId":)" << sourceId << R"(,"kind":)" << kind << R"(,"result":")"
+         << results[kind] << R"(","button":)" << button << R"(,"item":)" << item << R"(,"data":")" << data << "\"}\n";
+    return json.str();
+}

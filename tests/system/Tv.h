@@ -1,0 +1,63 @@
+#pragma once
+
+#include "Process.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <sdbus-c++/sdbus-c++.h>
+
+/** Images of the screen are compared byte by byte: the compositor's pictures are exact. */
+using Picture = std::string;
+
+/**
+ * The started TV in which these tests run, used as a person would: requests through the middleware's tool, keys and
+ * pictures through the remote control. Each test begins without a running application.
+ */
+class TvTest : public ::testing::Test
+{
+protected:
+    TvTest();
+    void SetUp() override { EndApplication(); }
+
+    /**
+     * Sends a request with `veskar-mw` and these arguments, and returns when the application has handled it. The
+     * process waits for the answer.
+     */
+    Process Send(const std::vector<std::string>& arguments);
+
+    /** `Send` with a message that has these ids; more arguments may follow. */
+    Process SendMessage(int uiId, int sourceId, const std::vector<std::string>& more = {});
+
+    void Press(const std::vector<std::string>& keys);
+
+    /** What the application's keys are at the compositor: name and mode. */
+    std::map<std::string, std::string> Grabs();
+
+    Picture Shot();
+    /** The picture once two in a row are alike: nothing moves any more. */
+    Picture StillShot();
+
+    bool IsApplicationRunning();
+    /** Ends the application as the TV would, and waits until it is gone. */
+    void EndApplication();
+    bool WaitForApplicationEnd();
+
+    /** How often a text stands in the TV's log since the test began. */
+    int CountInLog(const std::string& text) const;
+
+    /** The middleware's call itself, for what the tool would not send; the error's name, or nothing. */
+    std::string SendRaw(const std::map<std::string, sdbus::Variant>& values);
+
+    std::unique_ptr<sdbus::IConnection> m_bus;
+
+private:
+    std::string m_logFile;
+    std::streamoff m_logStart;
+};
+
+/** The answer as `veskar-mw` prints it. */
+std::string Answer(int uiId, int sourceId, int kind, int button, int item, const std::string& data = "");
