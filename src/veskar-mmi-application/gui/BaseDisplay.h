@@ -49,6 +49,10 @@ public:
     static bool s_CheckEnlargedMode();
     static bool s_CheckHighContrastMode();
 
+    /** What these settings make of the texts: the pixels of their font, and the colour of rows and text pages. */
+    static int s_TextFontSize();
+    static const char* s_TextColour();
+
 protected:
     virtual bool t_Create();
     virtual bool t_Show();
@@ -101,8 +105,9 @@ protected:
     Evas_Object* m_AddSubBottomTitle(Evas_Object* box, const std::string& text);
     void m_AddPopupButtons(Evas_Object* popup);
 
-    /** Formats a subtitle or bottom label; `text` is markup. */
+    /** Formats a subtitle or bottom label; `text` is markup. Nothing happens to a null label. */
     void m_AlignLabelText(Evas_Object* label, const std::string& text);
+    static void s_PaintLabelWhite(Evas_Object* label);
 
     static void s_OnKeyPressed(void* data, Evas* evas, Evas_Object* object, void* eventInfo);
     static void s_OnButtonClicked(void* data, Evas_Object* object, void* eventInfo);

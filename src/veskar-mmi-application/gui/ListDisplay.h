@@ -46,8 +46,8 @@ protected:
                                 const std::string& format, bool firstRowHeader, const std::vector<std::string>& entries,
                                 const std::vector<std::string>& buttons);
 
-    /** Builds the list with its rows as a child of `parent`, and the header row in `box`. */
-    void m_CreateMenu(Evas_Object* parent, Evas_Object* box);
+    /** Builds the list with its rows as a child of `parent`, and the header row in `box`; gives the list. */
+    Evas_Object* m_CreateWindowContent(Evas_Object* parent, Evas_Object* box) override;
     void m_CreateListHeader(std::string headerEntry, Evas_Object* box);
     void m_PopulateList(Evas_Object* genlist, Elm_Genlist_Item_Class* itemClass);
 
@@ -61,7 +61,10 @@ protected:
     bool m_firstRowHeader;
 
 private:
-    void m_FocusWhenAllRealised();
+    /** Focuses the list when every row is realised; false when no row is. */
+    bool m_FocusIfAllRealised();
+
+    Screen* m_Screen();
 };
 
 } // namespace VESKAR_APP

@@ -26,7 +26,6 @@ public:
 
 protected:
     bool t_Show() override;
-    Evas_Object* m_CreateWindowContent(Evas_Object* parent, Evas_Object* box) override;
 
     static Evas_Object* s_CreateMenuList(Evas_Object* parent);
     static Elm_Genlist_Item_Class* s_CreateListItemTemplate();

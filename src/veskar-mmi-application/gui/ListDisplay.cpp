@@ -1,0 +1,191 @@
+#include "ListDisplay.h"
+
+#include "EflGuard.h"
+#include "Handles.h"
+#include "ImageListPopup.h"
+#include "ListRow.h"
+#include "ListWindow.h"
+#include "MultipleListWindow.h"
+#include "ScaledSize.h"
+
+namespace VESKAR_APP
+{
+
+namespace
+{
+
+constexpr int HEADER_HEIGHT = 30;
+
+struct FreeItemClass
+{
+    void operator()(Elm_Genlist_Item_Class* itemClass) const { EFL_GUARD(elm_genlist_item_class_free, itemClass); }
+};
+
+using ItemClass = std::unique_ptr<Elm_Genlist_Item_Class, FreeItemClass>;
+
+void DeleteItem(Elm_Object_Item* item)
+{
+    EFL_GUARD(elm_object_item_del, item);
+}
+
+} // namespace
+
+#define LOG_AT(level, stream) VESKAR_LOG_STREAM((level).priority, (level).format, stream)
+
+template <class Screen>
+ListDisplay<Screen>::ListDisplay(IUserInteraction& userInteraction, bool selectable, Evas_Object* mainWindow)
+    : BaseDisplay(userInteraction, mainWindow, {}, "C_PopupBasic_WhiteBottomLarge", true), m_menuList(nullptr),
+      m_selectable(selectable), m_firstRowHeader(false)
+{
+    LOG_ENTRY();
+}
+
+template <class Screen>
+ListDisplay<Screen>::~ListDisplay() = default;
+
+template <class Screen>
+void ListDisplay<Screen>::m_StoreMenuInformation(const std::string& title, const std::string& subTitle,
+                                                 const std::string& bottom, const std::string& format,
+                                                 bool firstRowHeader, const std::vector<std::string>& entries,
+                                                 const std::vector<std::string>& buttons)
+{
+    t_SetTitle(title);
+    t_SetSubtitle(subTitle);
+    t_SetBottomText(bottom);
+    m_format = format;
+    m_firstRowHeader = firstRowHeader;
+    m_entries = entries;
+    t_buttonLabels = buttons;
+    LOG_INFO("Menu title = " << title);
+    LOG_INFO("Menu subTitle = " << subTitle);
+    LOG_INFO("Menu bottom = " << bottom);
+    Screen::s_numColumns = ColumnCount(format);
+}
+
+template <class Screen>
+Evas_Object* ListDisplay<Screen>::m_CreateWindowContent(Evas_Object* parent, Evas_Object* box)
+{
+    LOG_ENTRY();
+    m_menuList = Screen::s_CreateMenuList(parent);
+    const ItemClass itemClass(Screen::s_CreateListItemTemplate());
+    if (m_firstRowHeader && !m_entries.empty())
+    {
+        m_CreateListHeader(m_entries.front(), box);
+    }
+    m_PopulateList(m_menuList, itemClass.get());
+    EFL_GUARD(evas_object_show, m_menuList);
+    return m_menuList;
+}
+
+template <class Screen>
+void ListDisplay<Screen>::m_CreateListHeader(std::string headerEntry, Evas_Object* box)
+{
+    headerEntry = RowData(m_format, headerEntry);
+    Evas_Object* row = Screen::s_ContentGet(headerEntry.data(), box, HEADER_PART);
+    if (row == nullptr)
+    {
+        return;
+    }
+    EFL_GUARD(evas_object_size_hint_min_set, row, ScaledSize(Screen::HEADER_WIDTH), ScaledSize(HEADER_HEIGHT));
+    EFL_GUARD(elm_box_pack_end, box, row);
+}
+
+template <class Screen>
+void ListDisplay<Screen>::m_PopulateList(Evas_Object* genlist, Elm_Genlist_Item_Class* itemClass)
+{
+    m_menuItems.clear();
+    std::string spoken;
+    bool isHeader = m_firstRowHeader;
+    for (std::string& entry : m_entries)
+    {
+        spoken += entry + ", ";
+        entry = RowData(m_format, entry);
+        if (isHeader)
+        {
+            LOG_AT(Screen::TRACE, "Skipping the header: " << entry);
+            isHeader = false;
+            continue;
+        }
+        LOG_AT(Screen::TRACE, "Adding to the body: " << entry);
+        Elm_Object_Item* item = EFL_GUARD(elm_genlist_item_append, genlist, itemClass, entry.c_str(), nullptr,
+                                          ELM_GENLIST_ITEM_NONE, Screen::s_OnMenuItemClicked, m_Screen());
+        if (item != nullptr)
+        {
+            m_menuItems.emplace_back(item, DeleteItem);
+        }
+    }
+    t_SetTTSText(spoken, nullptr);
+    LOG_AT(Screen::TRACE, "Finished adding data to the list.");
+}
+
+template <class Screen>
+int ListDisplay<Screen>::GetFocusElement(const Evas_Object* genlist)
+{
+    Elm_Object_Item* item = EFL_GUARD(elm_genlist_selected_item_get, genlist);
+    if (item == nullptr)
+    {
+        LOG_ERROR("selected_genlist_item == NULL");
+    }
+    // Without an item the toolkit answers -1, and that is what is reported.
+    const int index = EFL_GUARD(elm_genlist_item_index_get, item);
+    LOG_INFO("Selected item index from genlist: " << index);
+    return index;
+}
+
+template <class Screen>
+void ListDisplay<Screen>::SetFocusToList(bool firstElement)
+{
+    LOG_ENTRY();
+    if (m_menuItems.empty())
+    {
+        LOG_ERROR("m_menuItems.empty()");
+        return;
+    }
+    if (!m_FocusIfAllRealised())
+    {
+        EFL_GUARD(evas_object_smart_callback_add, m_menuList, "realized", s_OnItemRealized, m_Screen());
+    }
+    if (firstElement)
+    {
+        LOG_ERROR("SetFocusToList, firstElement=true, mfocus set to zero");
+        return;
+    }
+    LOG_ERROR("SetFocusToList, firstElement=false, mfocus substract from m_menuItems.size m_menuItems.size = "
+              << m_menuItems.size());
+}
+
+template <class Screen>
+void ListDisplay<Screen>::s_OnItemRealized(void* data, Evas_Object* /*object*/, void* /*eventInfo*/)
+{
+    LOG_ENTRY();
+    if (data == nullptr)
+    {
+        LOG_AT(Screen::FAULT, " pthis == NULL");
+        return;
+    }
+    static_cast<Screen*>(data)->m_FocusIfAllRealised();
+}
+
+template <class Screen>
+bool ListDisplay<Screen>::m_FocusIfAllRealised()
+{
+    const EinaList realized(EFL_GUARD(elm_genlist_realized_items_get, m_menuList));
+    if (EFL_GUARD(eina_list_count, realized.get()) == m_menuItems.size())
+    {
+        LOG_WARN("Found all realised item(s). Now focusing on the menu.");
+        EFL_GUARD(elm_object_focus_set, m_menuList, EINA_TRUE);
+    }
+    return realized != nullptr;
+}
+
+template <class Screen>
+Screen* ListDisplay<Screen>::m_Screen()
+{
+    return static_cast<Screen*>(this);
+}
+
+template class ListDisplay<ListWindow>;
+template class ListDisplay<MultipleListWindow>;
+template class ListDisplay<ImageListPopup>;
+
+} // namespace VESKAR_APP

@@ -1,0 +1,137 @@
+#include "ListRow.h"
+
+#include "BaseDisplay.h"
+#include "EflGuard.h"
+#include "Log.h"
+#include "Markup.h"
+#include "ScaledSize.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+#include <vector>
+
+namespace VESKAR_APP
+{
+
+namespace
+{
+
+constexpr int MAX_COLUMNS = 8;
+constexpr int BODY_WIDTH = 1154;
+constexpr int LOGGED_WIDTH = 1217;
+constexpr int CELL_HEIGHT = 36;
+
+struct Row
+{
+    std::string format;
+    std::vector<std::string> cells;
+};
+
+/** What follows the last tab is no cell. */
+Row Split(std::string_view rowData)
+{
+    std::vector<std::string> tokens;
+    for (std::size_t tab = rowData.find('\t'); tab != std::string_view::npos; tab = rowData.find('\t'))
+    {
+        tokens.emplace_back(rowData.substr(0, tab));
+        rowData.remove_prefix(tab + 1);
+    }
+    if (tokens.empty())
+    {
+        return {};
+    }
+    Row row{std::move(tokens.front()), {}};
+    row.cells.assign(std::make_move_iterator(tokens.begin() + 1), std::make_move_iterator(tokens.end()));
+    return row;
+}
+
+const char* Alignment(const std::string& format, std::size_t column)
+{
+    switch (column < format.size() ? format[column] : 'L')
+    {
+    case 'C':
+        return "center";
+    case 'R':
+        return "right";
+    default:
+        return "left";
+    }
+}
+
+std::string CellMarkup(const std::string& cell, const char* alignment, bool header)
+{
+    const std::string fontSize = std::to_string(BaseDisplay::s_TextFontSize());
+    const std::string colour = BaseDisplay::s_TextColour();
+    std::string text = std::string("<align=") + alignment + ">" + ToMarkup(cell) + "</align>";
+    if (header)
+    {
+        LOG_DEBUG("Applying the header style.");
+        text = "<b>" + text + "</b>";
+    }
+    return "<color=" + colour + "><font=Sans:style=Regular font_size=" + fontSize + ">" + text + "</font></color>";
+}
+
+} // namespace
+
+std::string RowData(const std::string& format, const std::string& entry)
+{
+    return format + "\t" + entry + "\t";
+}
+
+int ColumnCount(const std::string& format)
+{
+    return static_cast<int>(std::clamp<std::size_t>(format.size(), 1, MAX_COLUMNS));
+}
+
+Evas_Object* CreateRow(const char* rowData, Evas_Object* parent, const char* part, int numColumns)
+{
+    LOG_DEBUG("Part = " << part);
+    const bool header = std::strcmp(part, HEADER_PART) == 0;
+    if (!header && std::strcmp(part, BODY_PART) != 0)
+    {
+        LOG_DEBUG("Not displaying " << part << " in the menu currently.");
+        return nullptr;
+    }
+    Evas_Object* box = EFL_GUARD(elm_box_add, parent);
+    EFL_GUARD(elm_box_horizontal_set, box, EINA_TRUE);
+
+    const Row row = Split(rowData);
+    const int cellWidth = ScaledSize(BODY_WIDTH) / numColumns;
+    const int cellHeight = ScaledSize(CELL_HEIGHT);
+    for (std::size_t column = 0; column < row.cells.size(); ++column)
+    {
+        Evas_Object* label = EFL_GUARD(elm_label_add, parent);
+        EFL_GUARD(elm_label_line_wrap_set, label, ELM_WRAP_WORD);
+        EFL_GUARD(elm_label_wrap_width_set, label, cellWidth);
+        // The width told is that of a whole row with its margins; the cells share the narrower body.
+        LOG_DEBUG("Scaled max label width: " << ScaledSize(LOGGED_WIDTH) << ", Number of columns: " << numColumns);
+        const std::string markup = CellMarkup(row.cells[column], Alignment(row.format, column), header);
+
+        const MainLoopSection section;
+        elm_object_part_text_set(label, nullptr, markup.c_str());
+        evas_object_size_hint_min_set(label, cellWidth, cellHeight);
+        elm_box_pack_end(box, label);
+        evas_object_size_hint_align_set(label, EVAS_HINT_FILL, 0.5);
+        evas_object_show(label);
+    }
+    EFL_GUARD(elm_box_recalculate, box);
+    EFL_GUARD(evas_object_size_hint_weight_set, box, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
+    EFL_GUARD(evas_object_show, box);
+    LOG_DEBUG("Returning a row.");
+    return box;
+}
+
+char* CreateRowText(const char* rowData, const char* part)
+{
+    LOG_INFO("s_TextGet part =  " << part);
+    std::string text;
+    for (const std::string& cell : Split(rowData).cells)
+    {
+        text += ToMarkup(cell);
+    }
+    LOG_INFO("Setting text  " << text);
+    return strdup(text.c_str());
+}
+
+} // namespace VESKAR_APP

@@ -1,0 +1,32 @@
+#include "MenuList.h"
+
+#include "EflGuard.h"
+#include "Log.h"
+
+namespace VESKAR_APP
+{
+
+Evas_Object* AddMenuList(Evas_Object* parent)
+{
+    Evas_Object* list = EFL_GUARD(elm_genlist_add, parent);
+    if (list == nullptr)
+    {
+        LOG_ERROR("Unable to create menu list");
+    }
+    return list;
+}
+
+void ApplyMenuListLook(Evas_Object* list)
+{
+    elm_genlist_mode_set(list, ELM_LIST_SCROLL);
+    elm_object_style_set(list, "C_Scrollbar_White");
+    elm_scroller_policy_set(list, ELM_SCROLLER_POLICY_OFF, ELM_SCROLLER_POLICY_ON);
+}
+
+void SwitchFocusHighlightOn()
+{
+    elm_config_focus_highlight_enabled_set(EINA_TRUE);
+    elm_config_focus_highlight_animate_set(EINA_TRUE);
+}
+
+} // namespace VESKAR_APP
