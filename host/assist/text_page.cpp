@@ -1,0 +1,265 @@
+#include "ea.h"
+
+#include <Ecore.h>
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+constexpr char dataKey[] = "veskar_text_page";
+
+struct FreeText
+{
+    void operator()(char* text) const { std::free(text); }
+};
+
+struct FreeStyle
+{
+    void operator()(Evas_Textblock_Style* style) const { evas_textblock_style_free(style); }
+};
+
+using StyleHandle = std::unique_ptr<Evas_Textblock_Style, FreeStyle>;
+
+/** A plain container that moves, shows and clips what is in it; the toolkit has none that leaves sizes alone. */
+Evas_Object* AddCanvas(Evas* evas)
+{
+    static Evas_Smart* const smart = []
+    {
+        static Evas_Smart_Class definition = EVAS_SMART_CLASS_INIT_NAME_VERSION("veskar_text_canvas");
+        evas_object_smart_clipped_smart_set(&definition);
+        return evas_smart_class_new(&definition);
+    }();
+    return evas_object_smart_add(evas, smart);
+}
+
+/**
+ * A text in a scroller, shown page by page. The scroller's content is as many views high as there are pages; the text
+ * is moved along with the page shown and clipped to that page's own lines, so that no line is ever cut in half.
+ * Lives on the scroller as its data and goes with it.
+ */
+class TextPage
+{
+public:
+    explicit TextPage(Evas_Object* scroller);
+    ~TextPage();
+    TextPage(const TextPage&) = delete;
+    TextPage& operator=(const TextPage&) = delete;
+
+    static TextPage* Of(const Evas_Object* object)
+    {
+        return static_cast<TextPage*>(evas_object_data_get(object, dataKey));
+    }
+
+    void SetText(const char* markup);
+    void SetStyle(StyleHandle style);
+    void Show(int page);
+    int Current() const { return m_current; }
+    int Total() const { return static_cast<int>(m_pages.size()); }
+
+private:
+    struct Page
+    {
+        int top;
+        int height;
+    };
+
+    void m_UpdateLater();
+    void m_Update();
+    std::vector<Page> m_BreakIntoPages() const;
+    void m_Place();
+    void m_Indicate();
+
+    Evas_Object* m_scroller;
+    Evas_Object* m_content;
+    Evas_Object* m_text;
+    Evas_Object* m_clip;
+    StyleHandle m_style;
+    std::vector<Page> m_pages;
+    int m_viewWidth = 0;
+    int m_viewHeight = 0;
+    int m_current = 0;
+    Ecore_Job* m_pending = nullptr;
+};
+
+TextPage::TextPage(Evas_Object* scroller)
+    : m_scroller(scroller), m_content(AddCanvas(evas_object_evas_get(scroller))),
+      m_text(evas_object_textblock_add(evas_object_evas_get(scroller))),
+      m_clip(evas_object_rectangle_add(evas_object_evas_get(scroller)))
+{
+    evas_object_smart_member_add(m_clip, m_content);
+    evas_object_smart_member_add(m_text, m_content);
+    evas_object_clip_set(m_text, m_clip);
+    evas_object_show(m_clip);
+    evas_object_show(m_text);
+    elm_object_content_set(m_scroller, m_content);
+
+    // The view's size is known once the scroller has laid itself out, which is after it tells of its own resize.
+    const auto resized = [](void* data, Evas*, Evas_Object*, void*)
+    {
+        static_cast<TextPage*>(data)->m_UpdateLater();
+    };
+    const auto gone = [](void* data, Evas*, Evas_Object*, void*)
+    {
+        delete static_cast<TextPage*>(data);
+    };
+    evas_object_event_callback_add(m_scroller, EVAS_CALLBACK_RESIZE, resized, this);
+    evas_object_event_callback_add(m_content, EVAS_CALLBACK_RESIZE, resized, this);
+    evas_object_event_callback_add(m_scroller, EVAS_CALLBACK_DEL, gone, this);
+    evas_object_data_set(m_scroller, dataKey, this);
+}
+
+TextPage::~TextPage()
+{
+    evas_object_data_del(m_scroller, dataKey);
+    // The textblock goes before the style that it was given.
+    evas_object_del(m_text);
+    if (m_pending)
+    {
+        ecore_job_del(m_pending);
+    }
+}
+
+void TextPage::SetText(const char* markup)
+{
+    evas_object_textblock_text_markup_set(m_text, markup);
+    m_current = 0;
+    m_Update();
+}
+
+void TextPage::SetStyle(StyleHandle style)
+{
+    evas_object_textblock_style_set(m_text, style.get());
+    m_style = std::move(style);
+    m_Update();
+}
+
+void TextPage::Show(int page)
+{
+    if (page < 0 || page >= Total())
+    {
+        return;
+    }
+    m_current = page;
+    m_Place();
+}
+
+void TextPage::m_UpdateLater()
+{
+    if (m_pending)
+    {
+        return;
+    }
+    const auto update = [](void* data)
+    {
+        auto* self = static_cast<TextPage*>(data);
+        self->m_pending = nullptr;
+        self->m_Update();
+    };
+    m_pending = ecore_job_add(update, this);
+}
+
+void TextPage::m_Update()
+{
+    elm_scroller_region_get(m_scroller, nullptr, nullptr, &m_viewWidth, &m_viewHeight);
+    evas_object_resize(m_text, m_viewWidth, m_viewHeight);
+    m_pages = m_BreakIntoPages();
+    m_current = std::clamp(m_current, 0, std::max(Total() - 1, 0));
+    evas_object_size_hint_min_set(m_content, 0, m_viewHeight * Total());
+    m_Place();
+}
+
+std::vector<TextPage::Page> TextPage::m_BreakIntoPages() const
+{
+    std::vector<Page> pages;
+    int top = 0;
+    int height = 0;
+    for (int line = 0; evas_object_textblock_line_number_geometry_get(m_text, line, nullptr, &top, nullptr, &height);
+         ++line)
+    {
+        const int bottom = top + height;
+        if (pages.empty() || bottom - pages.back().top > m_viewHeight)
+        {
+            pages.push_back({top, height});
+        }
+        pages.back().height = bottom - pages.back().top;
+    }
+    return pages;
+}
+
+void TextPage::m_Place()
+{
+    if (m_pages.empty())
+    {
+        return;
+    }
+    const Page& page = m_pages[m_current];
+    const int viewTop = m_current * m_viewHeight;
+    int x = 0;
+    int y = 0;
+    evas_object_geometry_get(m_content, &x, &y, nullptr, nullptr);
+    evas_object_geometry_set(m_text, x, y + viewTop - page.top, m_viewWidth, page.top + page.height);
+    evas_object_geometry_set(m_clip, x, y + viewTop, m_viewWidth, page.height);
+    elm_scroller_region_show(m_scroller, 0, viewTop, m_viewWidth, m_viewHeight);
+    m_Indicate();
+}
+
+void TextPage::m_Indicate()
+{
+    const std::string indicator =
+        Total() > 1 ? std::to_string(m_current + 1) + "/" + std::to_string(Total()) : std::string();
+    elm_object_part_text_set(m_scroller, "veskar.text.page", indicator.c_str());
+}
+
+} // namespace
+
+Evas_Object* ea_textpage_add(Evas_Object* parent)
+{
+    Evas_Object* scroller = elm_scroller_add(parent);
+    if (scroller)
+    {
+        new TextPage(scroller);
+    }
+    return scroller;
+}
+
+void ea_textpage_text_set(Evas_Object* page, char* text)
+{
+    const std::unique_ptr<char, FreeText> owned(text);
+    if (TextPage* self = TextPage::Of(page))
+    {
+        self->SetText(text);
+    }
+}
+
+void ea_textpage_page_show(Evas_Object* page, int number)
+{
+    if (TextPage* self = TextPage::Of(page))
+    {
+        self->Show(number);
+    }
+}
+
+int ea_textpage_current_page_get(const Evas_Object* page)
+{
+    const TextPage* self = TextPage::Of(page);
+    return self ? self->Current() : 0;
+}
+
+int ea_textpage_total_page_get(const Evas_Object* page)
+{
+    const TextPage* self = TextPage::Of(page);
+    return self ? self->Total() : 0;
+}
+
+void ea_textpage_textblock_style_set(Evas_Object* page, Evas_Textblock_Style* style)
+{
+    StyleHandle owned(style);
+    if (TextPage* self = TextPage::Of(page))
+    {
+        self->SetStyle(std::move(owned));
+    }
+}
