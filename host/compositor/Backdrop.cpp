@@ -1,0 +1,74 @@
+#include "Backdrop.h"
+
+#include "Landscape.h"
+#include "Outputs.h"
+
+namespace veskar
+{
+
+namespace
+{
+
+void setRegion(pixman_region32_t& region, int width, int height)
+{
+    pixman_region32_fini(&region);
+    pixman_region32_init_rect(&region, 0, 0, static_cast<unsigned>(width), static_cast<unsigned>(height));
+}
+
+} // namespace
+
+Backdrop::Backdrop(weston_compositor* compositor, std::function<void()> shown)
+    : m_compositor(compositor), m_shown(std::move(shown)),
+      m_pictures(compositor->wl_display, drawLandscape,
+                 [this](wl_resource* buffer, int width, int height) { show(buffer, width, height); }),
+      m_outputCreated(compositor->output_created_signal, [this](void*) { redraw(); }),
+      m_outputResized(compositor->output_resized_signal, [this](void*) { redraw(); })
+{
+    weston_layer_init(&m_layer, compositor);
+    // The shell's own background lies at BACKGROUND.
+    weston_layer_set_position(&m_layer, static_cast<weston_layer_position>(WESTON_LAYER_POSITION_BACKGROUND + 1));
+    redraw();
+}
+
+Backdrop::~Backdrop()
+{
+    clear();
+    weston_layer_fini(&m_layer);
+}
+
+void Backdrop::redraw()
+{
+    if (const weston_output* output = firstOutput(m_compositor))
+    {
+        m_pictures.request(output->width, output->height);
+    }
+}
+
+void Backdrop::show(wl_resource* buffer, int width, int height)
+{
+    clear();
+    m_surface = weston_surface_create(m_compositor);
+    weston_view* view = weston_view_create(m_surface);
+    m_compositor->renderer->attach(m_surface, weston_buffer_from_resource(buffer));
+    weston_surface_set_size(m_surface, width, height);
+    setRegion(m_surface->opaque, width, height);
+    setRegion(m_surface->input, 0, 0); // a click is for nobody
+    m_surface->is_mapped = true;
+    view->is_mapped = true;
+    weston_view_set_position(view, 0, 0);
+    weston_layer_entry_insert(&m_layer.view_list, &view->layer_link);
+    weston_surface_damage(m_surface);
+    weston_compositor_schedule_repaint(m_compositor);
+    m_shown();
+}
+
+void Backdrop::clear()
+{
+    if (m_surface != nullptr)
+    {
+        weston_surface_destroy(m_surface); // and its view
+        m_surface = nullptr;
+    }
+}
+
+} // namespace veskar

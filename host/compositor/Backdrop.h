@@ -1,0 +1,34 @@
+/** The programme that is "on": a still picture below all windows, on the first output. */
+#pragma once
+
+#include "Listener.h"
+#include "PictureClient.h"
+
+namespace veskar
+{
+
+class Backdrop
+{
+public:
+    /** `shown` is called whenever the picture has come on, the first time soon after the event loop starts. */
+    Backdrop(weston_compositor* compositor, std::function<void()> shown);
+    ~Backdrop();
+
+    Backdrop(const Backdrop&) = delete;
+    Backdrop& operator=(const Backdrop&) = delete;
+
+private:
+    void redraw();
+    void show(wl_resource* buffer, int width, int height);
+    void clear();
+
+    weston_compositor* m_compositor;
+    std::function<void()> m_shown;
+    weston_layer m_layer{};
+    weston_surface* m_surface = nullptr;
+    PictureClient m_pictures;
+    Listener m_outputCreated;
+    Listener m_outputResized;
+};
+
+} // namespace veskar

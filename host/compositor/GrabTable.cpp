@@ -1,0 +1,75 @@
+#include "GrabTable.h"
+
+#include <algorithm>
+
+namespace veskar
+{
+
+namespace
+{
+
+bool isRegistration(GrabMode mode)
+{
+    return mode == GrabMode::Registered;
+}
+
+} // namespace
+
+const char* nameOf(GrabMode mode)
+{
+    switch (mode)
+    {
+    case GrabMode::Topmost:
+        return "topmost";
+    case GrabMode::Exclusive:
+        return "exclusive";
+    case GrabMode::Registered:
+        return "registered";
+    }
+    return "unknown";
+}
+
+bool GrabTable::add(wl_client* client, weston_surface* surface, const Key& key, GrabMode mode)
+{
+    const weston_surface* holder = exclusiveHolder(key);
+    if (mode == GrabMode::Exclusive && holder != nullptr && holder != surface)
+    {
+        return false;
+    }
+    m_grabs.remove_if(
+        [&](const Grab& grab)
+        { return grab.surface == surface && grab.key == &key && isRegistration(grab.mode) == isRegistration(mode); });
+    m_grabs.push_back({surface, client, &key, mode, nullptr});
+    const auto added = std::prev(m_grabs.end());
+    added->surfaceGone =
+        std::make_unique<Listener>(surface->destroy_signal, [this, added](void*) { m_grabs.erase(added); });
+    return true;
+}
+
+void GrabTable::remove(weston_surface* surface, const Key& key, GrabMode mode)
+{
+    m_grabs.remove_if([&](const Grab& grab)
+                      { return grab.surface == surface && grab.key == &key && grab.mode == mode; });
+}
+
+void GrabTable::removeClient(wl_client* client)
+{
+    m_grabs.remove_if([client](const Grab& grab) { return grab.client == client; });
+}
+
+bool GrabTable::holds(weston_surface* surface, const Key& key, GrabMode mode) const
+{
+    return std::any_of(m_grabs.begin(), m_grabs.end(),
+                       [&](const Grab& grab)
+                       { return grab.surface == surface && grab.key == &key && grab.mode == mode; });
+}
+
+weston_surface* GrabTable::exclusiveHolder(const Key& key) const
+{
+    const auto found =
+        std::find_if(m_grabs.begin(), m_grabs.end(),
+                     [&key](const Grab& grab) { return grab.key == &key && grab.mode == GrabMode::Exclusive; });
+    return found == m_grabs.end() ? nullptr : found->surface;
+}
+
+} // namespace veskar

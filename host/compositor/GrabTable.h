@@ -1,0 +1,59 @@
+/** Who asked for which key. A surface's grabs end with the surface. */
+#pragma once
+
+#include "KeyTable.h"
+#include "Listener.h"
+
+#include <list>
+#include <memory>
+
+namespace veskar
+{
+
+/** The values are the key router protocol's. */
+enum class GrabMode
+{
+    Topmost = 2,
+    Exclusive = 4,
+    Registered = 5
+};
+
+const char* nameOf(GrabMode mode);
+
+struct Grab
+{
+    weston_surface* surface;
+    wl_client* client;
+    const Key* key;
+    GrabMode mode;
+    std::unique_ptr<Listener> surfaceGone;
+};
+
+class GrabTable
+{
+public:
+    /**
+     * False when another surface holds the key exclusively and exclusiveness is asked for. A surface has at most one
+     * registration of a key, and beside it at most one grab in one of the other two modes: the newer replaces the
+     * older.
+     */
+    bool add(wl_client* client, weston_surface* surface, const Key& key, GrabMode mode);
+
+    /** Nothing happens where there is no such grab. */
+    void remove(weston_surface* surface, const Key& key, GrabMode mode);
+
+    /** Ends every grab of this client; to be called before the client is gone. */
+    void removeClient(wl_client* client);
+
+    bool holds(weston_surface* surface, const Key& key, GrabMode mode) const;
+
+    /** The surface that holds the key exclusively, or null. */
+    weston_surface* exclusiveHolder(const Key& key) const;
+
+    const std::list<Grab>& all() const { return m_grabs; }
+
+private:
+    std::list<Grab> m_grabs;
+};
+
+} // namespace veskar

@@ -1,0 +1,32 @@
+/** The Wayland global through which clients ask for keys. */
+#pragma once
+
+#include "GrabTable.h"
+
+#include <vector>
+
+namespace veskar
+{
+
+class KeyRouter
+{
+public:
+    /** `grabs` must outlive this object. */
+    KeyRouter(wl_display* display, GrabTable& grabs);
+    ~KeyRouter();
+
+    KeyRouter(const KeyRouter&) = delete;
+    KeyRouter& operator=(const KeyRouter&) = delete;
+
+    GrabTable& grabs() { return m_grabs; }
+
+private:
+    static void bind(wl_client* client, void* self, uint32_t version, uint32_t id);
+    static void unbind(wl_resource* resource);
+
+    GrabTable& m_grabs;
+    wl_global* m_global;
+    std::vector<wl_resource*> m_bound;
+};
+
+} // namespace veskar

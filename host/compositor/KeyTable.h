@@ -1,0 +1,38 @@
+/**
+ * Every key of the remote control: its platform name, the code under which the compositor sends it and the symbol that
+ * the generated keymap gives it.
+ *
+ * The codes lie above those of any real keyboard, so that an injected key is never taken for a typed one.
+ */
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace veskar
+{
+
+struct Key
+{
+    const char* name;
+    uint32_t code;
+    uint32_t symbol;
+};
+
+const std::vector<Key>& allKeys();
+
+/** Null when there is no such key. */
+const Key* keyByCode(uint32_t code);
+
+/** By platform name only. */
+const Key* keyByName(std::string_view name);
+
+/** By platform name, or by the part of it that a person would type ("Back", "more", "play"). */
+const Key* keyByShortName(std::string_view name);
+
+/** An XKB keymap (text format 1) in which each key's code gives its symbol; it depends on no installed XKB data. */
+std::string keymapText();
+
+} // namespace veskar

@@ -1,0 +1,61 @@
+/**
+ * A client inside the compositor, whose only purpose is to own pictures.
+ *
+ * The renderer draws nothing but clients' shared-memory buffers, and only a client's requests can make one. Both ends
+ * of this client's connection are served by the compositor's own event loop, so nothing here may wait for the other
+ * end.
+ */
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+#include <wayland-server-core.h>
+
+struct wl_buffer;
+struct wl_callback;
+struct wl_registry;
+struct wl_shm;
+
+namespace veskar
+{
+
+class PictureClient
+{
+public:
+    using Draw = std::function<std::vector<uint32_t>(int width, int height)>;
+    /** The buffer belongs to this client and lives until the next one is ready. */
+    using Ready = std::function<void(wl_resource* buffer, int width, int height)>;
+
+    /** Throws std::system_error. `draw` gives rows from the top, 0x00RRGGBB. */
+    PictureClient(wl_display* server, Draw draw, Ready ready);
+    ~PictureClient();
+
+    PictureClient(const PictureClient&) = delete;
+    PictureClient& operator=(const PictureClient&) = delete;
+
+    /** `ready` is called later, from the event loop; a newer request replaces one that is still under way. */
+    void request(int width, int height);
+
+private:
+    static int onReadable(int fd, uint32_t mask, void* self);
+    static void onGlobal(void* self, wl_registry* registry, uint32_t name, const char* interface, uint32_t version);
+    static void onBufferMade(void* self, wl_callback* callback, uint32_t serial);
+
+    void makeBuffer();
+
+    Draw m_draw;
+    Ready m_ready;
+    wl_client* m_serverEnd = nullptr;
+    wl_display* m_clientEnd = nullptr;
+    wl_event_source* m_source = nullptr;
+    wl_registry* m_registry = nullptr;
+    wl_shm* m_shm = nullptr;
+    wl_buffer* m_shown = nullptr;
+    wl_buffer* m_making = nullptr;
+    wl_callback* m_made = nullptr;
+    int m_width = 0;
+    int m_height = 0;
+};
+
+} // namespace veskar

@@ -1,0 +1,86 @@
+#include "RemoteClient.h"
+
+#include <cerrno>
+#include <cstring>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace veskar
+{
+
+namespace
+{
+
+constexpr const char* REFUSED = "error ";
+
+int connectTo(const std::string& path)
+{
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (path.empty() || path.size() >= sizeof address.sun_path)
+    {
+        throw RemoteUnreachable(path.empty() ? "no compositor is known" : path + ": the name is too long");
+    }
+    std::memcpy(address.sun_path, path.c_str(), path.size());
+    const int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (fd < 0 || connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) < 0)
+    {
+        const std::string reason = std::strerror(errno);
+        close(fd);
+        throw RemoteUnreachable(path + ": " + reason);
+    }
+    return fd;
+}
+
+} // namespace
+
+RemoteClient::RemoteClient(const std::string& path) : m_fd(connectTo(path)) {}
+
+RemoteClient::~RemoteClient()
+{
+    close(m_fd);
+}
+
+std::vector<std::string> RemoteClient::ask(const std::string& command)
+{
+    const std::string line = command + "\n";
+    if (send(m_fd, line.data(), line.size(), MSG_NOSIGNAL) != static_cast<ssize_t>(line.size()))
+    {
+        throw RemoteUnreachable("the compositor has gone");
+    }
+    std::vector<std::string> lines;
+    for (;;)
+    {
+        const std::string reply = readLine();
+        if (reply == "ok")
+        {
+            return lines;
+        }
+        if (reply.compare(0, std::strlen(REFUSED), REFUSED) == 0)
+        {
+            throw RemoteRefusal(reply.substr(std::strlen(REFUSED)));
+        }
+        lines.push_back(reply.substr(1));
+    }
+}
+
+std::string RemoteClient::readLine()
+{
+    size_t end;
+    while ((end = m_received.find('\n')) == std::string::npos)
+    {
+        char block[4096];
+        const ssize_t count = recv(m_fd, block, sizeof block, 0);
+        if (count <= 0)
+        {
+            throw RemoteUnreachable("the compositor has gone");
+        }
+        m_received.append(block, static_cast<size_t>(count));
+    }
+    const std::string line = m_received.substr(0, end);
+    m_received.erase(0, end + 1);
+    return line;
+}
+
+} // namespace veskar

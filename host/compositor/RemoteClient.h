@@ -1,0 +1,43 @@
+/** A program's end of the remote control's socket. Blocking; not for several threads at once. */
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace veskar
+{
+
+/** There is no compositor at the other end, or no longer. */
+struct RemoteUnreachable : std::runtime_error
+{
+    using std::runtime_error::runtime_error;
+};
+
+/** The compositor would not do it, and says why. */
+struct RemoteRefusal : std::runtime_error
+{
+    using std::runtime_error::runtime_error;
+};
+
+class RemoteClient
+{
+public:
+    /** Throws RemoteUnreachable. */
+    explicit RemoteClient(const std::string& path);
+    ~RemoteClient();
+
+    RemoteClient(const RemoteClient&) = delete;
+    RemoteClient& operator=(const RemoteClient&) = delete;
+
+    /** Sends one command line and waits for its reply's lines. Throws RemoteRefusal and RemoteUnreachable. */
+    std::vector<std::string> ask(const std::string& command);
+
+private:
+    std::string readLine();
+
+    int m_fd;
+    std::string m_received;
+};
+
+} // namespace veskar

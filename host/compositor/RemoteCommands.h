@@ -1,0 +1,21 @@
+/**
+ * What the remote control's socket understands:
+ *
+ *     press KEY…   each key down and up        keys    every key's platform name
+ *     down KEY     hold it                     grabs   for each grab: key, mode, process id, program
+ *     up KEY       let it go                   shot PATH   the screen as a PNG; answered when the file is complete
+ */
+#pragma once
+
+#include "GrabTable.h"
+#include "RemoteSocket.h"
+#include "Screenshot.h"
+#include "Seat.h"
+
+namespace veskar
+{
+
+/** Everything given must outlive the socket. */
+void setRemoteCommands(RemoteSocket& socket, Seat& seat, const GrabTable& grabs, Screenshots& screenshots);
+
+} // namespace veskar

@@ -1,0 +1,58 @@
+/**
+ * The socket of the remote control: commands in, replies out, one line each.
+ *
+ * A reply is any number of lines that start with a space, then a line "ok" or "error WHAT". A client may send its next
+ * command before the reply has come; it is taken up after that.
+ */
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+#include <wayland-server-core.h>
+
+namespace veskar
+{
+
+struct RemoteReply
+{
+    std::vector<std::string> lines;
+    std::string error; // empty: all is well
+};
+
+/** To be called once, at once or later. The client may be gone by then. */
+using RemoteAnswer = std::function<void(const RemoteReply&)>;
+
+/** `words` is what follows the command's name in its line. */
+using RemoteCommand = std::function<void(const std::string& words, const RemoteAnswer& answer)>;
+
+class RemoteSocket
+{
+public:
+    /** Throws std::system_error when it cannot listen at `path`. A socket that is left there is replaced. */
+    RemoteSocket(wl_event_loop* loop, const std::string& path);
+    ~RemoteSocket();
+
+    RemoteSocket(const RemoteSocket&) = delete;
+    RemoteSocket& operator=(const RemoteSocket&) = delete;
+
+    void setCommand(const std::string& name, RemoteCommand command) { m_commands[name] = std::move(command); }
+
+private:
+    class Connection;
+
+    static int onConnect(int fd, uint32_t mask, void* self);
+    void run(const std::shared_ptr<Connection>& connection, const std::string& line);
+    void drop(const Connection* connection);
+
+    wl_event_loop* m_loop;
+    std::string m_path;
+    int m_fd;
+    wl_event_source* m_source = nullptr;
+    std::map<std::string, RemoteCommand> m_commands;
+    std::vector<std::shared_ptr<Connection>> m_connections;
+};
+
+} // namespace veskar

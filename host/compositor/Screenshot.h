@@ -1,0 +1,45 @@
+/** Exact pictures of what is on the output, as PNG files. The compositor must draw with pixman. */
+#pragma once
+
+#include "Listener.h"
+
+#include <functional>
+#include <list>
+#include <memory>
+#include <string>
+
+namespace veskar
+{
+
+class Screenshots
+{
+public:
+    /** Called once, with what went wrong or an empty text. */
+    using Done = std::function<void(const std::string& error)>;
+
+    explicit Screenshots(weston_compositor* compositor) : m_compositor(compositor) {}
+    ~Screenshots();
+
+    Screenshots(const Screenshots&) = delete;
+    Screenshots& operator=(const Screenshots&) = delete;
+
+    /** Draws a frame and writes it; the file appears under its name when it is complete. */
+    void take(const std::string& path, Done done);
+
+private:
+    struct Pending
+    {
+        weston_output* output;
+        std::string path;
+        Done done;
+        std::unique_ptr<Listener> frame;
+        std::unique_ptr<Listener> outputGone;
+    };
+
+    void finish(std::list<Pending>::iterator pending, const std::string& error);
+
+    weston_compositor* m_compositor;
+    std::list<Pending> m_pending;
+};
+
+} // namespace veskar

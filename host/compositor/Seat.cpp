@@ -1,0 +1,91 @@
+#include "Seat.h"
+
+#include <stdexcept>
+
+namespace veskar
+{
+
+namespace
+{
+
+weston_seat* firstSeat(weston_compositor* compositor)
+{
+    weston_seat* seat;
+    wl_list_for_each(seat, &compositor->seat_list, link)
+    {
+        return seat;
+    }
+    return nullptr;
+}
+
+xkb_keymap* compileKeymap(xkb_context* context)
+{
+    xkb_keymap* keymap = xkb_keymap_new_from_string(context, keymapText().c_str(), XKB_KEYMAP_FORMAT_TEXT_V1,
+                                                    XKB_KEYMAP_COMPILE_NO_FLAGS);
+    if (keymap == nullptr)
+    {
+        throw std::runtime_error("the remote control's keymap does not compile");
+    }
+    return keymap;
+}
+
+} // namespace
+
+Seat::Seat(weston_compositor* compositor)
+    : m_keymap(compileKeymap(compositor->xkb_context)), m_seat(firstSeat(compositor))
+{
+    if (m_seat == nullptr)
+    {
+        m_own = std::make_unique<weston_seat>();
+        m_seat = m_own.get();
+        weston_seat_init(m_seat, compositor, "remote");
+    }
+    if (keyboard() == nullptr && weston_seat_init_keyboard(m_seat, m_keymap.get()) < 0)
+    {
+        throw std::runtime_error("the seat takes no keyboard");
+    }
+    m_gone = std::make_unique<Listener>(m_seat->destroy_signal,
+                                        [this](void*)
+                                        {
+                                            m_seat = nullptr;
+                                            m_gone.reset();
+                                        });
+    keepKeymap();
+}
+
+Seat::~Seat()
+{
+    m_gone.reset();
+    if (m_own)
+    {
+        weston_seat_release(m_own.get());
+    }
+}
+
+weston_keyboard* Seat::keyboard() const
+{
+    return m_seat == nullptr ? nullptr : m_seat->keyboard_state;
+}
+
+void Seat::keepKeymap()
+{
+    const weston_keyboard* board = keyboard();
+    if (board != nullptr && board->xkb_info->keymap != m_keymap.get())
+    {
+        weston_seat_update_keymap(m_seat, m_keymap.get());
+    }
+}
+
+void Seat::inject(const Key& key, wl_keyboard_key_state state)
+{
+    if (keyboard() == nullptr)
+    {
+        return;
+    }
+    keepKeymap();
+    timespec now;
+    weston_compositor_get_time(&now);
+    notify_key(m_seat, &now, key.code, state, STATE_UPDATE_NONE);
+}
+
+} // namespace veskar

@@ -1,0 +1,115 @@
+/**
+ * The compositor module of a desk TV: a key router, a remote control and a programme behind the windows.
+ *
+ * It expects kiosk-shell and the pixman renderer, and is loaded with --modules=…/veskar-compositor.so. The option
+ * --no-keyrouter (or VESKAR_NO_KEYROUTER=1) leaves the key router out: a TV on which no key can be grabbed.
+ */
+#include "Backdrop.h"
+#include "DeskKeyboard.h"
+#include "KeyRouter.h"
+#include "RemoteCommands.h"
+#include "RemoteSocketPath.h"
+#include "Routing.h"
+
+#include <cstring>
+#include <iostream>
+#include <optional>
+
+namespace veskar
+{
+
+namespace
+{
+
+/** All of the module's parts; each destroyed before what it uses. */
+class Tv
+{
+public:
+    Tv(weston_compositor* compositor, bool withKeyRouter)
+        : m_compositor(compositor), m_seat(compositor), m_windows(compositor), m_routing(m_seat, m_grabs, m_windows),
+          m_screenshots(compositor), m_backdrop(compositor, [this] { openSocket(); }),
+          m_end(compositor->destroy_signal, [this](void*) { delete this; })
+    {
+        if (withKeyRouter)
+        {
+            m_keyRouter.emplace(compositor->wl_display, m_grabs);
+        }
+        if (m_seat.hasRealKeyboard())
+        {
+            std::cerr << deskKeyboardHelp() << std::flush;
+        }
+    }
+
+private:
+    /** When the socket is there, the TV is ready: only then can a screenshot show all of it. */
+    void openSocket()
+    {
+        if (m_socket)
+        {
+            return;
+        }
+        try
+        {
+            m_socket.emplace(wl_display_get_event_loop(m_compositor->wl_display), remoteSocketPath());
+            setRemoteCommands(*m_socket, m_seat, m_grabs, m_screenshots);
+        }
+        catch (const std::exception& error)
+        {
+            weston_log("veskar-compositor: no remote control: %s\n", error.what());
+            weston_compositor_exit_with_code(m_compositor, EXIT_FAILURE);
+        }
+    }
+
+    weston_compositor* m_compositor;
+    Seat m_seat;
+    WindowStack m_windows;
+    GrabTable m_grabs;
+    Routing m_routing;
+    Screenshots m_screenshots;
+    Backdrop m_backdrop;
+    std::optional<RemoteSocket> m_socket;
+    std::optional<KeyRouter> m_keyRouter;
+    Listener m_end;
+};
+
+/** Removes the option from the compositor's command line, which must be empty when all modules are loaded. */
+bool takeOption(const char* option, int* argc, char* argv[])
+{
+    for (int i = 1; i < *argc; ++i)
+    {
+        if (std::strcmp(argv[i], option) == 0)
+        {
+            std::memmove(&argv[i], &argv[i + 1], static_cast<size_t>(*argc - i - 1) * sizeof argv[0]);
+            --*argc;
+            return true;
+        }
+    }
+    return false;
+}
+
+bool isSet(const char* variable)
+{
+    const char* value = std::getenv(variable);
+    return value != nullptr && std::strcmp(value, "1") == 0;
+}
+
+} // namespace
+
+} // namespace veskar
+
+extern "C" __attribute__((visibility("default"))) int wet_module_init(weston_compositor* compositor, int* argc,
+                                                                      char* argv[])
+{
+    using namespace veskar;
+    const bool withKeyRouter = !takeOption("--no-keyrouter", argc, argv) && !isSet("VESKAR_NO_KEYROUTER");
+    try
+    {
+        new Tv(compositor, withKeyRouter); // it ends itself with the compositor
+    }
+    catch (const std::exception& error)
+    {
+        weston_log("veskar-compositor: %s\n", error.what());
+        return -1;
+    }
+    return 0;
+}
