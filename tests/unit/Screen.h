@@ -1,0 +1,68 @@
+/** What the tests of screens share: a TV, a window, a listener, and a viewer's eyes and fingers. */
+#pragma once
+
+#include "IUserInteraction.h"
+#include "Tv.h"
+
+#include <memory>
+#include <string>
+
+#include <gmock/gmock.h>
+
+/** A new TV for each test. */
+struct TvTest : testing::Test
+{
+    TvTest() { tv = Tv(); }
+};
+
+/** A new TV with a window on it, and the answers that the display under test gives. */
+struct ScreenTest : TvTest, VESKAR_APP::IUserInteraction
+{
+    ScreenTest();
+    ~ScreenTest() override;
+
+    Texts answers; // "exit", "back", "key", "button N", "item N", "items NNN", "pin NNNN"
+    Evas_Object* window;
+
+private:
+    void ExitKey() override { answers.push_back("exit"); }
+    void BackKey() override { answers.push_back("back"); }
+    void KeyPressed() override { answers.push_back("key"); }
+    void ButtonPressed(unsigned char button) override { answers.push_back("button " + std::to_string(button)); }
+    void ItemSelected(unsigned char item) override { answers.push_back("item " + std::to_string(item)); }
+    void ItemsSelected(std::string items) override { answers.push_back("items " + items); }
+    void PinEntered(std::string pin) override { answers.push_back("pin " + pin); }
+};
+
+/** Opens what a display keeps for its own kind. */
+template <class Display>
+struct Probe : Display
+{
+    using Display::Display;
+    using Display::t_bottomText;
+    using Display::t_buttons;
+    using Display::t_popup;
+    using Display::t_subtitleLabel;
+    using Display::t_title;
+    using Display::t_ttsText;
+};
+
+/** Runs the main loop until nothing is left to do at once. */
+void Settle();
+
+/** Runs the main loop; false when it did not end by itself within `seconds`. */
+bool LoopEnds(double seconds);
+
+/** The widgets of one type inside `root`, itself included, in the order of drawing. */
+std::vector<Evas_Object*> Widgets(Evas_Object* root, const std::string& type);
+std::vector<Evas_Object*> WidgetsOnScreen(Evas_Object* window, const std::string& type);
+
+/** The texts of all labels inside `root`. */
+Texts LabelTexts(Evas_Object* root);
+
+std::string TextOf(Evas_Object* widget, const char* part = nullptr);
+
+/** A key for the widget, and on for those that it stands in, as the toolkit does it. */
+void Press(Evas_Object* widget, const char* key);
+
+void Click(Evas_Object* widget);

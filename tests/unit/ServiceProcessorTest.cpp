@@ -1,0 +1,318 @@
+#include "ServiceProcessor.h"
+#include "IWindowManager.h"
+#include "Screen.h"
+
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StrictMock;
+using Byte = unsigned char;
+
+/** Any call that a test does not expect is a failure. */
+struct WindowManagerMock : VESKAR_APP::IWindowManager
+{
+    MOCK_METHOD(bool, ShowMmiMessage,
+                (int, Byte, const Text&, const Text&, const Text&, const Text&, const Texts&, bool), (override));
+    MOCK_METHOD(bool, ShowMmiList,
+                (int, Byte, const Text&, const Text&, const Text&, const Text&, bool, const Texts&, const Texts&, bool),
+                (override));
+    MOCK_METHOD(bool, ShowMmiPinEntry, (int, Byte, const Text&, const Text&, const Text&, Byte, const Text&),
+                (override));
+    MOCK_METHOD(bool, ShowProgress, (int, Byte, const Text&, const Text&, const Text&, Byte), (override));
+    MOCK_METHOD(bool, ShowLoading, (int, Byte, Text, const Texts&, int), (override));
+    MOCK_METHOD(bool, ShowMessage, (int, Byte, const Text&, const Text&, const Text&, const Text&, const Texts&, bool),
+                (override));
+    MOCK_METHOD(bool, ShowImage,
+                (int, Byte, const Text&, const Text&, const Text&, const Text&, int, int, const Texts&, bool),
+                (override));
+    MOCK_METHOD(bool, ShowList,
+                (int, Byte, const Text&, const Text&, const Text&, const Texts&, const Text&, bool, const Texts&, bool),
+                (override));
+    MOCK_METHOD(bool, ShowMultipleList,
+                (int, Byte, const Text&, const Text&, const Text&, const Texts&, const Text&, bool, const Texts&, bool),
+                (override));
+    MOCK_METHOD(bool, ShowPinManager, (int, Byte, const Text&, const Text&, const Text&, Byte, const Text&),
+                (override));
+    MOCK_METHOD(bool, ShowMultipleImageList,
+                (int, Byte, const Text&, const Text&, const Text&, const Texts&, const Text&, bool, const Texts&,
+                 const Texts&, int, int, bool),
+                (override));
+    MOCK_METHOD(bool, ShowTestPopup, (int, Byte, int), (override));
+    MOCK_METHOD(bool, Close, (int, Byte), (override));
+    MOCK_METHOD(bool, Test, (int), (override));
+};
+
+struct ServiceProcessorTest : TvTest
+{
+    StrictMock<WindowManagerMock> screens;
+    VESKAR_APP::ServiceProcessor processor{screens};
+
+    bool Handle(std::initializer_list<std::pair<const char*, Request::Value>> values)
+    {
+        tv.Forget();
+        const Request request(values);
+        return processor.HandleService(request.Handle());
+    }
+
+    /** A request for a screen with the ids 7 and 254 that carries every display key. */
+    void Ask(const char* uiType)
+    {
+        EXPECT_TRUE(Handle({{"signal_type_key", "signal_tvservice"},
+                            {"signal_tvservice_key", uiType},
+                            {"ui_param_ui_id", "7"},
+                            {"ui_param_source_id", "254"},
+                            {"ui_param_title", "T"},
+                            {"ui_param_sub", ""},
+                            {"ui_param_bottom", "B"},
+                            {"ui_param_txt", "X"},
+                            {"ui_param_buttons", Texts{"Cancel", "OK"}},
+                            {"ui_param_entries", Texts{"1\tone"}},
+                            {"ui_param_format", "LR"},
+                            {"ui_param_header", "1"},
+                            {"ui_param_noclose", "2"},
+                            {"ui_param_image_location", "/i.png"},
+                            {"ui_param_image_width", "401"},
+                            {"ui_param_image_height", "300"},
+                            {"ui_param_multiple_image_locations", Texts{"/1.png", "/2.png"}},
+                            {"ui_param_selectable", "1"},
+                            {"ui_param_percent", "300"},
+                            {"ui_param_pin_length", "260"}}));
+        EXPECT_THAT(tv.Log(DLOG_ERROR), IsEmpty());
+    }
+    void AskWithoutKeys(const char* uiType)
+    {
+        EXPECT_TRUE(Handle({{"signal_type_key", "signal_tvservice"},
+                            {"signal_tvservice_key", uiType},
+                            {"ui_param_ui_id", "7"},
+                            {"ui_param_source_id", "254"}}));
+    }
+
+    /** The lines that name what was found, in order and in one text; elements of lists are left out. */
+    static std::string Found()
+    {
+        std::string found;
+        for (const std::string& line : tv.Log(DLOG_INFO))
+        {
+            found += line.rfind("lines[", 0) == 0 ? "" : line + ' ';
+        }
+        return found;
+    }
+};
+
+TEST_F(ServiceProcessorTest, EachKindOfScreenReadsItsKeysInOrderAndMakesOneShowCall)
+{
+    const auto buttons = ElementsAre("Cancel", "OK");
+    const auto entries = ElementsAre("1\tone");
+    const std::string listKeys =
+        "title:true sub:true bottom:true buttons:true entries:true formatting:true firstRowHeader:true ";
+
+    EXPECT_CALL(screens, ShowMessage(7, 254, "T", "", "B", "X", buttons, true));
+    Ask("ui_type_message");
+    EXPECT_EQ(Found(), "title:true subtitle:true bottom:true buttons:true text:true noclose:true complete ");
+
+    EXPECT_CALL(screens, ShowImage(7, 254, "T", "", "B", "/i.png", 401, 300, buttons, true));
+    Ask("ui_type_image");
+    EXPECT_EQ(Found(), "title:true subtitle:true bottom:true buttons:true imageLocation:true width:true height:true "
+                       "noclose:true complete ");
+
+    EXPECT_CALL(screens, ShowList(7, 254, "T", "", "B", entries, "LR", true, buttons, false));
+    Ask("ui_type_list");
+    EXPECT_EQ(Found(), listKeys + "complete ");
+
+    EXPECT_CALL(screens, ShowList(7, 254, "T", "", "B", entries, "LR", true, buttons, true));
+    Ask("ui_type_select");
+    EXPECT_EQ(Found(), listKeys + "complete ");
+
+    EXPECT_CALL(screens, ShowMultipleList(7, 254, "T", "", "B", entries, "LR", true, buttons, true));
+    Ask("ui_type_multiple_list");
+    EXPECT_EQ(Found(), listKeys + "complete ");
+
+    EXPECT_CALL(screens, ShowMultipleImageList(7, 254, "T", "", "B", entries, "LR", true, buttons,
+                                               ElementsAre("/1.png", "/2.png"), 401, 300, true));
+    Ask("ui_type_multiple_image_list");
+    EXPECT_EQ(Found(), listKeys + "image locations:true width:true height:true selectable:true complete ");
+
+    EXPECT_CALL(screens, ShowProgress(7, 254, "T", "X", "Cancel", 44));
+    Ask("ui_type_progress");
+    EXPECT_EQ(Found(), "title:true text:true percent:true buttons:true complete ");
+
+    EXPECT_CALL(screens, ShowLoading(7, 254, "X", buttons, 300));
+    Ask("ui_type_loading");
+    EXPECT_EQ(Found(), "title:true percent:true buttons:true complete ");
+
+    EXPECT_CALL(screens, ShowPinManager(7, 254, "T", "", "X", 4, "B"));
+    Ask("ui_type_pin_entry");
+    EXPECT_EQ(Found(), "title:true subtitle:true text:true length:true bottom:true complete ");
+}
+
+TEST_F(ServiceProcessorTest, AMissingKeyLeavesItsDefaultAndAnErrorLine)
+{
+    const Texts none;
+    EXPECT_CALL(screens, ShowMessage(7, 254, "", "", "", "", none, false));
+    AskWithoutKeys("ui_type_message");
+    EXPECT_EQ(Found(), "title:false subtitle:false bottom:false buttons:false text:false noclose:false complete ");
+    EXPECT_EQ(tv.Log(DLOG_ERROR), Texts(6, "app_control_get_extra_data returned error -126"));
+
+    EXPECT_CALL(screens, ShowImage(7, 254, "", "", "", "", 0, 0, none, false));
+    AskWithoutKeys("ui_type_image");
+    EXPECT_CALL(screens, ShowList(7, 254, "", "", "", none, "", false, none, false));
+    AskWithoutKeys("ui_type_list");
+    EXPECT_CALL(screens, ShowMultipleList(7, 254, "", "", "", none, "", false, none, true));
+    AskWithoutKeys("ui_type_multiple_list");
+    EXPECT_CALL(screens, ShowMultipleImageList(7, 254, "", "", "", none, "", false, none, none, 0, 0, false));
+    AskWithoutKeys("ui_type_multiple_image_list");
+    EXPECT_CALL(screens, ShowProgress(7, 254, "", "", "", 0));
+    AskWithoutKeys("ui_type_progress");
+    EXPECT_CALL(screens, ShowLoading(7, 254, "", none, 0));
+    AskWithoutKeys("ui_type_loading");
+    EXPECT_CALL(screens, ShowPinManager(7, 254, "", "", "", 0, ""));
+    AskWithoutKeys("ui_type_pin_entry");
+}
+
+TEST_F(ServiceProcessorTest, AScreenWithoutARoutingKeyIsNotShown)
+{
+    EXPECT_TRUE(Handle({{"signal_type_key", "signal_tvservice"}}));
+    const std::string reader = "app_control_get_extra_data returned error -126";
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre(reader, "SIGNAL_TVSERVICE_KEY missing"));
+    EXPECT_TRUE(Handle({{"signal_type_key", "signal_tvservice"}, {"signal_tvservice_key", "ui_type_message"}}));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre(reader, "UI_PARAM_UI_ID missing"));
+    EXPECT_TRUE(Handle({{"signal_type_key", "signal_tvservice"},
+                        {"signal_tvservice_key", "ui_type_message"},
+                        {"ui_param_ui_id", "7"}}));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre(reader, "UI_PARAM_SOURCE_ID missing"));
+    EXPECT_THAT(tv.Log(DLOG_INFO), IsEmpty()); // not "complete" either
+}
+
+TEST_F(ServiceProcessorTest, IdsAreDecimalNumbersOfWhichASourceKeepsItsLowEightBits)
+{
+    const auto close = [this](const char* uiId, const char* sourceId)
+    {
+        Handle({{"signal_type_key", "signal_tvservice"},
+                {"signal_tvservice_key", "ui_type_close"},
+                {"ui_param_ui_id", uiId},
+                {"ui_param_source_id", sourceId}});
+    };
+    EXPECT_CALL(screens, Close(42, 254));
+    close(" 42abc", "510");
+    EXPECT_CALL(screens, Close(0, 255));
+    close("x", "-1");
+    EXPECT_CALL(screens, Close(-3, 0));
+    close("-3", "0x10");
+    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("complete"));
+}
+
+TEST_F(ServiceProcessorTest, AnUnknownKindOfScreenIsNoError)
+{
+    AskWithoutKeys("ui_type_Message");
+    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("complete"));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), IsEmpty());
+}
+
+TEST_F(ServiceProcessorTest, ASignalTypeIsNeededAndASequenceDoesNothing)
+{
+    EXPECT_FALSE(processor.HandleService(nullptr));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("NULL service data."));
+
+    EXPECT_FALSE(Handle({{"menu_pos_key", "veskar_menu"}}));
+    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("app_control_get_extra_data returned error -126"));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), IsEmpty());
+
+    EXPECT_TRUE(Handle({{"signal_type_key", "sequence"}}));
+    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("SEQUENCE"));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), IsEmpty());
+
+    EXPECT_TRUE(Handle({{"signal_type_key", "SEQUENCE"}}));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("Wrong value of signal type"));
+
+    tv.failing = {"app_control_get_extra_data"};
+    EXPECT_FALSE(Handle({{"signal_type_key", "sequence"}}));
+    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("app_control_get_extra_data returned error 0"));
+    EXPECT_THAT(tv.deeds, IsEmpty());
+}
+
+TEST_F(ServiceProcessorTest, AMenuPositionStopsTheMenuAndReachesTheController)
+{
+    struct
+    {
+        const char* name;
+        const char* log;
+        const char* position;
+    } const positions[] = {{"veskar_menu", "MENU_POS_DONGLE_MENU", "menu 1"},
+                           {"veskar_info", "MENU_POS_APP_INFO", "menu 0"},
+                           {"veskar_add_op", "MENU_POS_ADD_OP", "menu 2"},
+                           {"veskar_delete_op", "MENU_POS_DELETE_OP", "menu 3"}};
+    for (const auto& position : positions)
+    {
+        EXPECT_TRUE(Handle({{"signal_type_key", "signal_menu_pos"}, {"menu_pos_key", position.name}}));
+        EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre(position.log));
+        EXPECT_THAT(tv.deeds, ElementsAre("task name:menu |stop", position.position));
+    }
+
+    EXPECT_TRUE(Handle({{"signal_type_key", "signal_menu_pos"}, {"menu_pos_key", "veskar"}}));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("Wrong value of menu position in service data veskar"));
+    EXPECT_THAT(tv.deeds, ElementsAre("task name:menu |stop"));
+
+    EXPECT_TRUE(Handle({{"signal_type_key", "signal_menu_pos"}}));
+    EXPECT_EQ(tv.Log(DLOG_ERROR).back(), "MENU_POS_KEY missing");
+    EXPECT_THAT(tv.deeds, IsEmpty());
+
+    tv.hasController = false;
+    EXPECT_TRUE(Handle({{"signal_type_key", "signal_menu_pos"}, {"menu_pos_key", "veskar_menu"}}));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("vesKarCtrl == NULL"));
+    EXPECT_THAT(tv.deeds, IsEmpty());
+}
+
+TEST_F(ServiceProcessorTest, EachElementOfAListIsLoggedWithItsIndex)
+{
+    EXPECT_CALL(screens, ShowLoading(7, 1, "", ElementsAre("a", "", "c"), 0));
+    Handle({{"signal_type_key", "signal_tvservice"},
+            {"signal_tvservice_key", "ui_type_loading"},
+            {"ui_param_ui_id", "7"},
+            {"ui_param_source_id", "1"},
+            {"ui_param_txt", Texts{"not a text"}},
+            {"ui_param_percent", "x"},
+            {"ui_param_buttons", Texts{"a", "", "c"}}});
+    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("title:false", "percent:true", "lines[0]=a", "lines[1]=", "lines[2]=c",
+                                               "buttons:true", "complete"));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("app_control_get_extra_data returned error -17825756"));
+}
+
+// The reader of bytes and the writer serve no request yet. They are private, which an explicit instantiation may pass.
+bool ReadBytes(VESKAR_APP::ServiceProcessor& processor, const Request& request, std::vector<Byte>& bytes);
+bool Write(VESKAR_APP::ServiceProcessor& processor, const Request& request, int value);
+template <auto reader, auto writer>
+struct Open
+{
+    friend bool ReadBytes(VESKAR_APP::ServiceProcessor& processor, const Request& request, std::vector<Byte>& bytes)
+    {
+        return (processor.*reader)(request.Handle(), "bytes", bytes);
+    }
+    friend bool Write(VESKAR_APP::ServiceProcessor& processor, const Request& request, int value)
+    {
+        return (processor.*writer)(request.Handle(), "number", value);
+    }
+};
+template struct Open<&VESKAR_APP::ServiceProcessor::m_GetDataArray, &VESKAR_APP::ServiceProcessor::m_AddParameter>;
+
+TEST_F(ServiceProcessorTest, BytesAreReadFromAListAndNumbersAreWrittenAsText)
+{
+    std::vector<Byte> bytes;
+    EXPECT_TRUE(ReadBytes(processor, Request({{"bytes", Texts{"A", "", "zoo"}}}), bytes));
+    EXPECT_THAT(bytes, ElementsAre(0x41, 0, 0x7a));
+    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("MMI message received %s41 00 7a "));
+    EXPECT_FALSE(ReadBytes(processor, Request({{"bytes", "A"}}), bytes));
+    EXPECT_EQ(bytes.size(), 3U);
+
+    tv.Forget();
+    const Request reply({});
+    EXPECT_TRUE(Write(processor, reply, -12));
+    EXPECT_EQ(reply.Text("number"), "-12");
+    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("Adding parameters: number -12"));
+    tv.failing = {"app_control_add_extra_data"};
+    EXPECT_FALSE(Write(processor, reply, 3));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("app_control_add_extra_data failed"));
+}
+
+} // namespace

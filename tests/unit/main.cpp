@@ -1,0 +1,15 @@
+#include <cstdlib>
+
+#include <Elementary.h>
+#include <gmock/gmock.h>
+
+int main(int argc, char** argv)
+{
+    setenv("ELM_DISPLAY", "buffer", 1);
+    setenv("ELM_ENGINE", "buffer", 1);
+    setenv("ELM_SCALE", "1.0", 1);
+    setenv("EINA_LOG_LEVEL", "0", 1); // the toolkit misses a system bus, at length
+    testing::InitGoogleMock(&argc, argv);
+    elm_init(argc, argv);
+    return RUN_ALL_TESTS();
+}

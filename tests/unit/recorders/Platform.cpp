@@ -1,0 +1,422 @@
+// The platform's C functions, and the controller's library.
+
+#include "Tv.h"
+
+#include <algorithm>
+#include <cstdarg>
+#include <cstring>
+#include <mutex>
+
+#include <IVesKarController.h>
+#include <app_context_manager.h>
+#include <aul.h>
+#include <ea.h>
+#include <key_router.h>
+#include <system_info.h>
+#include <ui_orientation.h>
+#include <vconf.h>
+#include <voice_guide.h>
+
+namespace
+{
+
+void Did(const std::string& verb, const std::string& arguments)
+{
+    tv.deeds.push_back(verb + ' ' + arguments);
+}
+
+template <typename Value>
+int Read(const std::map<std::string, Value>& values, const char* key, Value* value)
+{
+    const auto found = values.find(key);
+    if (found == values.end())
+    {
+        return -22;
+    }
+    *value = found->second;
+    return 0;
+}
+
+class Controller : public VESKAR_API::IVesKarController
+{
+    void Reserved1() override { Did("reserved", "1"); }
+    void Reserved2() override { Did("reserved", "2"); }
+    void Reserved3() override { Did("reserved", "3"); }
+    void Reserved4() override { Did("reserved", "4"); }
+
+    bool OpenMenuPosition(int menuPosition) override
+    {
+        Did("menu", std::to_string(menuPosition));
+        return true;
+    }
+
+    bool SendResponse(int uiId, unsigned char sourceId, int kind, unsigned char button, unsigned char item,
+                      std::string data) override
+    {
+        std::string answer;
+        for (const int number :
+             {uiId, static_cast<int>(sourceId), kind, static_cast<int>(button), static_cast<int>(item)})
+        {
+            answer += std::to_string(number) + ' ';
+        }
+        Did("answer", answer + '"' + data + '"');
+        return false; // nobody looks at it
+    }
+};
+
+} // namespace
+
+VESKAR_API::IVesKarController* VESKAR_API::IVesKarController::Instance()
+{
+    static Controller controller;
+    return tv.hasController ? &controller : nullptr;
+}
+
+int __dlog_print(log_id_t /*id*/, int priority, const char* /*tag*/, const char* format, ...)
+{
+    static std::mutex mutex; // a timer's thread writes too
+    va_list arguments;
+    va_start(arguments, format);
+    char line[4096];
+    std::vsnprintf(line, sizeof line, format, arguments);
+    va_end(arguments);
+
+    const std::string whole(line);
+    const std::size_t name = whole.find(": ") + 2;
+    const std::size_t text = whole.find(") > ") + 4;
+    const std::lock_guard<std::mutex> lock(mutex);
+    tv.log.push_back({priority, whole.substr(name, whole.find('(', name) - name), whole.substr(text)});
+    return static_cast<int>(whole.size());
+}
+
+int ui_app_main(int /*argc*/, char** /*argv*/, ui_app_lifecycle_callback_s* callbacks, void* userData)
+{
+    tv.application = *callbacks;
+    tv.applicationData = userData;
+    tv.whileTheLoopRuns();
+    return tv.loopResult;
+}
+
+int ui_app_add_event_handler(app_event_handler_h* /*handler*/, app_event_type_e type, app_event_cb callback, void*)
+{
+    Did("handle event", std::to_string(type));
+    tv.languageChanged = callback;
+    return APP_ERROR_NONE;
+}
+
+struct app_control_s
+{
+    std::string appId;
+    std::vector<std::pair<std::string, Request::Value>> values;
+
+    const Request::Value* Find(const char* key) const
+    {
+        const auto found =
+            std::find_if(values.begin(), values.end(), [&](const auto& value) { return value.first == key; });
+        return found == values.end() ? nullptr : &found->second;
+    }
+};
+
+int app_control_create(app_control_h* request)
+{
+    if (tv.Fails("app_control_create"))
+    {
+        return APP_CONTROL_ERROR_OUT_OF_MEMORY;
+    }
+    *request = new app_control_s;
+    ++tv.liveRequests;
+    return APP_CONTROL_ERROR_NONE;
+}
+
+int app_control_destroy(app_control_h request)
+{
+    --tv.liveRequests;
+    delete request;
+    return APP_CONTROL_ERROR_NONE;
+}
+
+int app_control_set_app_id(app_control_h request, const char* appId)
+{
+    if (request == nullptr)
+    {
+        return APP_CONTROL_ERROR_INVALID_PARAMETER;
+    }
+    request->appId = appId;
+    return APP_CONTROL_ERROR_NONE;
+}
+
+int app_control_add_extra_data(app_control_h request, const char* key, const char* value)
+{
+    if (tv.Fails("app_control_add_extra_data"))
+    {
+        return APP_CONTROL_ERROR_INVALID_PARAMETER;
+    }
+    request->values.emplace_back(key, value);
+    return APP_CONTROL_ERROR_NONE;
+}
+
+int app_control_add_extra_data_array(app_control_h request, const char* key, const char* values[], int length)
+{
+    request->values.emplace_back(key, Texts(values, values + length));
+    return APP_CONTROL_ERROR_NONE;
+}
+
+int app_control_get_extra_data(app_control_h request, const char* key, char** value)
+{
+    if (tv.Fails("app_control_get_extra_data"))
+    {
+        return APP_CONTROL_ERROR_NONE; // and no value
+    }
+    const Request::Value* found = request->Find(key);
+    if (found == nullptr)
+    {
+        return APP_CONTROL_ERROR_KEY_NOT_FOUND;
+    }
+    const auto* text = std::get_if<std::string>(found);
+    if (text == nullptr)
+    {
+        return APP_CONTROL_ERROR_INVALID_DATA_TYPE;
+    }
+    *value = strdup(text->c_str());
+    return APP_CONTROL_ERROR_NONE;
+}
+
+int app_control_get_extra_data_array(app_control_h request, const char* key, char*** values, int* length)
+{
+    const Request::Value* found = request->Find(key);
+    if (found == nullptr)
+    {
+        return APP_CONTROL_ERROR_KEY_NOT_FOUND;
+    }
+    const auto* texts = std::get_if<Texts>(found);
+    if (texts == nullptr)
+    {
+        return APP_CONTROL_ERROR_INVALID_DATA_TYPE;
+    }
+    *length = static_cast<int>(texts->size());
+    *values = static_cast<char**>(std::malloc(sizeof(char*) * (texts->size() + 1)));
+    std::transform(texts->begin(), texts->end(), *values, [](const std::string& text) { return strdup(text.c_str()); });
+    return APP_CONTROL_ERROR_NONE;
+}
+
+int app_control_send_launch_request(app_control_h request, app_control_reply_cb callback, void* userData)
+{
+    if (request == nullptr)
+    {
+        return APP_CONTROL_ERROR_INVALID_PARAMETER;
+    }
+    std::string launch = request->appId;
+    for (const auto& [key, value] : request->values)
+    {
+        launch += ' ' + key + '=' + std::get<std::string>(value);
+    }
+    Did("launch", launch + (callback != nullptr || userData != nullptr ? " with reply" : ""));
+    return tv.Fails("app_control_send_launch_request") ? APP_CONTROL_ERROR_APP_NOT_FOUND : APP_CONTROL_ERROR_NONE;
+}
+
+int app_context_manager_request_task(const char* task, const char* action)
+{
+    Did("task", std::string(task) + '|' + action);
+    return -1; // nobody looks at it
+}
+
+int aul_app_is_running(const char* appId)
+{
+    return tv.runningApps.count(appId) != 0 ? 1 : 0;
+}
+int vconf_get_int(const char* key, int* value)
+{
+    return Read(tv.numbers, key, value);
+}
+int vconf_get_bool(const char* key, int* value)
+{
+    return Read(tv.numbers, key, value);
+}
+int system_info_get_custom_bool(const char* key, bool* value)
+{
+    return Read(tv.features, key, value);
+}
+int ua_UI_orientation_get(void)
+{
+    return tv.orientation;
+}
+
+char* vconf_get_str(const char* key)
+{
+    std::string value;
+    return Read(tv.texts, key, &value) == 0 ? strdup(value.c_str()) : nullptr;
+}
+
+void elm_access_force_say(const char* text)
+{
+    Did("say", text);
+}
+
+// The key router, which keeps count of who holds what.
+
+int KeyRouter_Initialize(wl_display*, wl_registry*, wl_seat*, unsigned int id)
+{
+    Did("router", std::to_string(id));
+    return tv.Fails("KeyRouter_Initialize") ? 0 : 1;
+}
+
+void KeyRouter_Finalize(void)
+{
+    Did("router", "finalized");
+}
+
+void KeyRouter_Reset_KeyList(_KeyList* list)
+{
+    list->count = 0;
+}
+
+int KeyRouter_Add_Key(const char* name, int mode, _KeyList* list)
+{
+    list->keys[list->count++] = {name, mode};
+    return 1;
+}
+
+int KeyRouter_Remove_Key(const char* name, int mode, _KeyList* list)
+{
+    auto* const end = list->keys + list->count;
+    auto* const kept =
+        std::remove_if(list->keys, end,
+                       [&](const KeyRouter_Key& key) { return std::strcmp(key.name, name) == 0 && key.mode == mode; });
+    list->count = static_cast<int>(kept - list->keys);
+    return kept != end ? 1 : 0;
+}
+
+namespace
+{
+
+std::string ListText(const _KeyList* list)
+{
+    std::string text;
+    for (const KeyRouter_Key* key = list->keys; key != list->keys + list->count; ++key)
+    {
+        text += (text.empty() ? "" : " ") + std::string(key->name) + ':' + std::to_string(key->mode);
+    }
+    return text;
+}
+
+} // namespace
+
+int KeyRouter_Set_KeyList(wl_surface*, const _KeyList* list)
+{
+    Did("grab", ListText(list));
+    int result = tv.Fails("KeyRouter_Set_KeyList") ? 0 : 1;
+    for (const KeyRouter_Key* key = list->keys; key != list->keys + list->count; ++key)
+    {
+        if (result == 0 || tv.refusedKeys.count({key->name, key->mode}) != 0)
+        {
+            result = 0;
+            continue;
+        }
+        tv.heldKeys[key->name] = key->mode;
+    }
+    return result;
+}
+
+int KeyRouter_UnSet_KeyList(wl_surface*, const _KeyList* list)
+{
+    Did("release", ListText(list));
+    int result = tv.Fails("KeyRouter_UnSet_KeyList") ? 0 : 1;
+    for (const KeyRouter_Key* key = list->keys; result != 0 && key != list->keys + list->count; ++key)
+    {
+        const auto held = tv.heldKeys.find(key->name);
+        if (held != tv.heldKeys.end() && held->second != key->mode)
+        {
+            result = 0;
+        }
+        else if (held != tv.heldKeys.end())
+        {
+            tv.heldKeys.erase(held);
+        }
+    }
+    return result;
+}
+
+// The toolkit assistant, on plain widgets.
+
+void ea_init(void)
+{
+    Did("ea", "init");
+}
+
+Evas_Object* ea_textpage_add(Evas_Object* parent)
+{
+    if (tv.Fails("ea_textpage_add"))
+    {
+        return nullptr;
+    }
+    Evas_Object* page = elm_scroller_add(parent);
+    evas_object_name_set(page, "textpage");
+    evas_object_event_callback_add(
+        page, EVAS_CALLBACK_DEL,
+        [](void*, Evas*, Evas_Object* object, void*)
+        { evas_textblock_style_free(static_cast<Evas_Textblock_Style*>(evas_object_data_get(object, "style"))); },
+        nullptr);
+    return page;
+}
+
+namespace
+{
+
+bool IsTextPage(const Evas_Object* object)
+{
+    const char* name = evas_object_name_get(object);
+    return name != nullptr && std::strcmp(name, "textpage") == 0;
+}
+
+} // namespace
+
+void ea_textpage_text_set(Evas_Object*, char* text)
+{
+    tv.pageText = text;
+    std::free(text);
+}
+
+void ea_textpage_page_show(Evas_Object* page, int number)
+{
+    Did("page", std::to_string(number));
+    evas_object_data_set(page, "current", reinterpret_cast<void*>(static_cast<intptr_t>(number)));
+}
+
+int ea_textpage_current_page_get(const Evas_Object* page)
+{
+    return static_cast<int>(reinterpret_cast<intptr_t>(evas_object_data_get(page, "current")));
+}
+
+int ea_textpage_total_page_get(const Evas_Object* page)
+{
+    return IsTextPage(page) ? tv.textPages : 0;
+}
+
+void ea_textpage_textblock_style_set(Evas_Object* page, Evas_Textblock_Style* style)
+{
+    tv.pageStyle = evas_textblock_style_get(style);
+    evas_object_data_set(page, "style", style);
+}
+
+Evas_Object* ea_pin_add(Evas_Object* parent, int length, Ea_Pin_Entered_Cb callback, void*)
+{
+    if (tv.Fails("ea_pin_add"))
+    {
+        return nullptr;
+    }
+    Did("pin", std::to_string(length));
+    Evas_Object* pin = elm_button_add(parent);
+    evas_object_name_set(pin, "pin");
+    evas_object_data_set(pin, "entered", reinterpret_cast<void*>(callback));
+    return pin;
+}
+
+void ea_pin_reset(Ea_Pin*)
+{
+    Did("pin", "reset");
+}
+
+int ea_pin_get_text(const Ea_Pin*, char* buffer, int size)
+{
+    return static_cast<int>(eina_strlcpy(buffer, tv.texts["pin"].c_str(), static_cast<std::size_t>(size)));
+}

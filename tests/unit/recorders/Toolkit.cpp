@@ -1,0 +1,76 @@
+// The toolkit's functions that the linker leads here (--wrap). What has a visible effect goes on to the toolkit.
+
+#include "Tv.h"
+
+// NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's.
+extern "C"
+{
+    Evas_Object* __real_elm_win_add(Evas_Object* parent, const char* name, Elm_Win_Type type);
+    Evas_Object* __wrap_elm_win_add(Evas_Object* parent, const char* name, Elm_Win_Type type)
+    {
+        tv.deeds.push_back("window " + std::string(name) + ' ' + std::to_string(type));
+        tv.window = tv.Fails("elm_win_add") ? nullptr : __real_elm_win_add(parent, name, type);
+        return tv.window;
+    }
+
+    void __wrap_elm_win_iconified_set(Evas_Object*, Eina_Bool iconified)
+    {
+        tv.deeds.push_back(iconified ? "iconify" : "restore");
+    }
+
+    void __wrap_elm_win_activate(Evas_Object*)
+    {
+        tv.deeds.push_back("activate");
+    }
+    void __wrap_elm_language_set(const char* language)
+    {
+        tv.deeds.push_back("language " + std::string(language));
+    }
+
+    int __real_ecore_init();
+    int __wrap_ecore_init()
+    {
+        return tv.Fails("ecore_init") ? 0 : __real_ecore_init();
+    }
+
+    // A Wayland connection whose every object is this TV: none of them is looked into.
+
+    Ecore_Wl2_Display* __wrap_ecore_wl2_connected_display_get(const char*)
+    {
+        return tv.hasWaylandDisplay ? reinterpret_cast<Ecore_Wl2_Display*>(&tv) : nullptr;
+    }
+    wl_display* __wrap_ecore_wl2_display_get(Ecore_Wl2_Display*)
+    {
+        return reinterpret_cast<wl_display*>(&tv);
+    }
+    wl_registry* __wrap_ecore_wl2_display_registry_get(Ecore_Wl2_Display*)
+    {
+        return nullptr;
+    }
+    Ecore_Wl2_Input* __wrap_ecore_wl2_input_default_input_get(const Ecore_Wl2_Display*)
+    {
+        return nullptr;
+    }
+    wl_seat* __wrap_ecore_wl2_input_seat_get(Ecore_Wl2_Input*)
+    {
+        return nullptr;
+    }
+    Ecore_Wl2_Window* __wrap_ecore_evas_wayland2_window_get(const Ecore_Evas*)
+    {
+        return nullptr;
+    }
+    void ecore_wl2_sync(void) {}
+
+    Eina_Iterator* __wrap_ecore_wl2_display_globals_get(Ecore_Wl2_Display*)
+    {
+        static std::vector<void*> globals;
+        globals.clear();
+        for (Ecore_Wl2_Global& global : tv.globals)
+        {
+            globals.push_back(&global);
+        }
+        globals.push_back(nullptr);
+        return eina_carray_iterator_new(globals.data());
+    }
+}
+// NOLINTEND(bugprone-reserved-identifier)

@@ -1,0 +1,87 @@
+/**
+ * The TV that the tests run on: it stands behind the platform's C functions, and behind the few of the toolkit's whose
+ * effect cannot be seen without a compositor. It does what the test has set and remembers what the application did.
+ */
+#pragma once
+
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include <Elementary.h>
+#include <app.h>
+#include <dlog.h>
+#include <ecore_wayland.h>
+
+using Texts = std::vector<std::string>;
+
+struct LogLine
+{
+    int priority;
+    std::string function;
+    std::string text; // as printed, colours included
+};
+
+struct Tv
+{
+    // What the test sets. A key that is absent is unset on the TV.
+    std::map<std::string, int> numbers;
+    std::map<std::string, std::string> texts;
+    std::map<std::string, bool> features;
+    std::set<std::string> runningApps;
+    std::set<std::string> failing;                     // names of functions that fail
+    std::set<std::pair<std::string, int>> refusedKeys; // key and mode, held by somebody else
+    int orientation = 0;
+    bool hasController = true;
+    bool hasWaylandDisplay = true;
+    std::vector<Ecore_Wl2_Global> globals{{"wl_seat", 3, 7, nullptr}, {"tizen_keyrouter", 42, 1, nullptr}};
+    int textPages = 3;
+    int loopResult = APP_ERROR_NONE;
+    std::function<void()> whileTheLoopRuns = [] {
+    };
+
+    // What the application did.
+    Texts deeds; // in order, each as "verb arguments"
+    std::vector<LogLine> log;
+    std::map<std::string, int> heldKeys; // key to mode
+    int liveRequests = 0;
+    Evas_Object* window = nullptr;
+    ui_app_lifecycle_callback_s application{};
+    void* applicationData = nullptr;
+    app_event_cb languageChanged = nullptr;
+    std::string pageText;
+    std::string pageStyle;
+
+    bool Fails(const char* function) const { return failing.count(function) != 0; }
+
+    /** The deeds with this verb, in order; all of them without one. */
+    Texts Did(const std::string& verb = "") const;
+    void Forget();
+
+    /** Whether exactly this text was logged at this priority, whatever its colour. */
+    bool Logged(int priority, const std::string& text) const;
+    /** The non-empty texts of one priority, in order. */
+    Texts Log(int priority) const;
+};
+
+/** A new TV for each test. */
+extern Tv tv;
+
+/** A request as the platform delivers it; destroyed with it. */
+class Request
+{
+public:
+    using Value = std::variant<std::string, Texts>;
+    Request(std::initializer_list<std::pair<const char*, Value>> values);
+    ~Request() { app_control_destroy(m_handle); }
+
+    app_control_h const& Handle() const { return m_handle; }
+    std::string Text(const char* key) const;
+
+private:
+    app_control_h m_handle = nullptr;
+};
