@@ -59,7 +59,7 @@ std::string lineOf(const Grab& grab)
 {
     pid_t pid = 0;
     wl_client_get_credentials(grab.client, &pid, nullptr, nullptr);
-    return std::string(grab.key->name) + " " + nameOf(grab.mode) + " " + std::to_string(pid) + " " + programName(pid);
+    return std::string(grab.key->name) + " " + nameOf(grab.mode) + " " + std::to_string(pid) + "/" + programName(pid);
 }
 
 } // namespace

@@ -2,7 +2,7 @@
  * What the remote control's socket understands:
  *
  *     press KEY…   each key down and up        keys    every key's platform name
- *     down KEY     hold it                     grabs   for each grab: key, mode, process id, program
+ *     down KEY     hold it                     grabs   for each grab: key, mode, process id/program
  *     up KEY       let it go                   shot PATH   the screen as a PNG; answered when the file is complete
  */
 #pragma once

@@ -38,7 +38,7 @@ Seat::Seat(weston_compositor* compositor)
     {
         m_own = std::make_unique<weston_seat>();
         m_seat = m_own.get();
-        weston_seat_init(m_seat, compositor, "remote");
+        weston_seat_init(m_seat, compositor, "default"); // the name by which the toolkit looks for its first seat
     }
     if (keyboard() == nullptr && weston_seat_init_keyboard(m_seat, m_keymap.get()) < 0)
     {

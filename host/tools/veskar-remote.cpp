@@ -97,7 +97,7 @@ int run(int argc, char* argv[])
         });
 
     for (const auto& [name, help] : {std::pair{"keys", "List every key's platform name"},
-                                     {"grabs", "List who holds which key: key, mode, process id, program"}})
+                                     {"grabs", "List who holds which key: key, mode, process id/program"}})
     {
         app.add_subcommand(name, help)
             ->callback(

@@ -1,0 +1,85 @@
+#include "RouterBinding.h"
+
+#include <algorithm>
+#include <key_router.h>
+#include <stdexcept>
+#include <string_view>
+
+namespace
+{
+
+/** The application's one binding; null without a router, and then every grab fails. */
+std::unique_ptr<veskar::RouterBinding>& binding()
+{
+    static std::unique_ptr<veskar::RouterBinding> one;
+    return one;
+}
+
+} // namespace
+
+extern "C"
+{
+
+    int KeyRouter_Initialize(wl_display* display, wl_registry* registry, wl_seat*, unsigned int id)
+    {
+        binding().reset();
+        if (display == nullptr || registry == nullptr)
+        {
+            return 0;
+        }
+        try
+        {
+            binding() = std::make_unique<veskar::RouterBinding>(display, registry, id);
+        }
+        catch (const std::runtime_error&)
+        {
+            return 0;
+        }
+        return 1;
+    }
+
+    void KeyRouter_Finalize(void)
+    {
+        binding().reset();
+    }
+
+    void KeyRouter_Reset_KeyList(_KeyList* list)
+    {
+        list->count = 0;
+    }
+
+    int KeyRouter_Add_Key(const char* name, int mode, _KeyList* list)
+    {
+        if (list->count == KEYROUTER_LIST_CAPACITY)
+        {
+            return 0;
+        }
+        list->keys[list->count++] = {name, mode};
+        return 1;
+    }
+
+    int KeyRouter_Remove_Key(const char* name, int mode, _KeyList* list)
+    {
+        KeyRouter_Key* end = list->keys + list->count;
+        KeyRouter_Key* found = std::find_if(list->keys, end,
+                                            [name, mode](const KeyRouter_Key& key)
+                                            { return key.mode == mode && std::string_view(key.name) == name; });
+        if (found == end)
+        {
+            return 0;
+        }
+        std::move(found + 1, end, found);
+        --list->count;
+        return 1;
+    }
+
+    int KeyRouter_Set_KeyList(wl_surface* surface, const _KeyList* list)
+    {
+        return binding() && surface != nullptr && binding()->grab(surface, *list) ? 1 : 0;
+    }
+
+    int KeyRouter_UnSet_KeyList(wl_surface* surface, const _KeyList* list)
+    {
+        return binding() && surface != nullptr && binding()->ungrab(surface, *list) ? 1 : 0;
+    }
+}

@@ -1,0 +1,22 @@
+/**
+ * Waiting for the compositor beside the toolkit's own reading.
+ *
+ * A round trip reads from the connection that the toolkit reads too. What it finds there for the toolkit lies in the
+ * toolkit's queue, unseen until the connection next has data; so each round trip leaves a job in the main loop which
+ * hands it over.
+ */
+#pragma once
+
+struct wl_display;
+struct wl_event_queue;
+
+namespace veskar
+{
+
+/** Waits until the compositor has handled all requests so far; events for `queue` are dispatched meanwhile. */
+bool roundTrip(wl_display* display, wl_event_queue* queue);
+
+/** The same with the connection's default queue, which is the toolkit's. */
+bool roundTrip(wl_display* display);
+
+} // namespace veskar

@@ -1,0 +1,129 @@
+#include "RouterBinding.h"
+
+#include "RoundTrip.h"
+#include "tizen-keyrouter-client-protocol.h"
+
+#include <key_router.h>
+#include <optional>
+#include <stdexcept>
+
+namespace veskar
+{
+
+namespace
+{
+
+/** Exclusive and topmost are two strengths of one grab; a registration stands beside it. */
+std::optional<int> otherStrengthOf(int mode)
+{
+    switch (mode)
+    {
+    case KEYROUTER_MODE_EXCLUSIVE:
+        return KEYROUTER_MODE_TOPMOST;
+    case KEYROUTER_MODE_TOPMOST:
+        return KEYROUTER_MODE_EXCLUSIVE;
+    default:
+        return std::nullopt;
+    }
+}
+
+tizen_keyrouter* bindOn(wl_event_queue* queue, wl_registry* registry, uint32_t globalName)
+{
+    // What is created through the wrapper starts on its queue: no event can slip into the toolkit's.
+    auto* wrapper = static_cast<wl_registry*>(wl_proxy_create_wrapper(registry));
+    wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(wrapper), queue);
+    void* router = wl_registry_bind(wrapper, globalName, &tizen_keyrouter_interface, 1);
+    wl_proxy_wrapper_destroy(wrapper);
+    return static_cast<tizen_keyrouter*>(router);
+}
+
+} // namespace
+
+void RouterBinding::QueueDelete::operator()(wl_event_queue* queue) const
+{
+    wl_event_queue_destroy(queue);
+}
+
+RouterBinding::RouterBinding(wl_display* display, wl_registry* registry, uint32_t globalName)
+    : m_display(display), m_queue(wl_display_create_queue(display)),
+      m_router(bindOn(m_queue.get(), registry, globalName))
+{
+    static const tizen_keyrouter_listener listener = {onKey, onGrabbed};
+    tizen_keyrouter_add_listener(m_router, &listener, this);
+    if (!roundTrip(m_display, m_queue.get()))
+    {
+        tizen_keyrouter_destroy(m_router);
+        throw std::runtime_error("the compositor does not answer");
+    }
+}
+
+RouterBinding::~RouterBinding()
+{
+    tizen_keyrouter_destroy(m_router);
+    wl_display_flush(m_display);
+}
+
+bool RouterBinding::grab(wl_surface* surface, const _KeyList& list)
+{
+    m_refused = false;
+    for (int i = 0; i < list.count; ++i)
+    {
+        const Holding wanted{surface, list.keys[i].name, list.keys[i].mode};
+        if (!holds(wanted))
+        {
+            tizen_keyrouter_grab(m_router, surface, list.keys[i].name, static_cast<uint32_t>(list.keys[i].mode));
+            m_asked.push_back(wanted);
+        }
+    }
+    const bool answered = m_asked.empty() || roundTrip(m_display, m_queue.get());
+    m_asked.clear();
+    return answered && !m_refused;
+}
+
+bool RouterBinding::ungrab(wl_surface* surface, const _KeyList& list)
+{
+    bool allReleased = true;
+    for (int i = 0; i < list.count; ++i)
+    {
+        allReleased = release({surface, list.keys[i].name, list.keys[i].mode}) && allReleased;
+    }
+    wl_display_flush(m_display);
+    return allReleased && wl_display_get_error(m_display) == 0;
+}
+
+bool RouterBinding::release(const Holding& holding)
+{
+    const auto& [surface, name, mode] = holding;
+    if (m_held.erase(holding) > 0)
+    {
+        tizen_keyrouter_ungrab(m_router, surface, name.c_str(), static_cast<uint32_t>(mode));
+        return true;
+    }
+    const std::optional<int> other = otherStrengthOf(mode);
+    return !other || !holds({surface, name, *other});
+}
+
+void RouterBinding::onKey(void* data, tizen_keyrouter*, const char* name, uint32_t code)
+{
+    static_cast<RouterBinding*>(data)->m_names.add(code, name);
+}
+
+void RouterBinding::onGrabbed(void* data, tizen_keyrouter*, const char*, uint32_t, uint32_t result)
+{
+    auto* self = static_cast<RouterBinding*>(data);
+    const Holding asked = self->m_asked.front();
+    self->m_asked.pop_front();
+    if (result != TIZEN_KEYROUTER_RESULT_GRANTED)
+    {
+        self->m_refused = true;
+        return;
+    }
+    const auto& [surface, name, mode] = asked;
+    if (const std::optional<int> replaced = otherStrengthOf(mode))
+    {
+        self->m_held.erase({surface, name, *replaced});
+    }
+    self->m_held.insert(asked);
+}
+
+} // namespace veskar

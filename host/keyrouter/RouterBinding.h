@@ -1,0 +1,67 @@
+/**
+ * An application's binding of the compositor's key router, and what it holds through it.
+ *
+ * The binding has an event queue of its own, so that waiting for an answer runs none of the toolkit's handlers. It
+ * keeps the set of what is held: whole groups of keys are released and taken at every screen, and only changes are
+ * worth the compositor's time.
+ */
+#pragma once
+
+#include "KeyNames.h"
+
+#include <deque>
+#include <memory>
+#include <set>
+#include <string>
+#include <tuple>
+
+struct tizen_keyrouter;
+struct wl_display;
+struct wl_event_queue;
+struct wl_registry;
+struct wl_surface;
+struct _KeyList;
+
+namespace veskar
+{
+
+class RouterBinding
+{
+public:
+    /** Throws std::runtime_error when the compositor does not answer. */
+    RouterBinding(wl_display* display, wl_registry* registry, uint32_t globalName);
+    ~RouterBinding();
+
+    RouterBinding(const RouterBinding&) = delete;
+    RouterBinding& operator=(const RouterBinding&) = delete;
+
+    /** False when one of the keys is refused. */
+    bool grab(wl_surface* surface, const _KeyList& list);
+
+    /** False when one of the keys is held, but in another mode. */
+    bool ungrab(wl_surface* surface, const _KeyList& list);
+
+private:
+    using Holding = std::tuple<wl_surface*, std::string, int>; // the surface, the key, the mode
+
+    static void onKey(void* self, tizen_keyrouter* router, const char* name, uint32_t code);
+    static void onGrabbed(void* self, tizen_keyrouter* router, const char* name, uint32_t mode, uint32_t result);
+
+    bool holds(const Holding& holding) const { return m_held.count(holding) > 0; }
+    bool release(const Holding& holding);
+
+    struct QueueDelete
+    {
+        void operator()(wl_event_queue* queue) const;
+    };
+
+    wl_display* m_display;
+    std::unique_ptr<wl_event_queue, QueueDelete> m_queue;
+    tizen_keyrouter* m_router = nullptr;
+    KeyNames m_names;
+    std::set<Holding> m_held;
+    std::deque<Holding> m_asked; // answers come in this order
+    bool m_refused = false;
+};
+
+} // namespace veskar
