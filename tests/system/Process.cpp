@@ -99,7 +99,7 @@ std::string Process::Output() const
     return text;
 }
 
-std::string Run(const std::vector<std::string>& command)
+std::string RunCommand(const std::vector<std::string>& command)
 {
     Process process(command);
     EXPECT_EQ(process.Status(), 0) << command.at(0) << " " << (command.size() > 1 ? command[1] : "");

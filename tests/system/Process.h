@@ -39,4 +39,4 @@ private:
 };
 
 /** Runs a command to its end and gives back what it printed; a status other than 0 fails the test. */
-std::string Run(const std::vector<std::string>& command);
+std::string RunCommand(const std::vector<std::string>& command);

@@ -59,13 +59,13 @@ void TvTest::Press(const std::vector<std::string>& keys)
 {
     std::vector<std::string> command{"veskar-remote", "press"};
     command.insert(command.end(), keys.begin(), keys.end());
-    Run(command);
+    RunCommand(command);
 }
 
 std::map<std::string, std::string> TvTest::Grabs()
 {
     std::map<std::string, std::string> grabs;
-    std::istringstream lines(Run({"veskar-remote", "grabs"}));
+    std::istringstream lines(RunCommand({"veskar-remote", "grabs"}));
     std::string line;
     while (std::getline(lines, line))
     {
@@ -85,7 +85,7 @@ std::map<std::string, std::string> TvTest::Grabs()
 Picture TvTest::Shot()
 {
     const std::string path = Setting("XDG_RUNTIME_DIR") + "/shot.png";
-    Run({"veskar-remote", "shot", path});
+    RunCommand({"veskar-remote", "shot", path});
     return ReadFile(path);
 }
 
@@ -105,13 +105,25 @@ Picture TvTest::StillShot()
 
 bool TvTest::IsApplicationRunning()
 {
+    return ApplicationPid() != 0;
+}
+
+unsigned TvTest::ApplicationPid()
+{
     auto bus = sdbus::createProxy(*m_bus, "org.freedesktop.DBus", "/org/freedesktop/DBus");
-    bool isRunning = false;
-    bus->callMethod("NameHasOwner")
-        .onInterface("org.freedesktop.DBus")
-        .withArguments(APPLICATION)
-        .storeResultsTo(isRunning);
-    return isRunning;
+    unsigned pid = 0;
+    try
+    {
+        bus->callMethod("GetConnectionUnixProcessID")
+            .onInterface("org.freedesktop.DBus")
+            .withArguments(APPLICATION)
+            .storeResultsTo(pid);
+    }
+    catch (const sdbus::Error&)
+    {
+        // The name has no owner.
+    }
+    return pid;
 }
 
 void TvTest::EndApplication()

@@ -42,6 +42,8 @@ protected:
     Picture StillShot();
 
     bool IsApplicationRunning();
+    /** 0 when it does not run. */
+    unsigned ApplicationPid();
     /** Ends the application as the TV would, and waits until it is gone. */
     void EndApplication();
     bool WaitForApplicationEnd();

@@ -1,0 +1,142 @@
+// The application's life on the TV: start, pause, resume, the two time-outs and the end.
+
+#include "Tv.h"
+
+#include <random>
+#include <thread>
+
+class Lifecycle : public TvTest
+{
+};
+
+TEST_F(Lifecycle, a_screen_that_is_replaced_ignores_its_pause_and_one_that_is_answered_does_not)
+{
+    Process first = SendMessage(7, 255, {"--button", "OK"});
+    ASSERT_TRUE(WaitUntil([this] { return CountInLog("Finishing resume callback!") == 1; }));
+    Process second = SendMessage(8, 255, {"--button", "OK"});
+    ASSERT_TRUE(WaitUntil([this] { return CountInLog("Finishing resume callback!") == 2; }));
+    EXPECT_EQ(CountInLog("Ignore pause!"), 1);
+    EXPECT_EQ(CountInLog("Finishing pause callback!"), 0);
+
+    Press({"Return"});
+    EXPECT_TRUE(WaitUntil([this] { return CountInLog("Finishing pause callback!") == 1; }));
+    EXPECT_EQ(CountInLog("Ignore pause!"), 1);
+}
+
+TEST_F(Lifecycle, the_process_ends_by_itself_after_an_answer_and_the_next_request_starts_a_new_one)
+{
+    Process first = SendMessage(7, 255, {"--button", "OK"});
+    const unsigned firstPid = ApplicationPid();
+    Press({"Return"});
+    EXPECT_EQ(first.Status(), 0);
+    EXPECT_TRUE(WaitForApplicationEnd());
+    EXPECT_EQ(CountInLog("Idle timeout, exit"), 1);
+
+    Process second = SendMessage(8, 255, {"--button", "OK"});
+    EXPECT_NE(ApplicationPid(), firstPid);
+    Press({"Return"});
+    EXPECT_EQ(second.Output(), Answer(8, 255, 0, 1, 0)) << second.Status();
+}
+
+TEST_F(Lifecycle, terminate_answers_the_screen_that_is_shown)
+{
+    Process request = SendMessage(7, 255, {"--button", "OK"});
+    EndApplication();
+    EXPECT_EQ(request.Status(), 2);
+    EXPECT_EQ(request.Output(), Answer(7, 255, 2, 0, 0));
+    EXPECT_EQ(CountInLog("Finishing terminate callback!"), 1);
+}
+
+TEST_F(Lifecycle, a_second_instance_draws_nothing_and_says_so)
+{
+    Process request = SendMessage(7, 255, {"--button", "OK"});
+    const Picture shown = StillShot();
+    Process second({"veskar-app", "1"});
+    EXPECT_EQ(second.Status(), 256 - 114);
+    EXPECT_EQ(StillShot(), shown);
+    Press({"Return"});
+    EXPECT_EQ(request.Output(), Answer(7, 255, 0, 1, 0)) << request.Status();
+}
+
+TEST_F(Lifecycle, a_test_case_shows_its_screen_and_is_never_answered)
+{
+    Process application({"veskar-app", "1"});
+    ASSERT_TRUE(WaitUntil([this] { return Grabs().count("Return") == 1; }));
+    Press({"Back"});
+    EXPECT_FALSE(Grabs().empty());
+    EndApplication();
+    EXPECT_EQ(application.Status(), 0);
+}
+
+/** These run with an application whose time-outs are short, so that nobody waits half a minute. */
+class TimeOuts : public TvTest
+{
+protected:
+    static constexpr std::chrono::milliseconds VISIBLE{VESKAR_VISIBLE_TIMEOUT_MS};
+    static constexpr std::chrono::milliseconds IDLE{VESKAR_IDLE_TIMEOUT_MS};
+
+    /** Whether the application is still there, the same process, after a time in which nothing happens. */
+    bool OutlivesFor(std::chrono::milliseconds time)
+    {
+        const unsigned pid = ApplicationPid();
+        return !WaitUntil([this, pid] { return !IsApplicationRunning() || ApplicationPid() != pid; }, time);
+    }
+};
+
+TEST_F(TimeOuts, a_screen_that_nobody_answers_ends_the_process_and_is_answered_as_closed)
+{
+    Process request = SendMessage(7, 255, {"--button", "OK"});
+    EXPECT_EQ(request.Status(), 2);
+    EXPECT_EQ(request.Output(), Answer(7, 255, 2, 0, 0));
+    EXPECT_TRUE(WaitForApplicationEnd());
+    EXPECT_EQ(CountInLog("Visible timeout, exit"), 1);
+}
+
+TEST_F(TimeOuts, a_key_starts_the_clock_again)
+{
+    Process request = SendMessage(7, 255, {"--button", "OK", "--button", "No"});
+    for (int i = 0; i < 4; ++i)
+    {
+        EXPECT_TRUE(OutlivesFor(VISIBLE * 2 / 3));
+        Press({"Right"});
+    }
+    EXPECT_EQ(request.Status(), 2);
+}
+
+TEST_F(TimeOuts, a_privileged_screen_and_one_that_must_not_close_never_start_the_clock)
+{
+    Process privileged = SendMessage(7, 254, {"--button", "OK"});
+    EXPECT_TRUE(OutlivesFor(VISIBLE * 2));
+    EndApplication();
+    Process staying = SendMessage(8, 255, {"--button", "OK", "--no-close"});
+    EXPECT_TRUE(OutlivesFor(VISIBLE * 2));
+    EXPECT_FALSE(staying.HasEnded());
+}
+
+TEST_F(TimeOuts, a_request_within_the_idle_time_keeps_the_process)
+{
+    Process first = SendMessage(7, 255, {"--button", "OK"});
+    const unsigned pid = ApplicationPid();
+    Press({"Return"});
+    ASSERT_TRUE(WaitUntil([this] { return CountInLog("Finishing pause callback!") == 1; }));
+    Process second = SendMessage(8, 254, {"--button", "OK"});
+    EXPECT_TRUE(OutlivesFor(IDLE * 4));
+    EXPECT_EQ(ApplicationPid(), pid);
+}
+
+TEST_F(TimeOuts, no_request_is_lost_around_the_end_of_the_process)
+{
+    constexpr int ROUNDS = 200;
+    std::minstd_rand random(20261121);
+    // Around the end of the idle time after an answer, from well before it to a little after it.
+    std::uniform_int_distribution<long> moment(IDLE.count() - 40, IDLE.count() + 60);
+    for (int round = 1; round <= ROUNDS; ++round)
+    {
+        Process request = SendMessage(round, 255, {"--button", "OK"});
+        Press({"Return"});
+        ASSERT_EQ(request.Status(), 0) << "round " << round;
+        ASSERT_EQ(request.Output(), Answer(round, 255, 0, 1, 0));
+        std::this_thread::sleep_for(std::chrono::milliseconds(moment(random)));
+    }
+    EXPECT_GT(CountInLog("Idle timeout, exit"), ROUNDS / 4) << "the rounds did not meet the end of the process";
+}

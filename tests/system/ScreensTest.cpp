@@ -1,0 +1,264 @@
+// Every other kind of screen: each way out that it has, and silence where it has none.
+
+#include "Tv.h"
+
+#include <fstream>
+
+namespace
+{
+
+std::vector<std::string> Rows(int count)
+{
+    std::vector<std::string> arguments;
+    for (int row = 1; row <= count; ++row)
+    {
+        arguments.insert(arguments.end(), {"--entry", "Row " + std::to_string(row)});
+    }
+    return arguments;
+}
+
+std::vector<std::string> operator+(std::vector<std::string> first, const std::vector<std::string>& second)
+{
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
+/** A picture of one grey, in the TV's own folder. */
+std::string GreyImage(const std::string& name, int side, unsigned char grey)
+{
+    const std::string path = std::string(std::getenv("XDG_RUNTIME_DIR")) + "/" + name + ".pgm";
+    std::ofstream file(path, std::ios::binary);
+    file << "P5\n" << side << ' ' << side << "\n255\n";
+    const std::string row(static_cast<std::size_t>(side), static_cast<char>(grey));
+    for (int y = 0; y < side; ++y)
+    {
+        file << row;
+    }
+    return path;
+}
+
+/** The memory that a process holds, in MiB. */
+long ResidentMemory(unsigned pid)
+{
+    long pages = 0;
+    std::ifstream("/proc/" + std::to_string(pid) + "/statm") >> pages >> pages;
+    return pages * 4096 / (1024 * 1024);
+}
+
+} // namespace
+
+class Screens : public TvTest
+{
+protected:
+    /** A screen of this kind with id 7 of the normal source. */
+    Process SendKind(const std::string& kind, const std::vector<std::string>& values)
+    {
+        std::vector<std::string> arguments{"--ui-id", "7", kind};
+        arguments.insert(arguments.end(), values.begin(), values.end());
+        return Send(arguments);
+    }
+
+    /** Each of these keys leaves a screen of this kind, and this is its answer. */
+    void ExpectAnswer(const std::string& kind, const std::vector<std::string>& values,
+                      const std::vector<std::string>& keys, const std::string& answer)
+    {
+        Process request = SendKind(kind, values);
+        Press(keys);
+        EXPECT_GE(request.Status(), 0) << kind << " is not answered";
+        EXPECT_EQ(request.Output(), answer) << kind;
+    }
+
+    void ExpectBackAndExit(const std::string& kind, const std::vector<std::string>& values)
+    {
+        ExpectAnswer(kind, values, {"Back"}, Answer(7, 255, 3, 0, 0));
+        ExpectAnswer(kind, values, {"Exit"}, Answer(7, 255, 2, 0, 0));
+    }
+
+    /** Closed by the middleware, and replaced by another screen. */
+    void ExpectCloseAndReplace(const std::string& kind, const std::vector<std::string>& values)
+    {
+        Process closed = SendKind(kind, values);
+        Send({"--ui-id", "7", "close"});
+        EXPECT_EQ(closed.Status(), 2) << kind;
+        EXPECT_EQ(closed.Output(), Answer(7, 255, 2, 0, 0)) << kind;
+
+        Process replaced = SendKind(kind, values);
+        Process message = SendMessage(8, 255, {"--button", "OK"});
+        EXPECT_EQ(replaced.Status(), 2) << kind;
+        Press({"Return"});
+        EXPECT_EQ(message.Output(), Answer(8, 255, 0, 1, 0)) << message.Status();
+    }
+
+    void ExpectSilence(Process& request, const std::vector<std::string>& keys)
+    {
+        Press(keys);
+        StillShot();
+        EXPECT_FALSE(request.HasEnded());
+    }
+};
+
+TEST_F(Screens, select_answers_the_toolkits_index_of_the_pressed_row)
+{
+    ExpectAnswer("select", Rows(5), {"Down", "Down", "Return"}, Answer(7, 255, 0, 0, 3));
+    ExpectAnswer("select", Rows(5), {"Return"}, Answer(7, 255, 0, 0, 1));
+    ExpectAnswer("select", Rows(1), {"Return"}, Answer(7, 255, 0, 0, 1));
+    ExpectAnswer("select", Rows(5) + std::vector<std::string>{"--header"}, {"Down", "Return"}, Answer(7, 255, 0, 0, 2));
+    ExpectBackAndExit("select", Rows(5));
+    ExpectCloseAndReplace("select", Rows(5));
+}
+
+TEST_F(Screens, select_takes_the_first_key_also_when_it_replaces_another_list)
+{
+    Process first = SendKind("select", Rows(4));
+    ExpectAnswer("select", Rows(4), {"Down", "Return"}, Answer(7, 255, 0, 0, 2));
+    EXPECT_EQ(first.Status(), 2);
+}
+
+TEST_F(Screens, list_says_nothing_of_a_pressed_row)
+{
+    Process request = SendKind("list", Rows(5));
+    ExpectSilence(request, {"Return", "Down", "Return"});
+    Press({"Back"});
+    EXPECT_EQ(request.Output(), Answer(7, 255, 3, 0, 0)) << request.Status();
+    ExpectBackAndExit("list", Rows(5));
+    ExpectCloseAndReplace("list", Rows(5));
+}
+
+TEST_F(Screens, list_of_many_rows_keeps_the_focused_one_in_view)
+{
+    Process request = SendKind("list", Rows(40));
+    const Picture top = StillShot();
+    Press(std::vector<std::string>(39, "Down"));
+    const Picture bottom = StillShot();
+    EXPECT_NE(bottom, top);
+    Press(std::vector<std::string>(39, "Up"));
+    EXPECT_EQ(StillShot(), top);
+}
+
+TEST_F(Screens, multi_list_answers_the_marked_rows_with_its_first_button)
+{
+    const std::vector<std::string> values =
+        Rows(4) + std::vector<std::string>{"--button", "Delete", "--button", "Cancel"};
+    const std::vector<std::string> press{"Return"};
+    const std::vector<std::string> toButtons(4, "Down");
+    ExpectAnswer("multi-list", values, std::vector<std::string>{"Return", "Down", "Down", "Return"} + toButtons + press,
+                 Answer(7, 255, 0, 0, 0, "13"));
+    ExpectAnswer("multi-list", values, toButtons + press, Answer(7, 255, 0, 1, 0));
+    ExpectAnswer("multi-list", values, toButtons + std::vector<std::string>{"Right", "Return"},
+                 Answer(7, 255, 0, 2, 0));
+    ExpectBackAndExit("multi-list", values);
+    ExpectCloseAndReplace("multi-list", values);
+}
+
+TEST_F(Screens, pin_arrives_as_typed_and_corrected)
+{
+    ExpectAnswer("pin", {"--title", "PIN"}, {"1", "2", "BackSpace", "3", "4", "5"}, Answer(7, 255, 0, 0, 0, "1345"));
+    ExpectBackAndExit("pin", {"--title", "PIN"});
+    ExpectCloseAndReplace("pin", {"--title", "PIN"});
+    EXPECT_EQ(CountInLog("1345"), 0) << "the log shows a PIN";
+}
+
+TEST_F(Screens, pin_takes_the_digits_of_the_number_pad)
+{
+    Process request = SendKind("pin", {"--title", "PIN"});
+    const Picture without = StillShot();
+    Press({"More"});
+    ASSERT_TRUE(WaitUntil(
+        [] {
+            return RunCommand({"veskar-setting", "get", "memory/function-osd/number_pad_show"}) == "1\n";
+        }));
+    EXPECT_NE(StillShot(), without);
+    // The pad begins on its 1; the others lie to the right.
+    Press({"Return", "Right", "Return", "Right", "Return", "Return"});
+    EXPECT_EQ(request.Status(), 0);
+    EXPECT_EQ(request.Output(), Answer(7, 255, 0, 0, 0, "1233"));
+    EXPECT_TRUE(WaitUntil(
+        [] {
+            return RunCommand({"veskar-setting", "get", "memory/function-osd/number_pad_show"}) == "0\n";
+        }));
+}
+
+TEST_F(Screens, progress_updates_in_place_and_answers_its_button_alone)
+{
+    Process request = SendKind("progress", {"--title", "Scan", "--percent", "0", "--button", "Cancel"});
+    Picture before = StillShot();
+    for (int percent = 10; percent <= 100; percent += 10)
+    {
+        Process update = Send({"--ui-id", "7", "--no-wait", "progress", "--title", "Scan", "--percent",
+                               std::to_string(percent), "--button", "Cancel"});
+        EXPECT_EQ(update.Status(), 0);
+        const Picture after = StillShot();
+        EXPECT_NE(after, before) << percent;
+        before = after;
+    }
+    EXPECT_EQ(CountInLog("Updated exiting progress"), 10);
+    EXPECT_EQ(CountInLog("Start visible timer"), 1);
+    EXPECT_EQ(CountInLog("Finishing pause callback!") + CountInLog("Ignore pause!"), 0) << "the window was hidden";
+    ExpectSilence(request, {"Back", "Exit"});
+    Press({"Return"});
+    EXPECT_EQ(request.Output(), Answer(7, 255, 0, 1, 0)) << request.Status();
+    ExpectCloseAndReplace("progress", {"--title", "Scan", "--percent", "5"});
+}
+
+TEST_F(Screens, loading_answers_its_button_alone)
+{
+    Process request = SendKind("loading", {"--text", "Please wait", "--button", "Cancel"});
+    Press({"Back", "Exit"});
+    EXPECT_FALSE(request.HasEnded());
+    Press({"Return"});
+    EXPECT_EQ(request.Output(), Answer(7, 255, 0, 1, 0)) << request.Status();
+    ExpectCloseAndReplace("loading", {"--text", "Please wait"});
+}
+
+TEST_F(Screens, image_shows_its_texts_and_buttons_whatever_its_file_is)
+{
+    const std::string notAnImage = std::string(std::getenv("XDG_RUNTIME_DIR")) + "/text.png";
+    std::ofstream(notAnImage) << "no image";
+    for (const std::string& file : {std::string("/nowhere/at/all.png"), notAnImage})
+    {
+        const std::vector<std::string> values{"--title", "Logo",     "--image", file,       "--width",
+                                              "400",     "--height", "300",     "--button", "OK"};
+        ExpectAnswer("image", values, {"Return"}, Answer(7, 255, 0, 1, 0));
+        EXPECT_EQ(CountInLog("Loading the image file has failed :" + file), 1);
+    }
+    ExpectBackAndExit("image", {"--title", "Logo"});
+    ExpectCloseAndReplace("image", {"--title", "Logo"});
+}
+
+TEST_F(Screens, image_of_enormous_size_is_shown_and_its_memory_given_back)
+{
+    Process before = SendKind("image", {"--title", "Logo", "--button", "OK"});
+    const long usual = ResidentMemory(ApplicationPid());
+    const std::string enormous = GreyImage("enormous", 8000, 90);
+    Process request = SendKind("image", {"--image", enormous, "--width", "8000", "--height", "8000", "--button", "OK"});
+    StillShot();
+    EXPECT_FALSE(request.HasEnded());
+    Process after = SendKind("image", {"--title", "Logo", "--button", "OK"});
+    EXPECT_EQ(request.Status(), 2);
+    EXPECT_TRUE(WaitUntil([&] { return ResidentMemory(ApplicationPid()) < usual + 100; }))
+        << "from " << usual << " to " << ResidentMemory(ApplicationPid()) << " MiB";
+    Press({"Return"});
+    EXPECT_EQ(after.Output(), Answer(7, 255, 0, 1, 0)) << after.Status();
+    std::remove(enormous.c_str());
+}
+
+TEST_F(Screens, image_list_follows_the_row_and_answers_it)
+{
+    const std::vector<std::string> values =
+        Rows(3) + std::vector<std::string>{"--image",  GreyImage("first", 400, 40),
+                                           "--image",  GreyImage("second", 400, 120),
+                                           "--image",  GreyImage("third", 400, 200),
+                                           "--width",  "600",
+                                           "--height", "400"};
+    Process request = SendKind("image-list", values);
+    const Picture first = StillShot();
+    Press({"Down"});
+    const Picture second = StillShot();
+    EXPECT_NE(second, first);
+    Press({"Up"});
+    EXPECT_EQ(StillShot(), first);
+    ExpectSilence(request, {"Back", "Exit"});
+    Press({"Down", "Down", "Return"});
+    EXPECT_EQ(request.Output(), Answer(7, 255, 0, 0, 3)) << request.Status();
+    ExpectCloseAndReplace("image-list", values);
+}
