@@ -1,0 +1,21 @@
+/** The TV's context manager: is asked to stop a task, and only says so. */
+#pragma once
+
+#include "DeskBus.h"
+
+#include <functional>
+#include <memory>
+
+namespace VESKAR_DESK
+{
+class ContextManager
+{
+public:
+    using TaskRequested = std::function<void(const std::string& task, const std::string& action)>;
+
+    ContextManager(sdbus::IConnection& connection, TaskRequested taskRequested);
+
+private:
+    std::unique_ptr<sdbus::IObject> m_object;
+};
+} // namespace VESKAR_DESK

@@ -1,0 +1,68 @@
+/** Who waits for the answer of which screen. */
+#pragma once
+
+#include <sdbus-c++/sdbus-c++.h>
+
+#include <cstdint>
+#include <list>
+#include <memory>
+#include <string>
+
+namespace VESKAR_DESK
+{
+struct ScreenIds
+{
+    std::int32_t uiId;
+    std::uint8_t sourceId;
+
+    bool operator==(const ScreenIds& other) const { return uiId == other.uiId && sourceId == other.sourceId; }
+};
+
+struct Answer
+{
+    ScreenIds screen;
+    std::int32_t kind;
+    std::uint8_t button;
+    std::uint8_t item;
+    std::string data;
+};
+
+/** One request that waits for its answer. Its client owns it: it ends with the answer, or with its client. */
+struct Waiter
+{
+    using Result = sdbus::Result<std::int32_t, std::uint8_t, std::int32_t, std::uint8_t, std::uint8_t, std::string>;
+
+    std::string client;
+    ScreenIds screen;
+    Result result;
+    /** The application has handled the request: it answers for this one too from now on. */
+    bool delivered = false;
+};
+
+/**
+ * The rule for several waiters with the same ids: an answer is for every one of them whose request the application had
+ * handled when it answered. The application handles one request at a time and answers for the screen that it replaces
+ * before it has handled the one that replaces it. So two handled requests with the same ids that both wait for an
+ * answer made one screen (a progress screen updated in place) and share what comes of it; while of two messages with
+ * the same ids the first is answered as closed before the second counts, and the second waits on.
+ *
+ * It holds because the daemon sends every request itself, on the connection on which the answers come: the bus keeps
+ * the order of one connection's messages.
+ */
+class Screens
+{
+public:
+    std::weak_ptr<Waiter> Add(std::string client, ScreenIds screen, Waiter::Result result);
+
+    /** The request was refused, or went nowhere: its waiter learns why. */
+    void Fail(const std::shared_ptr<Waiter>& waiter, const sdbus::Error& error);
+    /** How many waiters the answer was for. */
+    std::size_t Answered(const Answer& answer);
+    /** The application is gone for good: whoever waits for one of its screens learns it. */
+    void FailDelivered(const sdbus::Error& error);
+    void RemoveClient(const std::string& client);
+
+private:
+    std::list<std::shared_ptr<Waiter>> m_waiters;
+};
+} // namespace VESKAR_DESK

@@ -1,0 +1,49 @@
+#include "ServeOnce.h"
+
+#include <poll.h>
+
+#include <algorithm>
+#include <limits>
+
+namespace VESKAR_DESK
+{
+namespace
+{
+constexpr int s_noTimeout = -1;
+
+int MillisecondsUntil(Clock::time_point deadline)
+{
+    if (deadline == never)
+    {
+        return s_noTimeout;
+    }
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
+    return static_cast<int>(std::clamp<decltype(left)>(left, 0, std::numeric_limits<int>::max()));
+}
+
+int Shorter(int left, int right)
+{
+    if (left == s_noTimeout || right == s_noTimeout)
+    {
+        return std::max(left, right);
+    }
+    return std::min(left, right);
+}
+} // namespace
+
+bool ServeOnce(sdbus::IConnection& connection, Clock::time_point deadline)
+{
+    if (connection.processPendingRequest())
+    {
+        return true;
+    }
+    if (deadline != never && Clock::now() >= deadline)
+    {
+        return false;
+    }
+    const auto bus = connection.getEventLoopPollData();
+    pollfd descriptor{bus.fd, bus.events, 0};
+    ::poll(&descriptor, 1, Shorter(bus.getPollTimeout(), MillisecondsUntil(deadline)));
+    return true;
+}
+} // namespace VESKAR_DESK

@@ -1,0 +1,18 @@
+/** One step of a bus loop with a deadline; the library's own loop knows of no other time than its own. */
+#pragma once
+
+#include <sdbus-c++/sdbus-c++.h>
+
+#include <chrono>
+
+namespace VESKAR_DESK
+{
+using Clock = std::chrono::steady_clock;
+inline constexpr Clock::time_point never = Clock::time_point::max();
+
+/**
+ * Handles one message of the connection, or waits until there may be one. False once the deadline has passed without
+ * one. Throws sdbus::Error when the bus is gone.
+ */
+bool ServeOnce(sdbus::IConnection& connection, Clock::time_point deadline);
+} // namespace VESKAR_DESK

@@ -1,0 +1,114 @@
+#include "ContextManager.h"
+#include "Middleware.h"
+#include "Print.h"
+#include "ServeOnce.h"
+#include "StandIn.h"
+
+#include <CLI/CLI.hpp>
+
+#include <list>
+
+using namespace VESKAR_DESK;
+
+namespace
+{
+/** Exit statuses, as <sysexits.h> numbers them. */
+constexpr int s_badUsage = 64;
+constexpr int s_unavailable = 69;
+
+/**
+ * False when another process has the name. The bus starts one process for each name that is called while nobody has
+ * it; the second one to come up is not needed, as the first takes both names.
+ */
+bool OwnName(sdbus::IConnection& connection, const std::string& name)
+{
+    try
+    {
+        connection.requestName(name);
+        return true;
+    }
+    catch (const sdbus::Error& error)
+    {
+        Print(name + " stays with whoever has it: " + error.getMessage());
+        return false;
+    }
+}
+
+/** The middleware and the context manager, until the bus ends. */
+void ServeTv(sdbus::IConnection& connection)
+{
+    Middleware middleware(connection);
+    ContextManager contextManager(connection, [&middleware](const std::string& task, const std::string& action)
+                                  { middleware.TaskRequested(task, action); });
+    // The objects come first: the message that started this process is delivered with the name.
+    if (!OwnName(connection, Controller::busName) || !OwnName(connection, Manager::busName))
+    {
+        return;
+    }
+    while (true)
+    {
+        if (!ServeOnce(connection, middleware.Deadline()))
+        {
+            middleware.GiveUp();
+        }
+    }
+}
+
+/** The applications named, until each was told to end. */
+void ServeStandIns(sdbus::IConnection& connection, const std::vector<std::string>& appIds)
+{
+    std::size_t running = appIds.size();
+    std::list<StandIn> standIns;
+    for (const std::string& appId : appIds)
+    {
+        standIns.emplace_back(connection, appId,
+                              [&connection, &running, appId]
+                              {
+                                  connection.releaseName(appId);
+                                  --running;
+                              });
+    }
+    while (running > 0)
+    {
+        ServeOnce(connection, never);
+    }
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
+    CLI::App app{
+        "Stands for the other sides of a TV on the session bus, and says on standard error what it was asked.\n"
+        "Without options: the middleware and the context manager, as the bus starts it."};
+    std::vector<std::string> appIds;
+    app.add_option("--own", appIds, "Stand for these applications instead, for example org.tizen.wizard")
+        ->type_name("APP_ID");
+    try
+    {
+        app.parse(argc, argv);
+    }
+    catch (const CLI::ParseError& error)
+    {
+        return app.exit(error) == 0 ? 0 : s_badUsage;
+    }
+
+    std::unique_ptr<sdbus::IConnection> connection;
+    try
+    {
+        connection = sdbus::createSessionBusConnection();
+        if (appIds.empty())
+        {
+            ServeTv(*connection);
+        }
+        else
+        {
+            ServeStandIns(*connection, appIds);
+        }
+        return 0;
+    }
+    catch (const sdbus::Error& error)
+    {
+        Print(error.what());
+        return s_unavailable;
+    }
+}

@@ -1,0 +1,198 @@
+#include "CommandLine.h"
+
+#include "Report.h"
+#include "ScreenKinds.h"
+
+#include <CLI/CLI.hpp>
+
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <stdexcept>
+
+namespace VESKAR_DESK
+{
+namespace
+{
+constexpr auto s_description = "Plays the middleware: asks the application for a screen and prints the answer.";
+
+constexpr auto s_footer = R"(
+A text that begins with "-" is given as --title=-x. An answer is one line of JSON on standard output.
+
+Exit status:
+  0   answered; or taken by the application, where nothing is waited for (close, sequence, --no-wait)
+  1   the viewer pressed Back
+  2   closed without an answer: by Exit, a close request, another screen, or the screen's own time-out
+  3   no answer within --timeout
+  64  bad usage, or the application refused the request
+  69  no bus, no application, or the application went away without an answer
+  70  an answer of a kind that is not known
+
+Several requests may wait at once without disturbing each other. Of two with the same ids the first is answered as
+closed when the second takes its place; a progress screen updated in place answers everybody who waits for it.)";
+
+Texts Lines(const std::string& fileName)
+{
+    std::ifstream file;
+    if (fileName != "-")
+    {
+        file.open(fileName);
+        if (!file)
+        {
+            throw CLI::ValidationError(fileName, "cannot be read");
+        }
+    }
+    Texts lines;
+    for (std::string line; std::getline(fileName == "-" ? std::cin : file, line);)
+    {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+/** Gives the request its default for the field and lets the option, where it is given, replace it. */
+void AddField(CLI::App& kind, const Field& field, Request& request)
+{
+    const std::string key = field.key;
+    switch (field.encoding)
+    {
+    case Encoding::text:
+        request.Set(key, std::string{});
+        kind.add_option_function<std::string>(
+            field.option, [&request, key](const std::string& text) { request.Set(key, text); }, field.help);
+        break;
+    case Encoding::number:
+        request.SetNumber(key, field.defaultNumber);
+        kind.add_option_function<int>(
+                field.option, [&request, key](int number) { request.SetNumber(key, number); }, field.help)
+            ->default_str(std::to_string(field.defaultNumber));
+        break;
+    case Encoding::flag:
+        request.SetFlag(key, false);
+        kind.add_flag_callback(
+            field.option, [&request, key] { request.SetFlag(key, true); }, field.help);
+        break;
+    case Encoding::texts:
+        request.Set(key, Texts{});
+        kind.add_option_function<Texts>(
+                field.option, [&request, key](const Texts& texts) { request.Set(key, texts); }, field.help)
+            ->type_size(1)
+            ->allow_extra_args(false);
+        break;
+    case Encoding::textsFromFile:
+        // Options are handled in the order in which they were added: the elements given one by one are there already.
+        kind.add_option_function<std::string>(
+                field.option, [&request, key](const std::string& file) { request.Append(key, Lines(file)); },
+                field.help)
+            ->type_name("FILE");
+        break;
+    }
+}
+
+/** The options that hold for every kind. */
+struct General
+{
+    int uiId = 1;
+    int sourceId = 255;
+    double timeout = 120;
+    bool noWait = false;
+};
+
+void AddGeneral(CLI::App& app, General& general)
+{
+    constexpr double shortest = 1e-3;
+    constexpr double longest = 1e9;
+    app.add_option("--ui-id", general.uiId, "The screen's id")->capture_default_str();
+    app.add_option("--source-id", general.sourceId, "Who asks: 254 privileged, 255 normal, else the access module")
+        ->capture_default_str()
+        ->check(CLI::Range(0, 255));
+    app.add_option("--timeout", general.timeout, "Seconds to wait for the answer")
+        ->capture_default_str()
+        ->check(CLI::Range(shortest, longest));
+    app.add_flag("--no-wait", general.noWait, "Do not wait for the answer");
+}
+
+/** One request for each kind, by its name; the sub-command's options fill it in. Their places do not move. */
+using Requests = std::map<std::string, Request>;
+constexpr auto s_raw = "raw";
+
+void AddScreens(CLI::App& app, Requests& requests)
+{
+    for (const ScreenKind& kind : ScreenKinds())
+    {
+        CLI::App* command = app.add_subcommand(kind.name, kind.help);
+        Request& request = requests[kind.name] = Request::Screen(kind.uiType);
+        for (const Field& field : kind.fields)
+        {
+            AddField(*command, field, request);
+        }
+    }
+}
+
+void AddOthers(CLI::App& app, Requests& requests)
+{
+    app.add_subcommand("close", "Close the screen with these ids; ui id 0: whichever is shown");
+    requests["close"] = Request::Screen("ui_type_close");
+
+    app.add_subcommand("sequence", "A request that does nothing");
+    requests["sequence"] = Request::Sequence();
+
+    Request& menu = requests["menu"];
+    app.add_subcommand("menu", "Open a menu; prints what is asked of the context manager and the middleware for it")
+        ->add_option_function<std::string>(
+            "POSITION", [&menu](const std::string& position) { menu = Request::Menu(position); },
+            "veskar_menu, veskar_info, veskar_add_op or veskar_delete_op")
+        ->required();
+
+    Request& raw = requests[s_raw];
+    app.add_subcommand(s_raw, "Exactly these values; waits if they ask for a screen, with the ids among them")
+        ->add_option_function<Texts>(
+            "KEY=VALUE",
+            [&raw](const Texts& words)
+            {
+                try
+                {
+                    raw = Request::Raw(words);
+                }
+                catch (const std::invalid_argument& error)
+                {
+                    throw CLI::ValidationError(s_raw, error.what());
+                }
+            },
+            "A text, or with KEY[]=VALUE one more element of a list")
+        ->required();
+}
+} // namespace
+
+std::variant<Command, int> ParseCommandLine(int argc, char** argv)
+{
+    CLI::App app{s_description, "veskar-mw"};
+    app.footer(s_footer);
+    app.require_subcommand(1);
+    // So that the general options may also follow the kind.
+    app.fallthrough();
+    General general;
+    Requests requests;
+    AddGeneral(app, general);
+    AddScreens(app, requests);
+    AddOthers(app, requests);
+    try
+    {
+        app.parse(argc, argv);
+    }
+    catch (const CLI::ParseError& error)
+    {
+        return app.exit(error) == 0 ? 0 : ExitStatus::badUsage;
+    }
+
+    const std::string kind = app.get_subcommands().front()->get_name();
+    Request request = requests.at(kind);
+    if (kind != s_raw)
+    {
+        request.SetIds(general.uiId, static_cast<std::uint8_t>(general.sourceId));
+    }
+    const auto timeout =
+        std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::duration<double>{general.timeout});
+    return Command{request, timeout, !general.noWait};
+}
+} // namespace VESKAR_DESK

@@ -1,0 +1,21 @@
+/** veskar-mw's command line. */
+#pragma once
+
+#include "Request.h"
+
+#include <chrono>
+#include <variant>
+
+namespace VESKAR_DESK
+{
+struct Command
+{
+    Request request;
+    std::chrono::microseconds timeout;
+    /** False: done once the application has taken the request. */
+    bool wait;
+};
+
+/** The command, or the process's exit status where help was asked for or the usage is wrong (said on stderr). */
+std::variant<Command, int> ParseCommandLine(int argc, char** argv);
+} // namespace VESKAR_DESK

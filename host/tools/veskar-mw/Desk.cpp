@@ -1,0 +1,97 @@
+#include "Desk.h"
+
+#include "DeskBus.h"
+#include "ServeOnce.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace VESKAR_DESK
+{
+namespace
+{
+using namespace std::chrono_literals;
+
+const std::string s_timeout = "org.freedesktop.DBus.Error.Timeout";
+const std::string s_invalid = "org.freedesktop.DBus.Error.InvalidArgs";
+
+RequestData OnTheBus(const Request& request)
+{
+    RequestData data;
+    for (const auto& [key, value] : request.Values())
+    {
+        data.emplace(key, std::visit([](const auto& held) { return sdbus::Variant{held}; }, value));
+    }
+    return data;
+}
+} // namespace
+
+DeskConnection::DeskConnection(std::chrono::microseconds timeout)
+    : m_deadline(Clock::now() + timeout), m_connection(sdbus::createSessionBusConnection()),
+      m_desk(sdbus::createProxy(*m_connection, Controller::busName, Controller::path))
+{
+}
+
+ScreenAnswer DeskConnection::Ask(const Request& request)
+{
+    ScreenAnswer answer;
+    m_desk->callMethod(Desk::ask)
+        .onInterface(Desk::interface)
+        .withTimeout(m_TimeLeft())
+        .withArguments(std::int32_t{request.UiId()}, request.SourceId(), OnTheBus(request))
+        .storeResultsTo(answer.uiId, answer.sourceId, answer.kind, answer.button, answer.item, answer.data);
+    return answer;
+}
+
+void DeskConnection::Tell(const Request& request)
+{
+    m_desk->callMethod(Desk::tell)
+        .onInterface(Desk::interface)
+        .withTimeout(m_TimeLeft())
+        .withArguments(OnTheBus(request));
+}
+
+int DeskConnection::OpenMenu(const Request& request, const TaskRequested& taskRequested)
+{
+    std::optional<int> opened;
+    m_desk->uponSignal(Desk::taskRequested)
+        .onInterface(Desk::interface)
+        .call([&taskRequested](const std::string& task, const std::string& action) { taskRequested(task, action); });
+    m_desk->uponSignal(Desk::menuPositionOpened)
+        .onInterface(Desk::interface)
+        .call([&opened](std::int32_t position) { opened = position; });
+    m_desk->finishRegistration();
+
+    m_desk->callMethod(Desk::openMenu)
+        .onInterface(Desk::interface)
+        .withTimeout(m_TimeLeft())
+        .withArguments(OnTheBus(request));
+    while (!opened)
+    {
+        if (!ServeOnce(*m_connection, m_deadline))
+        {
+            throw sdbus::Error{s_timeout, "no menu position was opened"};
+        }
+    }
+    return *opened;
+}
+
+std::chrono::microseconds DeskConnection::m_TimeLeft() const
+{
+    // To the bus library 0 means its own default.
+    return std::max(1us, std::chrono::duration_cast<std::chrono::microseconds>(m_deadline - Clock::now()));
+}
+
+int StatusOf(const sdbus::Error& error)
+{
+    if (error.getName() == s_timeout)
+    {
+        return ExitStatus::timedOut;
+    }
+    if (error.getName() == Desk::refused || error.getName() == s_invalid)
+    {
+        return ExitStatus::badUsage;
+    }
+    return ExitStatus::unavailable;
+}
+} // namespace VESKAR_DESK

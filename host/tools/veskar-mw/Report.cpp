@@ -1,0 +1,58 @@
+#include "Report.h"
+
+#include "DeskBus.h"
+
+#include <nlohmann/json.hpp>
+
+namespace VESKAR_DESK
+{
+namespace
+{
+using Json = nlohmann::ordered_json;
+
+struct Result
+{
+    const char* name;
+    int status;
+};
+
+Result ResultOf(int kind)
+{
+    switch (kind)
+    {
+    case Controller::answered:
+        return {"answered", ExitStatus::answered};
+    case Controller::closed:
+        return {"closed", ExitStatus::closed};
+    case Controller::back:
+        return {"back", ExitStatus::back};
+    default:
+        return {"unknown", ExitStatus::unknownAnswer};
+    }
+}
+} // namespace
+
+std::string ToJson(const ScreenAnswer& answer)
+{
+    return Json{{"uiId", answer.uiId},     {"sourceId", answer.sourceId},
+                {"kind", answer.kind},     {"result", ResultOf(answer.kind).name},
+                {"button", answer.button}, {"item", answer.item},
+                {"data", answer.data}}
+        .dump();
+}
+
+std::string TaskToJson(const std::string& task, const std::string& action)
+{
+    return Json{{"task", task}, {"action", action}}.dump();
+}
+
+std::string MenuPositionToJson(int position)
+{
+    return Json{{"menuPosition", position}}.dump();
+}
+
+int StatusOf(const ScreenAnswer& answer)
+{
+    return ResultOf(answer.kind).status;
+}
+} // namespace VESKAR_DESK

@@ -1,0 +1,37 @@
+/** What veskar-mw says in the end: JSON lines on standard output, and its exit status. */
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace VESKAR_DESK
+{
+namespace ExitStatus
+{
+inline constexpr int answered = 0;
+inline constexpr int delivered = 0;
+inline constexpr int back = 1;
+inline constexpr int closed = 2;
+inline constexpr int timedOut = 3;
+inline constexpr int badUsage = 64;
+inline constexpr int unavailable = 69;
+inline constexpr int unknownAnswer = 70;
+} // namespace ExitStatus
+
+struct ScreenAnswer
+{
+    std::int32_t uiId = 0;
+    std::uint8_t sourceId = 0;
+    std::int32_t kind = 0;
+    std::uint8_t button = 0;
+    std::uint8_t item = 0;
+    std::string data;
+};
+
+/** Each is one line of JSON, without its line end. */
+std::string ToJson(const ScreenAnswer& answer);
+std::string TaskToJson(const std::string& task, const std::string& action);
+std::string MenuPositionToJson(int position);
+
+int StatusOf(const ScreenAnswer& answer);
+} // namespace VESKAR_DESK

@@ -1,0 +1,55 @@
+/** A service request as the application understands it, built without a bus. */
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace VESKAR_DESK
+{
+using Texts = std::vector<std::string>;
+
+class Request
+{
+public:
+    using Value = std::variant<std::string, Texts>;
+
+    /** A screen of `type`, for example "ui_type_message", or "ui_type_close"; its ids are set apart. */
+    static Request Screen(const std::string& type);
+    static Request Menu(const std::string& position);
+    static Request Sequence();
+    /**
+     * KEY=VALUE sets a text, KEY[]=VALUE appends to a list of texts; of a text set twice the last counts. Throws
+     * std::invalid_argument for a word that is neither, and for a key that is used both ways.
+     */
+    static Request Raw(const Texts& words);
+
+    Request& Set(const std::string& key, const std::string& value);
+    Request& Set(const std::string& key, const Texts& values);
+    /** More elements for a list that is there. */
+    Request& Append(const std::string& key, const Texts& values);
+    Request& SetNumber(const std::string& key, int value);
+    Request& SetFlag(const std::string& key, bool value);
+    /** Of a screen or its close; does nothing to other requests, which have none. */
+    Request& SetIds(int uiId, std::uint8_t sourceId);
+
+    const std::map<std::string, Value>& Values() const { return m_values; }
+
+    /** Whether the application will show a screen for it, which ends in an answer with the ids below. */
+    bool AsksForScreen() const;
+    bool AsksForClose() const;
+    bool AsksForMenu() const;
+    /** The ids as the application reads them: 0 for a text without a number, and of the source the low 8 bits. */
+    int UiId() const;
+    std::uint8_t SourceId() const;
+
+private:
+    bool m_Is(const char* key, const char* value) const;
+    const std::string* m_Text(const char* key) const;
+    int m_Number(const char* key) const;
+
+    std::map<std::string, Value> m_values;
+};
+} // namespace VESKAR_DESK

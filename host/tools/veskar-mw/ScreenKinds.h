@@ -1,0 +1,40 @@
+/** The screens that can be asked for, and which option of the command line becomes which value of the request. */
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace VESKAR_DESK
+{
+/** How an option's value is carried. */
+enum class Encoding
+{
+    text,
+    number,
+    flag,
+    /** The option is repeatable, each time one element. */
+    texts,
+    /** The option names a file whose lines are further elements. */
+    textsFromFile
+};
+
+struct Field
+{
+    std::string key;
+    std::string option;
+    Encoding encoding;
+    std::string help;
+    int defaultNumber = 0;
+};
+
+struct ScreenKind
+{
+    std::string name;
+    std::string uiType;
+    std::string help;
+    /** Every one of them is sent, also where the command line gives none: empty, 0 or the default number then. */
+    std::vector<Field> fields;
+};
+
+const std::vector<ScreenKind>& ScreenKinds();
+} // namespace VESKAR_DESK
