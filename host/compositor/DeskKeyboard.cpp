@@ -1,8 +1,10 @@
 #include "DeskKeyboard.h"
 
 #include <algorithm>
+#include <iomanip>
 #include <iterator>
 #include <linux/input-event-codes.h>
+#include <sstream>
 
 namespace veskar
 {
@@ -13,7 +15,7 @@ namespace
 struct Typed
 {
     uint32_t code;
-    const char* label;
+    const char* label; // null: its line in the help is another's
     const char* key;
 };
 
@@ -23,31 +25,31 @@ constexpr Typed TYPED[] = {
     {KEY_LEFT, "arrow left", "Left"},
     {KEY_RIGHT, "arrow right", "Right"},
     {KEY_ENTER, "Enter", "Return"},
-    {KEY_KPENTER, "keypad Enter", "Return"},
+    {KEY_KPENTER, nullptr, "Return"},
     {KEY_ESC, "Escape", "XF86Back"},
     {KEY_Q, "q", "XF86Exit"},
     {KEY_M, "m", "XF86More"},
     {KEY_BACKSPACE, "BackSpace", "BackSpace"},
-    {KEY_0, "0", "0"},
-    {KEY_1, "1", "1"},
-    {KEY_2, "2", "2"},
-    {KEY_3, "3", "3"},
-    {KEY_4, "4", "4"},
-    {KEY_5, "5", "5"},
-    {KEY_6, "6", "6"},
-    {KEY_7, "7", "7"},
-    {KEY_8, "8", "8"},
-    {KEY_9, "9", "9"},
-    {KEY_KP0, "keypad 0", "0"},
-    {KEY_KP1, "keypad 1", "1"},
-    {KEY_KP2, "keypad 2", "2"},
-    {KEY_KP3, "keypad 3", "3"},
-    {KEY_KP4, "keypad 4", "4"},
-    {KEY_KP5, "keypad 5", "5"},
-    {KEY_KP6, "keypad 6", "6"},
-    {KEY_KP7, "keypad 7", "7"},
-    {KEY_KP8, "keypad 8", "8"},
-    {KEY_KP9, "keypad 9", "9"},
+    {KEY_0, nullptr, "0"},
+    {KEY_1, nullptr, "1"},
+    {KEY_2, nullptr, "2"},
+    {KEY_3, nullptr, "3"},
+    {KEY_4, nullptr, "4"},
+    {KEY_5, nullptr, "5"},
+    {KEY_6, nullptr, "6"},
+    {KEY_7, nullptr, "7"},
+    {KEY_8, nullptr, "8"},
+    {KEY_9, nullptr, "9"},
+    {KEY_KP0, nullptr, "0"},
+    {KEY_KP1, nullptr, "1"},
+    {KEY_KP2, nullptr, "2"},
+    {KEY_KP3, nullptr, "3"},
+    {KEY_KP4, nullptr, "4"},
+    {KEY_KP5, nullptr, "5"},
+    {KEY_KP6, nullptr, "6"},
+    {KEY_KP7, nullptr, "7"},
+    {KEY_KP8, nullptr, "8"},
+    {KEY_KP9, nullptr, "9"},
     {KEY_P, "p", "XF86AudioPlay"},
     {KEY_SPACE, "space", "XF86AudioPause"},
     {KEY_S, "s", "XF86AudioStop"},
@@ -82,13 +84,18 @@ const Key* deskKey(uint32_t code)
 
 std::string deskKeyboardHelp()
 {
-    std::string help = "The keyboard plays the remote control:\n";
+    std::ostringstream help;
+    help << "The keyboard plays the remote control:\n"
+         << std::left << std::setw(16) << "  digits"
+         << "the same\n";
     for (const Typed& typed : TYPED)
     {
-        const std::string label = typed.label;
-        help += "  " + label + std::string(label.size() < 14 ? 14 - label.size() : 1, ' ') + typed.key + "\n";
+        if (typed.label != nullptr)
+        {
+            help << "  " << std::setw(14) << typed.label << typed.key << "\n";
+        }
     }
-    return help;
+    return help.str();
 }
 
 } // namespace veskar

@@ -69,11 +69,16 @@ weston_keyboard* Seat::keyboard() const
 
 void Seat::keepKeymap()
 {
-    const weston_keyboard* board = keyboard();
-    if (board != nullptr && board->xkb_info->keymap != m_keymap.get())
+    weston_keyboard* board = keyboard();
+    if (board == nullptr || board->xkb_info->keymap == m_keymap.get())
     {
-        weston_seat_update_keymap(m_seat, m_keymap.get());
+        return;
     }
+    // While keys are down the compositor puts a new keymap off, and the key that is just coming would mean another.
+    const size_t pressed = board->keys.size;
+    board->keys.size = 0;
+    weston_seat_update_keymap(m_seat, m_keymap.get());
+    board->keys.size = pressed;
 }
 
 void Seat::inject(const Key& key, wl_keyboard_key_state state)
