@@ -213,7 +213,12 @@ void Middleware::m_OwnerChanged(const std::string& name, const std::string& oldO
     if (name == Application::id)
     {
         Print(name + (newOwner.empty() ? " left the bus" : " is on the bus"));
-        m_deadline = newOwner.empty() ? Clock::now() + s_restartTime : never;
+        m_deadline = never;
+        if (newOwner.empty())
+        {
+            m_screens.ProcessLeft();
+            m_deadline = Clock::now() + s_restartTime;
+        }
         return;
     }
     if (name == oldOwner && newOwner.empty())

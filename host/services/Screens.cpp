@@ -32,6 +32,14 @@ std::size_t Screens::Answered(const Answer& answer)
     return before - m_waiters.size();
 }
 
+void Screens::ProcessLeft()
+{
+    for (const auto& waiter : m_waiters)
+    {
+        waiter->delivered = true;
+    }
+}
+
 void Screens::FailDelivered(const sdbus::Error& error)
 {
     m_waiters.remove_if(

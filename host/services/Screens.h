@@ -44,7 +44,8 @@ struct Waiter
  * handled when it answered. The application handles one request at a time and answers for the screen that it replaces
  * before it has handled the one that replaces it. So two handled requests with the same ids that both wait for an
  * answer made one screen (a progress screen updated in place) and share what comes of it; while of two messages with
- * the same ids the first is answered as closed before the second counts, and the second waits on.
+ * the same ids the first is answered as closed before the second counts, and the second waits on. A request whose
+ * screen the application closed without an answer waits on too, and shares the next answer with these ids if one comes.
  *
  * It holds because the daemon sends every request itself, on the connection on which the answers come: the bus keeps
  * the order of one connection's messages.
@@ -58,7 +59,12 @@ public:
     void Fail(const std::shared_ptr<Waiter>& waiter, const sdbus::Error& error);
     /** How many waiters the answer was for. */
     std::size_t Answered(const Answer& answer);
-    /** The application is gone for good: whoever waits for one of its screens learns it. */
+    /**
+     * The application's process left the bus. What it had not handled, it passes on to the next one, whose answers
+     * come on a connection of their own: nothing tells any more which came first, so they count from now on.
+     */
+    void ProcessLeft();
+    /** No next process came: whoever waits for a screen learns it. */
     void FailDelivered(const sdbus::Error& error);
     void RemoveClient(const std::string& client);
 

@@ -40,7 +40,7 @@ void ServeTv(sdbus::IConnection& connection)
     Middleware middleware(connection);
     ContextManager contextManager(connection, [&middleware](const std::string& task, const std::string& action)
                                   { middleware.TaskRequested(task, action); });
-    // The objects come first: the message that started this process is delivered with the name.
+    // The objects are there by now: the message that started this process is delivered with the name.
     if (!OwnName(connection, Controller::busName) || !OwnName(connection, Manager::busName))
     {
         return;
@@ -92,10 +92,9 @@ int main(int argc, char** argv)
         return app.exit(error) == 0 ? 0 : s_badUsage;
     }
 
-    std::unique_ptr<sdbus::IConnection> connection;
     try
     {
-        connection = sdbus::createSessionBusConnection();
+        const auto connection = sdbus::createSessionBusConnection();
         if (appIds.empty())
         {
             ServeTv(*connection);
@@ -108,7 +107,8 @@ int main(int argc, char** argv)
     }
     catch (const sdbus::Error& error)
     {
-        Print(error.what());
-        return s_unavailable;
+        const bool busEnded = error.getName() == "org.freedesktop.DBus.Error.Disconnected";
+        Print(busEnded ? "the bus ended" : error.what());
+        return busEnded ? 0 : s_unavailable;
     }
 }

@@ -16,8 +16,9 @@ namespace
 {
 constexpr auto s_description = "Plays the middleware: asks the application for a screen and prints the answer.";
 
-constexpr auto s_footer = R"(
-A text that begins with "-" is given as --title=-x. An answer is one line of JSON on standard output.
+constexpr auto s_footer =
+    R"(A text may be anything, also empty or with a "-" in front: --title="" or --title "-x". An answer is one line of JSON on
+standard output.
 
 Exit status:
   0   answered; or taken by the application, where nothing is waited for (close, sequence, --no-wait)
@@ -162,12 +163,28 @@ void AddOthers(CLI::App& app, Requests& requests)
             "A text, or with KEY[]=VALUE one more element of a list")
         ->required();
 }
+/** The arguments in the library's order, which is backwards; --title= in two words, as it takes no empty text in one.
+ */
+Texts Arguments(int argc, char** argv)
+{
+    Texts arguments;
+    for (int i = argc - 1; i > 0; --i)
+    {
+        const std::string word = argv[i];
+        const bool isEmptyOption = word.rfind("--", 0) == 0 && word.find('=') == word.size() - 1;
+        if (isEmptyOption)
+        {
+            arguments.emplace_back();
+        }
+        arguments.push_back(isEmptyOption ? word.substr(0, word.size() - 1) : word);
+    }
+    return arguments;
+}
 } // namespace
 
 std::variant<Command, int> ParseCommandLine(int argc, char** argv)
 {
     CLI::App app{s_description, "veskar-mw"};
-    app.footer(s_footer);
     app.require_subcommand(1);
     // So that the general options may also follow the kind.
     app.fallthrough();
@@ -176,9 +193,11 @@ std::variant<Command, int> ParseCommandLine(int argc, char** argv)
     AddGeneral(app, general);
     AddScreens(app, requests);
     AddOthers(app, requests);
+    // After the kinds, which would take it over.
+    app.footer(s_footer);
     try
     {
-        app.parse(argc, argv);
+        app.parse(Arguments(argc, argv));
     }
     catch (const CLI::ParseError& error)
     {

@@ -70,7 +70,7 @@ int DeskConnection::OpenMenu(const Request& request, const TaskRequested& taskRe
     {
         if (!ServeOnce(*m_connection, m_deadline))
         {
-            throw sdbus::Error{s_timeout, "no menu position was opened"};
+            throw sdbus::Error{s_timeout, ""};
         }
     }
     return *opened;
@@ -82,16 +82,20 @@ std::chrono::microseconds DeskConnection::m_TimeLeft() const
     return std::max(1us, std::chrono::duration_cast<std::chrono::microseconds>(m_deadline - Clock::now()));
 }
 
-int StatusOf(const sdbus::Error& error)
+Failure FailureOf(const sdbus::Error& error)
 {
     if (error.getName() == s_timeout)
     {
-        return ExitStatus::timedOut;
+        return {ExitStatus::timedOut, "nothing came back within the time-out"};
     }
-    if (error.getName() == Desk::refused || error.getName() == s_invalid)
+    if (error.getName() == s_invalid)
     {
-        return ExitStatus::badUsage;
+        return {ExitStatus::badUsage, "the bus carries no such text, is it UTF-8? " + error.getMessage()};
     }
-    return ExitStatus::unavailable;
+    if (error.getName() == Desk::refused)
+    {
+        return {ExitStatus::badUsage, "the application refused the request: " + error.getMessage()};
+    }
+    return {ExitStatus::unavailable, error.getMessage().empty() ? error.getName() : error.getMessage()};
 }
 } // namespace VESKAR_DESK

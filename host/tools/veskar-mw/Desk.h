@@ -38,6 +38,11 @@ private:
     std::unique_ptr<sdbus::IProxy> m_desk;
 };
 
-/** What an error of the above means for the exit status. */
-int StatusOf(const sdbus::Error& error);
+/** What an error of the above means to whoever asked. */
+struct Failure
+{
+    int status;
+    std::string text;
+};
+Failure FailureOf(const sdbus::Error& error);
 } // namespace VESKAR_DESK

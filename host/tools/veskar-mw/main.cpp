@@ -80,7 +80,8 @@ int main(int argc, char** argv)
     }
     catch (const sdbus::Error& error)
     {
-        Say(error.getMessage().empty() ? error.what() : error.getMessage());
-        return StatusOf(error);
+        const Failure failure = FailureOf(error);
+        Say(failure.text);
+        return failure.status;
     }
 }
