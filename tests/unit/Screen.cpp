@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include <Ecore_Evas.h>
+
 namespace
 {
 
@@ -102,6 +104,15 @@ void Press(Evas_Object* widget, const char* key)
     evas_object_focus_set(widget, EINA_TRUE);
     evas_event_feed_key_down(evas, key, key, "", "", 0, nullptr);
     evas_event_feed_key_up(evas, key, key, "", "", 0, nullptr);
+}
+
+Evas_Object* Focused(Evas_Object* window)
+{
+    Ecore_Evas* canvas = ecore_evas_ecore_evas_get(evas_object_evas_get(window));
+    ecore_evas_focus_set(canvas, 0);
+    ecore_evas_focus_set(canvas, 1);
+    Settle();
+    return elm_object_focused_object_get(window);
 }
 
 void Click(Evas_Object* widget)

@@ -39,12 +39,17 @@ template <class Display>
 struct Probe : Display
 {
     using Display::Display;
-    using Display::t_bottomText;
+    using Display::s_OnButtonClicked;
+    using Display::s_OnKeyPressed;
     using Display::t_buttons;
+    using Display::t_HideNumPad;
+    using Display::t_ItemsSelectedCallback;
     using Display::t_popup;
+    using Display::t_SetSubtitle;
+    using Display::t_ShowNumPad;
     using Display::t_subtitleLabel;
-    using Display::t_title;
     using Display::t_ttsText;
+    using Display::t_UpdateButtonLabels;
 };
 
 /** Runs the main loop until nothing is left to do at once. */
@@ -64,5 +69,8 @@ std::string TextOf(Evas_Object* widget, const char* part = nullptr);
 
 /** A key for the widget, and on for those that it stands in, as the toolkit does it. */
 void Press(Evas_Object* widget, const char* key);
+
+/** The widget that hears the keys once the window has the keyboard. */
+Evas_Object* Focused(Evas_Object* window);
 
 void Click(Evas_Object* widget);

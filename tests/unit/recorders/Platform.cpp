@@ -74,19 +74,14 @@ VESKAR_API::IVesKarController* VESKAR_API::IVesKarController::Instance()
 
 int __dlog_print(log_id_t /*id*/, int priority, const char* /*tag*/, const char* format, ...)
 {
-    static std::mutex mutex; // a timer's thread writes too
     va_list arguments;
     va_start(arguments, format);
     char line[4096];
-    std::vsnprintf(line, sizeof line, format, arguments);
+    const int length = std::vsnprintf(line, sizeof line, format, arguments);
     va_end(arguments);
-
-    const std::string whole(line);
-    const std::size_t name = whole.find(": ") + 2;
-    const std::size_t text = whole.find(") > ") + 4;
-    const std::lock_guard<std::mutex> lock(mutex);
-    tv.log.push_back({priority, whole.substr(name, whole.find('(', name) - name), whole.substr(text)});
-    return static_cast<int>(whole.size());
+    const std::lock_guard<std::mutex> lock(Tv::logMutex);
+    tv.log.push_back({priority, std::strstr(line, ") > ") + 4});
+    return length;
 }
 
 int ui_app_main(int /*argc*/, char** /*argv*/, ui_app_lifecycle_callback_s* callbacks, void* userData)

@@ -10,13 +10,40 @@ Texts Tv::Did(const std::string& verb) const
 {
     Texts found;
     std::copy_if(deeds.begin(), deeds.end(), std::back_inserter(found),
-                 [&](const std::string& deed)
-                 { return verb.empty() || deed == verb || deed.rfind(verb + ' ', 0) == 0; });
+                 [&](const std::string& deed) { return deed == verb || deed.rfind(verb + ' ', 0) == 0; });
+    return found;
+}
+
+Texts Tv::DeedsByKeyGroup() const
+{
+    Texts found;
+    for (const std::string& deed : deeds)
+    {
+        const std::size_t blank = deed.find(' ');
+        const std::string verb = deed.substr(0, blank);
+        std::string group = deed;
+        if (verb == "grab" || verb == "release")
+        {
+            const std::string keys = deed.substr(blank + 1);
+            const bool list = keys.find(' ') != std::string::npos;
+            const char* name = list && keys.find("Return") != std::string::npos ? "navigation"
+                               : list                                           ? "PVR"
+                               : keys.rfind("XF86Exit:", 0) == 0                ? "exit"
+                               : keys.rfind("XF86", 0) == 0                     ? "channel"
+                                                                                : "number";
+            group = verb + ' ' + name;
+        }
+        if (found.empty() || found.back() != group)
+        {
+            found.push_back(group);
+        }
+    }
     return found;
 }
 
 void Tv::Forget()
 {
+    const std::lock_guard<std::mutex> lock(logMutex);
     deeds.clear();
     log.clear();
 }
@@ -34,6 +61,7 @@ Texts Tv::Log(int priority) const
     const std::string before = colours.at(priority);
     const std::string after = before.empty() ? "" : "\x1b[0m";
     Texts found;
+    const std::lock_guard<std::mutex> lock(logMutex);
     for (const LogLine& line : log)
     {
         // A line in another colour than its level's is kept whole, so that it matches nothing.

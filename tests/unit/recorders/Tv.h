@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <map>
+#include <mutex>
 #include <set>
 #include <string>
 #include <utility>
@@ -22,7 +23,6 @@ using Texts = std::vector<std::string>;
 struct LogLine
 {
     int priority;
-    std::string function;
     std::string text; // as printed, colours included
 };
 
@@ -45,8 +45,9 @@ struct Tv
     };
 
     // What the application did.
-    Texts deeds; // in order, each as "verb arguments"
-    std::vector<LogLine> log;
+    Texts deeds;              // in order, each as "verb arguments"
+    std::vector<LogLine> log; // written by the timers' threads too, hence the mutex
+    static inline std::mutex logMutex;
     std::map<std::string, int> heldKeys; // key to mode
     int liveRequests = 0;
     Evas_Object* window = nullptr;
@@ -58,8 +59,10 @@ struct Tv
 
     bool Fails(const char* function) const { return failing.count(function) != 0; }
 
-    /** The deeds with this verb, in order; all of them without one. */
-    Texts Did(const std::string& verb = "") const;
+    /** The deeds with this verb, in order. */
+    Texts Did(const std::string& verb) const;
+    /** All deeds in order, with each run of keys of one group as one: "grab navigation", "release channel" ... */
+    Texts DeedsByKeyGroup() const;
     void Forget();
 
     /** Whether exactly this text was logged at this priority, whatever its colour. */

@@ -1,0 +1,312 @@
+#include "BaseDisplay.h"
+#include "EflGuard.h"
+#include "Screen.h"
+
+#include <stdexcept>
+
+#include <Ecore_Evas.h>
+
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using VESKAR_APP::EFL_GUARD;
+
+/** A screen with content of its own: one label "content". */
+struct Plain : Probe<VESKAR_APP::BaseDisplay>
+{
+    using Probe::Probe;
+
+    void SetTexts(const char* title, const char* subtitle, const char* bottom)
+    {
+        t_SetTitle(title);
+        t_SetSubtitle(subtitle);
+        t_SetBottomText(bottom);
+    }
+    Evas_Object* m_CreateWindowContent(Evas_Object* layout, Evas_Object*) override
+    {
+        t_SetTTSText("a < b", nullptr);
+        Evas_Object* label = hasContent ? elm_label_add(layout) : nullptr;
+        elm_object_text_set(label, "content");
+        return label;
+    }
+    bool hasContent = true;
+};
+
+struct BaseDisplayTest : ScreenTest
+{
+    std::unique_ptr<Plain> display;
+
+    /** The display on the screen. */
+    Plain& Show(const Texts& buttons, const char* title = "", const char* subtitle = "", const char* bottom = "",
+                const char* style = "C_PopupBasic_WhiteBottom", bool hasBottomText = true)
+    {
+        display = std::make_unique<Plain>(*this, window, buttons, style, hasBottomText);
+        display->SetTexts(title, subtitle, bottom);
+        tv.Forget();
+        EXPECT_TRUE(display->Create());
+        EXPECT_TRUE(display->Show());
+        return *display;
+    }
+    std::string Style() { return elm_object_style_get(display->t_popup); }
+    static double HorizontalAlignment(Evas_Object* object)
+    {
+        double x = 0;
+        double y = 0;
+        evas_object_size_hint_align_get(object, &x, &y);
+        return x;
+    }
+};
+
+TEST_F(BaseDisplayTest, TheGuardGivesBackResultsAndLeavesTheMainLoopUsable)
+{
+    EXPECT_EQ(EFL_GUARD(elm_label_add, nullptr), nullptr);
+    EXPECT_EQ(EFL_GUARD(
+                  +[](int a, const char* b) { return a + b; }, 1, "guard"),
+              std::string("uard"));
+    EXPECT_THROW(EFL_GUARD(+[] { throw std::runtime_error("toolkit"); }), std::runtime_error);
+    EFL_GUARD(+[] { EFL_GUARD(ecore_loop_time_get); }); // sections nest
+    EXPECT_EQ(ecore_thread_main_loop_begin(), 1);       // none of them is still open
+    EXPECT_EQ(ecore_thread_main_loop_end(), 0);
+}
+
+TEST_F(BaseDisplayTest, IsBuiltHiddenAndShownAndHiddenOnce)
+{
+    Plain orphan(*this, nullptr, {"OK"}, "", true);
+    EXPECT_FALSE(orphan.Create());
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Main window not available"));
+    EXPECT_TRUE(orphan.Hide());
+    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "no popup, therefore visible is false");
+
+    display = std::make_unique<Plain>(*this, window, Texts{}, "", false);
+    EXPECT_EQ(elm_app_base_scale_get(), 2.0);
+    EXPECT_TRUE(display->Create());
+    EXPECT_FALSE(evas_object_visible_get(display->t_popup));
+    EXPECT_TRUE(display->Show());
+    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "popup present but not visible");
+    tv.runningApps = {"org.tizen.wizard"};
+    EXPECT_TRUE(display->Show());
+    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "popup present and visible"); // the layer is not looked at again
+    EXPECT_TRUE(evas_object_visible_get(display->t_popup));
+    EXPECT_TRUE(display->Hide());
+    EXPECT_FALSE(evas_object_visible_get(display->t_popup));
+    display.reset();
+    EXPECT_THAT(WidgetsOnScreen(window, "elm_popup"), IsEmpty());
+}
+
+TEST_F(BaseDisplayTest, OneTitleDocksAnyStyledScreenAtTheRight)
+{
+    Show({}, "Title");
+    EXPECT_EQ(Style(), "C_PopupBasic_WhiteBottom");
+    Show({}, "Delete Kavro Operator Profile");
+    EXPECT_EQ(Style(), "C_PopupBasic_WhiteRightLarge");
+    Show({}, "Delete Kavro Operator Profile!");
+    EXPECT_EQ(Style(), "C_PopupBasic_WhiteBottom");
+    Show({}, "Delete Kavro Operator Profile", "", "", "");
+    EXPECT_EQ(Style(), "default");
+}
+
+TEST_F(BaseDisplayTest, TextsAreMarkupAboveAndBelowTheContent)
+{
+    const auto line = [](const std::string& text)
+    {
+        return "<font=Sans:style=Regular font_size=13>" + text + "</font></color>";
+    };
+    Show({}, "<T>", "a & b", "1\n2");
+    EXPECT_EQ(TextOf(display->t_popup, "title,text"), "&lt;T&gt;");
+    EXPECT_THAT(LabelTexts(display->t_popup), ElementsAre(line("a &amp; b"), "content", line("1<br/>2")));
+    EXPECT_STREQ(elm_object_style_get(display->t_subtitleLabel), "popup/c_popup_bottom");
+    EXPECT_THAT(tv.Did("say"), ElementsAre("say &lt;T&gt;, a &amp; b, a < b, 1<br/>2, "));
+
+    Show({}); // the rows are there for empty texts too
+    EXPECT_THAT(LabelTexts(display->t_popup), ElementsAre(line(""), "content", line("")));
+    EXPECT_THAT(tv.Did("say"), ElementsAre("say , , a < b, , "));
+    Show({}, "", "", "", "", false);
+    EXPECT_THAT(LabelTexts(display->t_popup), ElementsAre(line(""), "content"));
+    Show({}, "", "", "bottom", "", false); // a bottom text asks for its line
+    EXPECT_THAT(LabelTexts(display->t_popup), ElementsAre(line(""), "content", line("bottom")));
+
+    display = std::make_unique<Plain>(*this, window, Texts{}, "", false);
+    display->hasContent = false;
+    display->Create();
+    EXPECT_THAT(LabelTexts(display->t_popup), ElementsAre(line("")));
+}
+
+TEST_F(BaseDisplayTest, ALineIsCentredAndSeveralAreWrappedAlsoWhenUpdatedInPlace)
+{
+    tv.numbers["db/menu/system/accessibility/focuszoom"] = 2;
+    tv.numbers["db/menu/system/accessibility/highcontrast"] = 1;
+    Show({}, "", "one");
+    Evas_Object* subtitle = display->t_subtitleLabel;
+    EXPECT_EQ(TextOf(subtitle), "<font=Sans:style=Regular font_size=16>one</font></color>");
+    EXPECT_EQ(HorizontalAlignment(subtitle), 0.5);
+    int red = 0;
+    evas_object_color_get(subtitle, &red, nullptr, nullptr, nullptr);
+    EXPECT_EQ(red, 255); // white in high contrast too
+    EXPECT_THAT(tv.Log(DLOG_ERROR), IsEmpty());
+
+    tv.numbers.clear();
+    display->t_SetSubtitle("<1>\n2\n3");
+    EXPECT_EQ(TextOf(subtitle), "<font=Sans:style=Regular font_size=13>&lt;1&gt;<br/>2<br/>3</font></color>");
+    EXPECT_EQ(elm_label_line_wrap_get(subtitle), ELM_WRAP_WORD);
+    EXPECT_NE(HorizontalAlignment(subtitle), 0.5);
+    EXPECT_EQ(display->GetNumberLinesText(subtitle, "elm.text"), 3);
+    EXPECT_THAT(tv.Log(DLOG_ERROR),
+                ElementsAre("Failed to read db/menu/system/accessibility/focuszoom, set to default value 0",
+                            "Failed to read db/menu/system/accessibility/highcontrast, set to default value 0"));
+
+    tv.Forget();
+    EXPECT_EQ(display->GetNumberLinesText(evas_object_rectangle_add(evas_object_evas_get(window)), "elm.text"), 0);
+    EXPECT_EQ(display->GetNumberLinesText(subtitle, "no.such.part"), 0);
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("Get layout failed!", "Text block is null!"));
+}
+
+TEST_F(BaseDisplayTest, TheSetupsApplicationsAreOverlaid)
+{
+    Ecore_Evas* canvas = ecore_evas_ecore_evas_get(evas_object_evas_get(window));
+    for (const char* application : {"org.tizen.wizard", "org.tizen.channel-search"})
+    {
+        tv.runningApps = {application};
+        ecore_evas_layer_set(canvas, 0);
+        Show({});
+        EXPECT_EQ(ecore_evas_layer_get(canvas), 32767);
+    }
+    tv.runningApps = {"org.tizen.menu"};
+    ecore_evas_layer_set(canvas, 0);
+    Show({});
+    EXPECT_EQ(ecore_evas_layer_get(canvas), 0);
+}
+
+TEST_F(BaseDisplayTest, UpToThreeButtonsReportTheirNumberFromOne)
+{
+    Show({"Yes", "<No>", "?"}, "", "", "", ""); // the default style has a place for buttons, so they can be focused
+    for (Evas_Object* button : display->t_buttons)
+    {
+        EXPECT_STREQ(elm_object_style_get(button), "C_ButtonBasic_WhiteText");
+        EXPECT_TRUE(evas_object_visible_get(button));
+        Click(button);
+    }
+    EXPECT_EQ(TextOf(display->t_buttons[1]), "<No>");
+    EXPECT_EQ(elm_object_part_content_get(display->t_popup, "button2"), display->t_buttons[1]);
+    EXPECT_EQ(Focused(window), display->t_buttons[0]);
+    EXPECT_THAT(answers, ElementsAre("button 1", "button 2", "button 3"));
+    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "Button index:3"));
+    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, std::string("Number of buttons:") + '\3'));
+
+    answers.clear();
+    tv.Forget();
+    Plain::s_OnButtonClicked(display.get(), window, nullptr);
+    Plain::s_OnButtonClicked(nullptr, display->t_buttons[0], nullptr);
+    EXPECT_THAT(tv.Log(DLOG_ERROR),
+                ElementsAre(testing::StartsWith("Unexpected buttonClicked event on unrecognized event source 0x"),
+                            "pthis == NULL"));
+    EXPECT_THAT(answers, IsEmpty());
+}
+
+TEST_F(BaseDisplayTest, AnEmptyLabelHidesItsButtonAndMoreThanThreeLabelsShowNone)
+{
+    Show({"", "No"}, "", "", "", "");
+    EXPECT_FALSE(evas_object_visible_get(display->t_buttons[0]));
+    EXPECT_EQ(TextOf(display->t_buttons[1]), "No");
+    EXPECT_THAT(Focused(window),
+                testing::AllOf(testing::Ne(display->t_buttons[0]), testing::Ne(display->t_buttons[1])));
+    display->t_UpdateButtonLabels({"Yes", ""});
+    EXPECT_TRUE(evas_object_visible_get(display->t_buttons[0]));
+    EXPECT_EQ(Focused(window), display->t_buttons[0]);
+    EXPECT_FALSE(evas_object_visible_get(display->t_buttons[1]));
+    display->t_UpdateButtonLabels({"Other"});
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Size mismatch: labels.size() [1] != t_displayedButtons [2]"));
+    EXPECT_EQ(TextOf(display->t_buttons[0]), "Yes");
+
+    Show({"1", "2", "3", "4"});
+    EXPECT_THAT(tv.Log(DLOG_WARN),
+                ElementsAre(std::string("Too many buttons (") + '\4' + " when maximum is " + '\3' + ")"));
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Size mismatch: labels.size() [4] != t_displayedButtons [3]"));
+    EXPECT_EQ(elm_object_part_content_get(display->t_popup, "button3"), display->t_buttons[2]);
+    EXPECT_EQ(TextOf(display->t_buttons[0]), "");
+    Show({});
+    EXPECT_EQ(display->t_buttons[0], nullptr);
+    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "No buttons are added."));
+}
+
+TEST_F(BaseDisplayTest, ExitAndBackAreToldByTheirWholeNames)
+{
+    Show({});
+    for (const char* key : {"XF86Exit", "XF86Back", "Return", "XF86Back2", "xf86exit"})
+    {
+        Press(display->t_popup, key);
+    }
+    EXPECT_THAT(answers, ElementsAre("exit", "back", "key", "key", "key"));
+    Plain::s_OnKeyPressed(nullptr, nullptr, display->t_popup, nullptr);
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "pthis == NULL"));
+
+    tv.Forget();
+    display->t_ItemsSelectedCallback("07");
+    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "t_ItemsSelectedCallback: 0") &&
+                tv.Logged(DLOG_DEBUG, "t_ItemsSelectedCallback: 7"));
+    tv.Forget();
+    display->t_ItemsSelectedCallback("");
+    EXPECT_THAT(tv.Log(DLOG_DEBUG), IsEmpty());
+    EXPECT_THAT(std::vector(answers.end() - 2, answers.end()), ElementsAre("items 07", "items "));
+}
+
+TEST_F(BaseDisplayTest, TheNumberPadIsAskedForWhereItExistsAndIsNotAlreadyAsWanted)
+{
+    constexpr const char* SHOWN = "memory/function-osd/number_pad_show";
+    constexpr const char* FEATURE = "com.brelmon/featureconf/bt_profile_bt_smart_control";
+    Show({});
+    const auto ask = [this](void (*what)(Plain&))
+    {
+        tv.Forget();
+        what(*display);
+        EXPECT_EQ(tv.liveRequests, 0);
+        return tv.Did("launch");
+    };
+    const auto show = [](Plain& plain)
+    {
+        plain.t_ShowNumPad(false);
+    };
+    const auto showNumbers = [](Plain& plain)
+    {
+        plain.t_ShowNumPad(true);
+    };
+    const auto hide = [](Plain& plain)
+    {
+        plain.t_HideNumPad();
+    };
+
+    for (const auto& what : {+show, +hide})
+    {
+        tv.features.clear();
+        EXPECT_THAT(ask(what), IsEmpty());
+        EXPECT_THAT(tv.Log(DLOG_ERROR),
+                    ElementsAre("system_info_get_custom_bool SYSTEM_INFO_CUSTOM_KEY_BT_PROFILE_BT_SMART_CONTROL fails",
+                                "Numpad not supported"));
+        tv.features[FEATURE] = false;
+        EXPECT_THAT(ask(what), IsEmpty());
+    }
+    tv.features[FEATURE] = true;
+    for (const int value : {0, 2})
+    {
+        tv.numbers[SHOWN] = value;
+        EXPECT_THAT(ask(show), ElementsAre("launch org.tizen.function-osd type=number_zip cmd=show tts=skip"));
+        EXPECT_THAT(ask(showNumbers), ElementsAre("launch org.tizen.function-osd type=number cmd=show tts=skip"));
+        EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "Succeeded to launch Function-osd."));
+        EXPECT_THAT(ask(hide), IsEmpty());
+        EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "Numpad already hidden"));
+    }
+    tv.failing = {"app_control_send_launch_request"};
+    ask(show);
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("Failed to launch Function-osd. Result: -17825759"));
+    tv.numbers[SHOWN] = 1;
+    EXPECT_THAT(ask(show), IsEmpty());
+    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "Numpad already visible"));
+    EXPECT_THAT(ask(hide), ElementsAre("launch org.tizen.function-osd cmd=hide"));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("Failed to launch Function-osd."));
+    tv.failing = {"app_control_create"};
+    EXPECT_THAT(ask(hide), IsEmpty());
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("Failed to create app_control"));
+}
+
+} // namespace

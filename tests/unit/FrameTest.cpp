@@ -1,0 +1,158 @@
+#include "Screen.h"
+
+int veskar_main(int argc, char** argv);
+
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/** The first test of this suite needs a process of its own, as ctest gives it: the frame's state lives as long. */
+struct FrameTest : TvTest
+{
+    /** The application's main; `life` is what the platform does while its loop runs. */
+    static int Run(std::function<void()> life, std::vector<std::string> arguments = {})
+    {
+        tv.Forget();
+        tv.whileTheLoopRuns = std::move(life);
+        std::string name = "veskar-app";
+        std::vector<char*> argv{name.data()};
+        for (std::string& argument : arguments)
+        {
+            argv.push_back(argument.data());
+        }
+        argv.push_back(nullptr);
+        return veskar_main(static_cast<int>(argv.size()) - 1, argv.data());
+    }
+    static bool Create() { return tv.application.create(tv.applicationData); }
+    static void Pause() { tv.application.pause(tv.applicationData); }
+    static void Resume() { tv.application.resume(tv.applicationData); }
+    static void Terminate() { tv.application.terminate(tv.applicationData); }
+    static void ShowMessage(const char* uiId)
+    {
+        const Request request({{"signal_type_key", "signal_tvservice"},
+                               {"signal_tvservice_key", "ui_type_message"},
+                               {"ui_param_ui_id", uiId},
+                               {"ui_param_source_id", "255"}});
+        tv.application.app_control(request.Handle(), tv.applicationData);
+    }
+};
+
+TEST_F(FrameTest, NothingHappensBeforeCreateAndCreateNeedsItsDataAndTheMainLoop)
+{
+    Run(
+        []
+        {
+            Pause();
+            Terminate();
+            ShowMessage("7");
+            EXPECT_FALSE(tv.Logged(DLOG_INFO, "Service complete!"));
+            Pause();
+            EXPECT_TRUE(tv.Logged(DLOG_INFO, "Ignore pause!"));
+            Resume();
+            tv.Forget();
+            Pause();
+            EXPECT_THAT(tv.Log(DLOG_INFO), IsEmpty());
+
+            EXPECT_FALSE(tv.application.create(nullptr));
+            EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("data null"));
+            tv.failing = {"ecore_init"};
+            EXPECT_FALSE(Create());
+            EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Cannot initialize Ecore!"));
+            EXPECT_THAT(tv.Did("window"), IsEmpty());
+        });
+}
+
+TEST_F(FrameTest, MainEndsWithTheLoopsResultAndNamesThreeErrors)
+{
+    struct
+    {
+        int result;
+        int priority;
+        const char* line;
+    } const results[] = {
+        {APP_ERROR_NONE, DLOG_INFO, "ok"},
+        {-5, DLOG_INFO, "ok"},
+        {-114, DLOG_ERROR, "Application is already running error during running main loop"},
+        {-22, DLOG_ERROR, "Invalid parameter error during running main loop"},
+        {-17825791, DLOG_ERROR, "Invalid context error during running main loop"},
+    };
+    for (const auto& expected : results)
+    {
+        tv.loopResult = expected.result;
+        EXPECT_EQ(Run([] {}), expected.result);
+        EXPECT_TRUE(tv.Logged(expected.priority, expected.line));
+        EXPECT_EQ(tv.Log(DLOG_INFO).back(), "Ending up application");
+        EXPECT_THAT(tv.deeds, ElementsAre("handle event 2"));
+    }
+}
+
+TEST_F(FrameTest, CreateAppliesTheLanguageAndDirectionFirst)
+{
+    tv.texts["db/menu_widget/language"] = "pl_PL.utf8";
+    tv.orientation = 1;
+    Run([] { EXPECT_TRUE(Create()); });
+    EXPECT_THAT(tv.deeds,
+                ElementsAre("handle event 2", "language pl_PL.utf8", "window veskar-app 1", "router 42", "ea init"));
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Setting lang set pl_PL.utf8"));
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Config mirroring set to EINA_TRUE"));
+    EXPECT_TRUE(elm_config_mirrored_get());
+    EXPECT_EQ(elm_policy_get(ELM_POLICY_QUIT), ELM_POLICY_QUIT_NONE);
+
+    tv.Forget();
+    tv.texts["db/menu_widget/language"] = "";
+    tv.orientation = 2;
+    tv.languageChanged(nullptr, nullptr);
+    EXPECT_FALSE(elm_config_mirrored_get());
+    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("Config mirroring set to EINA_FALSE"));
+    EXPECT_THAT(tv.deeds, IsEmpty());
+}
+
+TEST_F(FrameTest, APauseAfterARequestIsIgnoredUntilTheNextResume)
+{
+    Run([] { Create(); });
+    tv.Forget();
+    ShowMessage("7");
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Service complete!"));
+    Pause();
+    Pause();
+    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "Ignore pause!");
+    EXPECT_THAT(tv.Did("answer"), IsEmpty());
+    Resume();
+    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "Finishing resume callback!");
+    Pause();
+    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "Finishing pause callback!");
+    EXPECT_THAT(tv.Did("answer"), ElementsAre("answer 7 255 2 0 0 \"\""));
+
+    ShowMessage("8");
+    tv.Forget();
+    Terminate();
+    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "Finishing terminate callback!");
+    EXPECT_THAT(tv.Did("answer"), ElementsAre("answer 8 255 2 0 0 \"\""));
+    Resume();
+}
+
+TEST_F(FrameTest, ATestCaseComesFromTheOnlyArgument)
+{
+    const auto titles = [](const Texts& arguments)
+    {
+        Run([] { Create(); }, arguments);
+        Texts found;
+        for (Evas_Object* popup : WidgetsOnScreen(tv.window, "elm_popup"))
+        {
+            found.push_back(TextOf(popup, "title,text"));
+        }
+        return found;
+    };
+    EXPECT_THAT(titles({}), IsEmpty());
+    EXPECT_THAT(titles({"4", "4"}), IsEmpty());
+    EXPECT_THAT(titles({"20"}), ElementsAre("Center aligned"));
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "test case id: 20"));
+    EXPECT_THAT(titles({"abc"}), ElementsAre("Test"));
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "test case id: 0"));
+    EXPECT_THAT(titles({"23"}), IsEmpty());
+    EXPECT_THAT(titles({"-1"}), IsEmpty());
+}
+
+} // namespace

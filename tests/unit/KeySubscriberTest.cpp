@@ -1,0 +1,156 @@
+#include "KeySubscriber.h"
+#include "Screen.h"
+
+#include <sstream>
+
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using VESKAR_APP::KeySubscriber;
+
+constexpr const char* NAVIGATION = "XF86Exit:5 XF86Back:5 Return:5 Up:5 Left:5 Right:5 Down:5";
+constexpr const char* PVR = "XF86AudioRewind:5 XF86AudioPause:5 XF86AudioNext:5 XF86AudioRecord:5 XF86AudioPlay:5 "
+                            "XF86AudioStop:5 XF86PlayBack:5 XF86More:5";
+constexpr const char* NUMBERS = "0 1 2 3 4 5 6 7 8 9";
+/** In the order of grabbing, each name after "XF86"; some stand twice. */
+constexpr const char* CHANNEL =
+    "ChannelList RaiseChannel LowerChannel PreviousChannel SysMenu ChannelGuide Search SimpleMenu Info Display Hdmi "
+    "Home PIP PictureMode UsbHub PictureSize FavoriteChannel ChannelList ChannelGuide Game PreviousChannel "
+    "FavoriteChannel BTContentsBar Back 3D TVSNS WIFIPairing BTVoice Recommend AspectRatio169 MTS FactoryMode "
+    "SoundMode Apps TTXMIX Caption SRSSXT EManual UsbHub More TV DTV ChannelAddDel PanelDown WWW BTColorMecha "
+    "StillPicture BTPairing BTHotkey BTDevice BTContentsBar PIPChannelUp PIPChannelDown Antena ChannelAutoTune "
+    "PanelEnter MBRLink PanelUp WheelLeftKey WheelRightKey PanelExit Recommend NumberPad DualView BTApps Subtitle DVR "
+    "Camera ZoomIn PanelPlus PanelMinus SoccerMode Amazon AudioDescription Netflix PIP Pellandor HDMICEC LeftPage "
+    "RightPage";
+
+/** One deed for each name. */
+Texts OneByOne(const std::string& verb, const std::string& names, const std::string& prefix = "")
+{
+    std::istringstream words(names);
+    Texts deeds;
+    for (std::string name; words >> name;)
+    {
+        deeds.push_back(verb + ' ' + prefix + name + ":4");
+    }
+    return deeds;
+}
+
+struct KeySubscriberTest : ScreenTest
+{
+    std::unique_ptr<KeySubscriber> keys = std::make_unique<KeySubscriber>(window);
+
+    /** What one operation did. */
+    Texts Do(void (KeySubscriber::*operation)())
+    {
+        tv.Forget();
+        (keys.get()->*operation)();
+        return tv.deeds;
+    }
+};
+
+TEST_F(KeySubscriberTest, ConnectsToTheRouterThatTheCompositorAdvertises)
+{
+    EXPECT_THAT(tv.deeds, ElementsAre("router 42"));
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Found KeyRouter object"));
+
+    struct
+    {
+        std::function<void()> change;
+        const char* warning;
+    } const faults[] = {
+        {[] { tv.failing = {"KeyRouter_Initialize"}; }, "Failed to initialise KeyRouter interface"},
+        {[] {
+             tv.globals = {{"tizen_keyrouter2", 1, 1, nullptr}};
+         },
+         "Failed to get key router id"},
+        {[] { tv.hasWaylandDisplay = false; }, "Failed to get display and register Grab Keys"},
+    };
+    for (const auto& fault : faults)
+    {
+        tv.Forget();
+        fault.change();
+        const KeySubscriber warned(window);
+        EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre(fault.warning));
+    }
+}
+
+TEST_F(KeySubscriberTest, SingleKeysAreTakenExclusivelyOneByOneInOrder)
+{
+    EXPECT_EQ(Do(&KeySubscriber::LockNumberKeys), OneByOne("grab", NUMBERS));
+    EXPECT_EQ(tv.heldKeys.size(), 10U);
+    EXPECT_EQ(Do(&KeySubscriber::UnlockNumberKeys), OneByOne("release", NUMBERS));
+    EXPECT_EQ(Do(&KeySubscriber::LockExitKey), OneByOne("grab", "XF86Exit"));
+    EXPECT_EQ(Do(&KeySubscriber::UnlockExitKey), OneByOne("release", "XF86Exit"));
+    EXPECT_EQ(Do(&KeySubscriber::LockChannelChangeKeys), OneByOne("grab", CHANNEL, "XF86"));
+    EXPECT_EQ(tv.deeds.size(), 80U);
+    EXPECT_EQ(Do(&KeySubscriber::UnlockChannelChangeKeys), OneByOne("release", CHANNEL, "XF86"));
+    EXPECT_THAT(tv.heldKeys, IsEmpty());
+    EXPECT_THAT(tv.Log(DLOG_WARN), IsEmpty());
+}
+
+TEST_F(KeySubscriberTest, ListsAreRegisteredAnew)
+{
+    const std::string navigation = NAVIGATION;
+    const std::string pvr = PVR;
+    EXPECT_THAT(Do(&KeySubscriber::LockNavigationKeys), ElementsAre("release " + navigation, "grab " + navigation));
+    EXPECT_THAT(Do(&KeySubscriber::LockPVRKeys), ElementsAre("release " + pvr, "grab " + pvr));
+    EXPECT_EQ(tv.heldKeys.size(), 15U);
+    EXPECT_THAT(Do(&KeySubscriber::UnlockNavigationKeys), ElementsAre("release " + navigation));
+    EXPECT_THAT(Do(&KeySubscriber::UnlockPVRKeys), ElementsAre("release " + pvr));
+    EXPECT_THAT(tv.heldKeys, IsEmpty());
+
+    for (const auto lock : {&KeySubscriber::LockNavigationKeys, &KeySubscriber::LockPVRKeys})
+    {
+        tv.failing = {"KeyRouter_Set_KeyList"};
+        Do(lock);
+        EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre("Failed to set Key List"));
+        tv.failing = {"KeyRouter_UnSet_KeyList"};
+        EXPECT_EQ(Do(lock).size(), 1U);
+        EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre("Unable to clear keylist"));
+    }
+    for (const auto unlock : {&KeySubscriber::UnlockNavigationKeys, &KeySubscriber::UnlockPVRKeys})
+    {
+        Do(unlock);
+        EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre("Failed to unset Key List"));
+    }
+}
+
+TEST_F(KeySubscriberTest, AKeyHeldBySomebodyElseIsTakenTopmostWithoutAWarning)
+{
+    tv.refusedKeys = {{"3", 4}, {"5", 4}, {"5", 2}};
+    Do(&KeySubscriber::LockNumberKeys);
+    EXPECT_EQ(tv.heldKeys.at("3"), 2);
+    EXPECT_EQ(tv.heldKeys.at("4"), 4);
+    EXPECT_EQ(tv.heldKeys.count("5"), 0U);
+    EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre("Failed to register for grab keys"));
+
+    Do(&KeySubscriber::UnlockNumberKeys);
+    EXPECT_THAT(tv.heldKeys, IsEmpty());
+    EXPECT_THAT(tv.Log(DLOG_WARN), IsEmpty());
+    tv.failing = {"KeyRouter_UnSet_KeyList"};
+    EXPECT_THAT(Do(&KeySubscriber::UnlockExitKey), ElementsAre("release XF86Exit:4", "release XF86Exit:2"));
+    EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre("Failed to unregister to ungrab keys"));
+}
+
+TEST_F(KeySubscriberTest, WithoutADisplayNavigationKeysAreNotTakenButGivenBack)
+{
+    tv.hasWaylandDisplay = false;
+    keys = std::make_unique<KeySubscriber>(window);
+    EXPECT_THAT(Do(&KeySubscriber::LockNavigationKeys), IsEmpty());
+    EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre("Display not set"));
+    EXPECT_EQ(Do(&KeySubscriber::UnlockNavigationKeys).size(), 1U);
+}
+
+TEST_F(KeySubscriberTest, EveryGroupIsGivenBackAtTheEnd)
+{
+    keys->LockPVRKeys();
+    keys->LockNavigationKeys();
+    tv.Forget();
+    keys.reset();
+    EXPECT_THAT(tv.DeedsByKeyGroup(), ElementsAre("release exit", "release channel", "release navigation",
+                                                  "release number", "release PVR", "router finalized"));
+}
+
+} // namespace
