@@ -74,6 +74,10 @@ Evas_Object* ListDisplay<Screen>::m_CreateWindowContent(Evas_Object* parent, Eva
     }
     m_PopulateList(m_menuList, itemClass.get());
     EFL_GUARD(evas_object_show, m_menuList);
+    if (!m_menuItems.empty())
+    {
+        m_firstRowFocus.emplace(t_mainWindow, m_menuList);
+    }
     return m_menuList;
 }
 
@@ -98,7 +102,7 @@ void ListDisplay<Screen>::m_PopulateList(Evas_Object* genlist, Elm_Genlist_Item_
     bool isHeader = m_firstRowHeader;
     for (std::string& entry : m_entries)
     {
-        spoken += entry + ", ";
+        spoken += SpokenRow(entry);
         entry = RowData(m_format, entry);
         if (isHeader)
         {

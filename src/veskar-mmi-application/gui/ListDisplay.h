@@ -1,9 +1,11 @@
 #pragma once
 
 #include "BaseDisplay.h"
+#include "FirstRowFocus.h"
 #include "Log.h"
 
 #include <memory>
+#include <optional>
 
 namespace VESKAR_APP
 {
@@ -65,6 +67,8 @@ private:
     bool m_FocusIfAllRealised();
 
     Screen* m_Screen();
+
+    std::optional<FirstRowFocus> m_firstRowFocus;
 };
 
 } // namespace VESKAR_APP

@@ -28,21 +28,26 @@ struct Row
     std::vector<std::string> cells;
 };
 
-/** What follows the last tab is no cell. */
-Row Split(std::string_view rowData)
+/** What follows the last tab is dropped. */
+std::vector<std::string> SplitAtTabs(std::string_view text)
 {
     std::vector<std::string> tokens;
-    for (std::size_t tab = rowData.find('\t'); tab != std::string_view::npos; tab = rowData.find('\t'))
+    for (std::size_t tab = text.find('\t'); tab != std::string_view::npos; tab = text.find('\t'))
     {
-        tokens.emplace_back(rowData.substr(0, tab));
-        rowData.remove_prefix(tab + 1);
+        tokens.emplace_back(text.substr(0, tab));
+        text.remove_prefix(tab + 1);
     }
-    if (tokens.empty())
+    return tokens;
+}
+
+Row ReadRow(const char* rowData)
+{
+    Row row{{}, SplitAtTabs(rowData)};
+    if (!row.cells.empty())
     {
-        return {};
+        row.format = std::move(row.cells.front());
+        row.cells.erase(row.cells.begin());
     }
-    Row row{std::move(tokens.front()), {}};
-    row.cells.assign(std::make_move_iterator(tokens.begin() + 1), std::make_move_iterator(tokens.end()));
     return row;
 }
 
@@ -79,6 +84,17 @@ std::string RowData(const std::string& format, const std::string& entry)
     return format + "\t" + entry + "\t";
 }
 
+std::string SpokenRow(const std::string& entry)
+{
+    std::string spoken;
+    for (const std::string& cell : SplitAtTabs(entry + "\t"))
+    {
+        spoken += ToMarkup(cell) + "\t";
+    }
+    spoken.pop_back();
+    return spoken + ", ";
+}
+
 int ColumnCount(const std::string& format)
 {
     return static_cast<int>(std::clamp<std::size_t>(format.size(), 1, MAX_COLUMNS));
@@ -96,7 +112,7 @@ Evas_Object* CreateRow(const char* rowData, Evas_Object* parent, const char* par
     Evas_Object* box = EFL_GUARD(elm_box_add, parent);
     EFL_GUARD(elm_box_horizontal_set, box, EINA_TRUE);
 
-    const Row row = Split(rowData);
+    const Row row = ReadRow(rowData);
     const int cellWidth = ScaledSize(BODY_WIDTH) / numColumns;
     const int cellHeight = ScaledSize(CELL_HEIGHT);
     for (std::size_t column = 0; column < row.cells.size(); ++column)
@@ -126,7 +142,7 @@ char* CreateRowText(const char* rowData, const char* part)
 {
     LOG_INFO("s_TextGet part =  " << part);
     std::string text;
-    for (const std::string& cell : Split(rowData).cells)
+    for (const std::string& cell : ReadRow(rowData).cells)
     {
         text += ToMarkup(cell);
     }
