@@ -204,17 +204,29 @@ TEST_F(BaseDisplayTest, UpToThreeButtonsReportTheirNumberFromOne)
     EXPECT_THAT(answers, IsEmpty());
 }
 
-TEST_F(BaseDisplayTest, AnEmptyLabelHidesItsButtonAndMoreThanThreeLabelsShowNone)
+TEST_F(BaseDisplayTest, AnEmptyLabelHidesItsButtonForGoodAlsoWhereTheThemePlacesIt)
 {
-    Show({"", "No"}, "", "", "", "");
-    EXPECT_FALSE(evas_object_visible_get(display->t_buttons[0]));
-    EXPECT_EQ(TextOf(display->t_buttons[1]), "No");
+    for (const char* style : {"C_PopupBasic_WhiteBottom", ""})
+    {
+        Show({"", "No"}, "", "", "", style);
+        Settle();
+        EXPECT_FALSE(evas_object_visible_get(display->t_buttons[0])) << style;
+        EXPECT_TRUE(evas_object_visible_get(display->t_buttons[1])) << style;
+        display->t_UpdateButtonLabels({"Yes", ""});
+        Settle();
+        EXPECT_TRUE(evas_object_visible_get(display->t_buttons[0])) << style;
+        EXPECT_FALSE(evas_object_visible_get(display->t_buttons[1])) << style;
+    }
+}
+
+TEST_F(BaseDisplayTest, OnlyTheFirstLabelIsGivenTheFocusAndMoreThanThreeShowNone)
+{
+    Show({"", "No"});
+    display->t_UpdateButtonLabels({"", "No"});
     EXPECT_THAT(Focused(window),
                 testing::AllOf(testing::Ne(display->t_buttons[0]), testing::Ne(display->t_buttons[1])));
-    display->t_UpdateButtonLabels({"Yes", ""});
-    EXPECT_TRUE(evas_object_visible_get(display->t_buttons[0]));
+    display->t_UpdateButtonLabels({"Yes", "No"});
     EXPECT_EQ(Focused(window), display->t_buttons[0]);
-    EXPECT_FALSE(evas_object_visible_get(display->t_buttons[1]));
     display->t_UpdateButtonLabels({"Other"});
     EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Size mismatch: labels.size() [1] != t_displayedButtons [2]"));
     EXPECT_EQ(TextOf(display->t_buttons[0]), "Yes");
