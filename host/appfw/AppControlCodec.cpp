@@ -1,0 +1,232 @@
+#include "AppControlCodec.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+#include "BusName.h"
+
+namespace veskar
+{
+namespace
+{
+
+using Refusal = std::optional<std::string>;
+
+struct Free
+{
+    void operator()(char* text) const { free(text); }
+};
+
+/** A key in an error text: a long one is cut, at the beginning of a character. */
+std::string Quoted(const char* key)
+{
+    constexpr size_t longest = 100;
+    size_t length = strlen(key);
+    if (length <= longest)
+    {
+        return "\"" + std::string(key) + "\"";
+    }
+    for (length = longest; (key[length] & 0xC0) == 0x80; --length)
+    {
+    }
+    return "\"" + std::string(key, length) + "...\"";
+}
+
+Refusal Refuse(const char* key, const std::string& why)
+{
+    return "the value of " + Quoted(key) + " " + why;
+}
+
+/** Reads one request's values and counts what they take. */
+class Decoder
+{
+public:
+    explicit Decoder(app_control_s& request) : m_request(request) {}
+
+    Refusal Read(const Eldbus_Message* call)
+    {
+        Eldbus_Message_Iter* entries = nullptr;
+        if (!eldbus_message_arguments_get(call, "a{sv}", &entries))
+        {
+            return "the arguments are not a{sv}";
+        }
+        Eldbus_Message_Iter* entry = nullptr;
+        for (size_t count = 0; eldbus_message_iter_get_and_next(entries, 'e', &entry); ++count)
+        {
+            if (count == MostElements)
+            {
+                return "more than " + std::to_string(MostElements) + " keys";
+            }
+            if (auto refusal = ReadEntry(entry))
+            {
+                return refusal;
+            }
+        }
+        return std::nullopt;
+    }
+
+private:
+    Refusal ReadEntry(Eldbus_Message_Iter* entry)
+    {
+        const char* key = nullptr;
+        Eldbus_Message_Iter* value = nullptr;
+        if (!eldbus_message_iter_arguments_get(entry, "sv", &key, &value))
+        {
+            return "the arguments are not a{sv}";
+        }
+        if (strlen(key) > LongestText)
+        {
+            return "the key " + Quoted(key) + " is too long";
+        }
+        const std::unique_ptr<char, Free> type(eldbus_message_iter_signature_get(value));
+        if (strcmp(type.get(), "s") == 0)
+        {
+            return ReadText(key, value);
+        }
+        if (strcmp(type.get(), "as") == 0)
+        {
+            return ReadArray(key, value);
+        }
+        return Refuse(key, std::string("is of type ") + type.get() + ", neither a string nor an array of strings");
+    }
+
+    Refusal ReadText(const char* key, Eldbus_Message_Iter* value)
+    {
+        const char* text = nullptr;
+        if (!eldbus_message_iter_arguments_get(value, "s", &text))
+        {
+            return Refuse(key, "cannot be read");
+        }
+        if (auto refusal = Count(key, text))
+        {
+            return refusal;
+        }
+        m_request.data.insert_or_assign(key, std::string(text));
+        return std::nullopt;
+    }
+
+    Refusal ReadArray(const char* key, Eldbus_Message_Iter* value)
+    {
+        Eldbus_Message_Iter* elements = nullptr;
+        if (!eldbus_message_iter_arguments_get(value, "as", &elements))
+        {
+            return Refuse(key, "cannot be read");
+        }
+        app_control_s::Array array;
+        const char* element = nullptr;
+        while (eldbus_message_iter_get_and_next(elements, 's', &element))
+        {
+            if (array.size() == MostElements)
+            {
+                return Refuse(key, "has more than " + std::to_string(MostElements) + " elements");
+            }
+            if (auto refusal = Count(key, element))
+            {
+                return refusal;
+            }
+            array.emplace_back(element);
+        }
+        m_request.data.insert_or_assign(key, std::move(array));
+        return std::nullopt;
+    }
+
+    Refusal Count(const char* key, const char* text)
+    {
+        const size_t length = strlen(text);
+        if (length > LongestText)
+        {
+            return Refuse(key, "holds a string of " + std::to_string(length) + " bytes, more than " +
+                                   std::to_string(LongestText));
+        }
+        m_bytes += length;
+        if (m_bytes > LargestRequest)
+        {
+            return Refuse(key, "brings the request over " + std::to_string(LargestRequest) + " bytes");
+        }
+        return std::nullopt;
+    }
+
+    app_control_s& m_request;
+    size_t m_bytes = 0;
+};
+
+bool IsFit(const app_control_s::Value& value)
+{
+    const auto fit = [](const std::string& text)
+    {
+        return IsBusText(text.c_str());
+    };
+    if (const auto* text = std::get_if<std::string>(&value))
+    {
+        return fit(*text);
+    }
+    const auto& array = std::get<app_control_s::Array>(value);
+    return std::all_of(array.begin(), array.end(), fit);
+}
+
+void AppendText(Eldbus_Message_Iter* entry, const std::string& text)
+{
+    auto* variant = eldbus_message_iter_container_new(entry, 'v', "s");
+    eldbus_message_iter_basic_append(variant, 's', text.c_str());
+    eldbus_message_iter_container_close(entry, variant);
+}
+
+void AppendArray(Eldbus_Message_Iter* entry, const app_control_s::Array& array)
+{
+    auto* variant = eldbus_message_iter_container_new(entry, 'v', "as");
+    auto* elements = eldbus_message_iter_container_new(variant, 'a', "s");
+    for (const auto& text : array)
+    {
+        eldbus_message_iter_basic_append(elements, 's', text.c_str());
+    }
+    eldbus_message_iter_container_close(variant, elements);
+    eldbus_message_iter_container_close(entry, variant);
+}
+
+void AppendEntry(Eldbus_Message_Iter* entries, const std::string& key, const app_control_s::Value& value)
+{
+    Eldbus_Message_Iter* entry = nullptr;
+    eldbus_message_iter_arguments_append(entries, "{sv}", &entry);
+    eldbus_message_iter_basic_append(entry, 's', key.c_str());
+    if (const auto* text = std::get_if<std::string>(&value))
+    {
+        AppendText(entry, *text);
+    }
+    else
+    {
+        AppendArray(entry, std::get<app_control_s::Array>(value));
+    }
+    eldbus_message_iter_container_close(entries, entry);
+}
+
+} // namespace
+
+std::optional<std::string> DecodeAppControl(const Eldbus_Message* call, app_control_s& request)
+{
+    return Decoder(request).Read(call);
+}
+
+BusMessage EncodeAppControl(const std::string& appId, const app_control_s& request)
+{
+    const bool fit =
+        std::all_of(request.data.begin(), request.data.end(),
+                    [](const auto& entry) { return IsBusText(entry.first.c_str()) && IsFit(entry.second); });
+    if (!fit || !IsApplicationId(appId.c_str()))
+    {
+        return nullptr;
+    }
+    BusMessage call(
+        eldbus_message_method_call_new(appId.c_str(), ObjectPath(appId).c_str(), ApplicationInterface, "AppControl"));
+    auto* arguments = eldbus_message_iter_get(call.get());
+    auto* entries = eldbus_message_iter_container_new(arguments, 'a', "{sv}");
+    for (const auto& [key, value] : request.data)
+    {
+        AppendEntry(entries, key, value);
+    }
+    eldbus_message_iter_container_close(arguments, entries);
+    return call;
+}
+
+} // namespace veskar

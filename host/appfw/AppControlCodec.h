@@ -1,0 +1,30 @@
+/** A service request as a message on the bus: `AppControl(a{sv})`, each value a string or an array of strings. */
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "AppControl.h"
+#include "Bus.h"
+
+namespace veskar
+{
+
+/** What a request may hold at most, so that a faulty sender cannot stop the screen: bytes, elements, bytes. */
+constexpr size_t LongestText = 256 * 1024;
+constexpr size_t MostElements = 20'000;
+constexpr size_t LargestRequest = 8 * 1024 * 1024;
+
+constexpr const char* RefusedError = "org.tizen.Application1.Error.Refused";
+
+/**
+ * Reads the arguments of an AppControl call into `request`; of a key given twice the last value stays. Returns why the
+ * call is refused, naming the key, or nothing.
+ */
+std::optional<std::string> DecodeAppControl(const Eldbus_Message* call, app_control_s& request);
+
+/** An AppControl call to the application of that id; null when the id or a text of the request is not fit for the bus.
+ */
+BusMessage EncodeAppControl(const std::string& appId, const app_control_s& request);
+
+} // namespace veskar

@@ -1,0 +1,275 @@
+#include "Application.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+#include <Elementary.h>
+
+#include "AppControlCodec.h"
+#include "BusName.h"
+#include "LanguageWatch.h"
+#include "Log.h"
+#include "MainLoop.h"
+#include "OwnName.h"
+#include "WindowWatch.h"
+
+namespace veskar
+{
+namespace
+{
+
+void LoadTheme()
+{
+    const char* chosen = getenv("VESKAR_THEME");
+    const char* theme = chosen != nullptr && *chosen != '\0' ? chosen : VESKAR_THEME_FILE;
+    std::error_code error;
+    if (!std::filesystem::exists(theme, error))
+    {
+        APPFW_ERROR("the TV's theme %s is missing: the screens take the toolkit's own look", theme);
+        return;
+    }
+    // An overlay, not an extension: it replaces also the styles that the toolkit's theme has.
+    elm_theme_overlay_add(nullptr, theme);
+}
+
+} // namespace
+
+Application& Application::Instance()
+{
+    // Never destroyed: event handlers and threads of the application may still name it while the process exits.
+    static auto* application = new Application;
+    return *application;
+}
+
+Application::Application() : m_id(OwnApplicationId()) {}
+
+app_event_handler_h Application::AddEventHandler(const app_event_handler& handler)
+{
+    return m_eventHandlers.emplace_back(std::make_unique<app_event_handler>(handler)).get();
+}
+
+bool Application::Send(BusMessage call, OutgoingCalls::Done done)
+{
+    return m_outgoing && !m_busIsDead && m_outgoing->Send(m_connection.get(), std::move(call), std::move(done));
+}
+
+int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& callbacks, void* userData)
+{
+    m_callbacks = callbacks;
+    m_userData = userData;
+    const BusLibrary library;
+    m_connection.reset(library && IsApplicationId(m_id.c_str()) ? eldbus_connection_get(ELDBUS_CONNECTION_TYPE_SESSION)
+                                                                : nullptr);
+    if (!m_connection)
+    {
+        APPFW_ERROR("%s cannot reach the TV's bus", m_id.c_str());
+        return APP_ERROR_INVALID_CONTEXT;
+    }
+    eldbus_connection_event_callback_add(m_connection.get(), ELDBUS_CONNECTION_EVENT_DISCONNECTED, s_OnDisconnected,
+                                         this);
+    m_outgoing = std::make_unique<OutgoingCalls>();
+    m_queue = std::make_unique<LifecycleQueue>([this](LifecycleEvent& event) { m_Deliver(event); });
+    // Before the name: a process that the bus has started gets its first request ahead of the answer about the name.
+    m_object = std::make_unique<ApplicationObject>(
+        m_connection.get(), m_id, [this](LifecycleEvent event) { m_queue->AddCall(std::move(event)); });
+
+    const int result = m_RunOwner(argc, argv);
+
+    m_object.reset();
+    m_queue.reset();
+    m_outgoing.reset();
+    eldbus_connection_event_callback_del(m_connection.get(), ELDBUS_CONNECTION_EVENT_DISCONNECTED, s_OnDisconnected,
+                                         this);
+    m_connection.reset();
+    return result;
+}
+
+int Application::m_RunOwner(int argc, char** argv)
+{
+    OwnName name(m_connection.get(), m_id);
+    if (!name.Request())
+    {
+        return m_busIsDead ? APP_ERROR_INVALID_CONTEXT : APP_ERROR_ALREADY_RUNNING;
+    }
+    if (elm_init(argc, argv) <= 0)
+    {
+        APPFW_ERROR("the toolkit cannot be initialised");
+        return APP_ERROR_INVALID_CONTEXT;
+    }
+    const bool created = m_Live();
+    name.Release();
+    if (created)
+    {
+        m_PassOnCalls();
+    }
+    else
+    {
+        m_RefuseCalls("the application could not be created");
+    }
+    // The windows go while the next process, if there is one, is already starting.
+    elm_shutdown();
+    TurnMainLoopUntil([this] { return m_outgoing->Empty(); });
+    return created ? APP_ERROR_NONE : APP_ERROR_INVALID_CONTEXT;
+}
+
+bool Application::m_Live()
+{
+    LoadTheme();
+    if (m_callbacks.create != nullptr && !m_callbacks.create(m_userData))
+    {
+        APPFW_ERROR("%s: the create callback failed", m_id.c_str());
+        return false;
+    }
+    m_RunLoop();
+    if (m_callbacks.terminate != nullptr)
+    {
+        m_callbacks.terminate(m_userData);
+    }
+    return true;
+}
+
+void Application::m_RunLoop()
+{
+    WindowWatch window([this](bool shown)
+                       { m_queue->AddWindowEvent(shown ? LifecycleKind::Resume : LifecycleKind::Pause); });
+    const LanguageWatch language([this] { m_LanguageFileChanged(); });
+    window.Find();
+    m_queue->Start();
+    elm_run();
+    m_queue->Stop();
+}
+
+void Application::m_Deliver(LifecycleEvent& event)
+{
+    m_Tell(event);
+    m_Reply(event);
+}
+
+void Application::m_Tell(const LifecycleEvent& event)
+{
+    const auto call = [this](void (*callback)(void*))
+    {
+        if (callback != nullptr)
+        {
+            callback(m_userData);
+        }
+    };
+    switch (event.kind)
+    {
+    case LifecycleKind::Request:
+        if (m_callbacks.app_control != nullptr)
+        {
+            m_callbacks.app_control(event.request.get(), m_userData);
+        }
+        break;
+    case LifecycleKind::Pause:
+        call(m_callbacks.pause);
+        break;
+    case LifecycleKind::Resume:
+        call(m_callbacks.resume);
+        break;
+    case LifecycleKind::LanguageChanged:
+        m_TellLanguageChanged();
+        break;
+    case LifecycleKind::Terminate:
+        elm_exit();
+        break;
+    }
+}
+
+void Application::m_TellLanguageChanged()
+{
+    m_languageChangeQueued = false;
+    app_event_info info = {APP_EVENT_LANGUAGE_CHANGED};
+    for (const auto& handler : m_eventHandlers)
+    {
+        if (handler->type == info.type)
+        {
+            handler->callback(&info, handler->userData);
+        }
+    }
+}
+
+/** Writing a file is several changes of it; one event that comes after the first of them reads them all. */
+void Application::m_LanguageFileChanged()
+{
+    if (!m_languageChangeQueued)
+    {
+        m_languageChangeQueued = true;
+        m_queue->AddCall({LifecycleKind::LanguageChanged, nullptr, nullptr});
+    }
+}
+
+void Application::m_Reply(const LifecycleEvent& event)
+{
+    if (event.call && !m_busIsDead)
+    {
+        eldbus_connection_send(m_connection.get(), eldbus_message_method_return_new(event.call.get()), nullptr, nullptr,
+                               -1);
+    }
+}
+
+void Application::m_ReplyError(Eldbus_Message* call, const char* name, const char* text)
+{
+    if (!m_busIsDead)
+    {
+        eldbus_connection_send(m_connection.get(), eldbus_message_error_new(call, name, text), nullptr, nullptr, -1);
+    }
+}
+
+void Application::m_PassOnCalls()
+{
+    while (const auto event = m_queue->TakeCall())
+    {
+        if (event->kind == LifecycleKind::Request)
+        {
+            m_PassOn(*event);
+        }
+        else
+        {
+            m_Reply(*event);
+        }
+    }
+}
+
+void Application::m_PassOn(const LifecycleEvent& event)
+{
+    APPFW_INFO("a request came while the application ended: passed on to the next process");
+    const std::shared_ptr<Eldbus_Message> asked = ShareMessage(event.call.get());
+    const auto forward = [this, asked](const Eldbus_Message* reply)
+    {
+        const char* name = nullptr;
+        const char* text = nullptr;
+        if (eldbus_message_error_get(reply, &name, &text))
+        {
+            APPFW_ERROR("the next process did not take the request: %s", text);
+            m_ReplyError(asked.get(), name, text);
+            return;
+        }
+        eldbus_connection_send(m_connection.get(), eldbus_message_method_return_new(asked.get()), nullptr, nullptr, -1);
+    };
+    if (!Send(EncodeAppControl(m_id, *event.request), forward))
+    {
+        APPFW_ERROR("a request that came while the application ended is lost: the bus is gone");
+    }
+}
+
+void Application::m_RefuseCalls(const char* why)
+{
+    while (const auto event = m_queue->TakeCall())
+    {
+        if (event->call)
+        {
+            m_ReplyError(event->call.get(), RefusedError, why);
+        }
+    }
+}
+
+void Application::s_OnDisconnected(void* data, Eldbus_Connection*, void*)
+{
+    // The library itself asks the main loop to end, as for a signal.
+    APPFW_ERROR("the TV's bus is gone: the application ends");
+    static_cast<Application*>(data)->m_busIsDead = true;
+}
+
+} // namespace veskar

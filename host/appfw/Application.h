@@ -1,0 +1,83 @@
+/** The running application: its place on the bus, its life and what it is told. */
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <app.h>
+
+#include "ApplicationObject.h"
+#include "Bus.h"
+#include "LifecycleQueue.h"
+#include "OutgoingCalls.h"
+
+/** The objects behind the platform's handles. */
+struct app_event_handler
+{
+    app_event_type_e type;
+    app_event_cb callback;
+    void* userData;
+};
+
+struct app_event_info
+{
+    app_event_type_e type;
+};
+
+namespace veskar
+{
+
+/** The one application of the process. Main thread. */
+class Application
+{
+public:
+    static Application& Instance();
+
+    /** As ui_app_main, with a callback record that is there. */
+    int Run(int argc, char** argv, const ui_app_lifecycle_callback_s& callbacks, void* userData);
+
+    /** The handler lives as long as the application. */
+    app_event_handler_h AddEventHandler(const app_event_handler& handler);
+
+    /** Sends a call without waiting; the process does not end before the other side has it. False: no bus. */
+    bool Send(BusMessage call, OutgoingCalls::Done done);
+
+private:
+    Application();
+    ~Application() = default;
+
+    int m_RunOwner(int argc, char** argv);
+    bool m_Live();
+    void m_RunLoop();
+
+    void m_Deliver(LifecycleEvent& event);
+    void m_Tell(const LifecycleEvent& event);
+    void m_TellLanguageChanged();
+    void m_LanguageFileChanged();
+
+    void m_Reply(const LifecycleEvent& event);
+    void m_ReplyError(Eldbus_Message* call, const char* name, const char* text);
+
+    /** What reached a process on its way out goes to the next one, and the next one's reply to who asked. */
+    void m_PassOnCalls();
+    void m_PassOn(const LifecycleEvent& event);
+    void m_RefuseCalls(const char* why);
+
+    static void s_OnDisconnected(void* data, Eldbus_Connection* connection, void* event);
+
+    const std::string m_id;
+    ui_app_lifecycle_callback_s m_callbacks = {};
+    void* m_userData = nullptr;
+    std::vector<std::unique_ptr<app_event_handler>> m_eventHandlers;
+    bool m_languageChangeQueued = false;
+    bool m_busIsDead = false;
+
+    // There while Run runs, in the order in which they need each other.
+    BusConnection m_connection;
+    std::unique_ptr<OutgoingCalls> m_outgoing;
+    std::unique_ptr<LifecycleQueue> m_queue;
+    std::unique_ptr<ApplicationObject> m_object;
+};
+
+} // namespace veskar

@@ -1,0 +1,54 @@
+/** Owners of the bus library's handles. Main thread only, as the library itself. */
+#pragma once
+
+#include <memory>
+
+#include <Ecore.h>
+#include <Eldbus.h>
+
+namespace veskar
+{
+
+/**
+ * The library is usable while one of these lives. The main loop's library comes first: it uses the bus itself while it
+ * initialises, and would do so in the middle of the bus library's own initialisation.
+ */
+class BusLibrary
+{
+public:
+    BusLibrary() : m_ready(ecore_init() > 0 && eldbus_init() > 0) {}
+    BusLibrary(const BusLibrary&) = delete;
+    BusLibrary& operator=(const BusLibrary&) = delete;
+    ~BusLibrary()
+    {
+        if (m_ready)
+        {
+            eldbus_shutdown();
+            ecore_shutdown();
+        }
+    }
+    explicit operator bool() const { return m_ready; }
+
+private:
+    bool m_ready;
+};
+
+struct BusDeleter
+{
+    /** The last reference gone, what is still queued is written out first. */
+    void operator()(Eldbus_Connection* connection) const { eldbus_connection_unref(connection); }
+    void operator()(Eldbus_Message* message) const { eldbus_message_unref(message); }
+    void operator()(Eldbus_Service_Interface* object) const { eldbus_service_object_unregister(object); }
+};
+
+using BusConnection = std::unique_ptr<Eldbus_Connection, BusDeleter>;
+using BusMessage = std::unique_ptr<Eldbus_Message, BusDeleter>;
+using BusObject = std::unique_ptr<Eldbus_Service_Interface, BusDeleter>;
+
+/** One more owner of a message that the library lends to a callback. */
+inline BusMessage ShareMessage(const Eldbus_Message* message)
+{
+    return BusMessage(eldbus_message_ref(const_cast<Eldbus_Message*>(message)));
+}
+
+} // namespace veskar

@@ -1,0 +1,28 @@
+/** Waiting on the main thread while the main loop goes on. */
+#pragma once
+
+#include <Ecore.h>
+
+namespace veskar
+{
+
+/**
+ * To be called by what makes the condition of a TurnMainLoopUntil true: messages of the bus are dispatched just before
+ * the loop goes to sleep, and this keeps it from doing so.
+ */
+inline void WakeMainLoop()
+{
+    ecore_job_add([](void*) {}, nullptr);
+}
+
+/** Not for use inside an application's callback: whatever the loop brings is dealt with meanwhile. */
+template <typename Done>
+void TurnMainLoopUntil(Done done)
+{
+    while (!done())
+    {
+        ecore_main_loop_iterate_may_block(EINA_TRUE);
+    }
+}
+
+} // namespace veskar

@@ -1,0 +1,73 @@
+/** The platform's C interfaces over the settings store. */
+#include <cstring>
+
+#include <system_info.h>
+#include <ui_orientation.h>
+#include <vconf.h>
+
+#include "SettingKeys.h"
+#include "SettingsStore.h"
+
+namespace
+{
+
+constexpr int Failed = -1;
+constexpr int InvalidParameter = -22;
+
+bool IsSetting(const char* key)
+{
+    return key != nullptr && veskar::KindOf(key) != veskar::SettingKind::Feature;
+}
+
+bool IsFeature(const char* key)
+{
+    return key != nullptr && veskar::KindOf(key) == veskar::SettingKind::Feature;
+}
+
+} // namespace
+
+int vconf_get_int(const char* key, int* value)
+{
+    if (!IsSetting(key) || value == nullptr)
+    {
+        return Failed;
+    }
+    const auto number = veskar::ReadWholeNumber(key);
+    if (!number)
+    {
+        return Failed;
+    }
+    *value = *number;
+    return 0;
+}
+
+int vconf_get_bool(const char* key, int* value)
+{
+    return vconf_get_int(key, value);
+}
+
+char* vconf_get_str(const char* key)
+{
+    const auto text = IsSetting(key) ? veskar::ReadSetting(key) : std::nullopt;
+    return text ? strdup(text->c_str()) : nullptr;
+}
+
+int system_info_get_custom_bool(const char* key, bool* value)
+{
+    if (!IsFeature(key) || value == nullptr)
+    {
+        return InvalidParameter;
+    }
+    const auto number = veskar::ReadWholeNumber(key);
+    if (!number)
+    {
+        return InvalidParameter;
+    }
+    *value = *number != 0;
+    return 0;
+}
+
+int ua_UI_orientation_get(void)
+{
+    return veskar::ReadWholeNumber(veskar::OrientationKey).value_or(0);
+}

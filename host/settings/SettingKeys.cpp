@@ -1,0 +1,85 @@
+#include "SettingKeys.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "SettingsStore.h"
+
+namespace veskar
+{
+namespace
+{
+
+constexpr SettingKey Keys[] = {
+    {LanguageKey, SettingType::Text, "language of the toolkit's own texts, as a locale (ko_KR.utf8)"},
+    {OrientationKey, SettingType::Integer, "direction of the user interface: 1 right-to-left, 0 left-to-right"},
+    {"db/menu/system/accessibility/focuszoom", SettingType::Integer, "enlarged text: 1 on, 0 off"},
+    {"db/menu/system/accessibility/highcontrast", SettingType::Integer, "high contrast: 1 on, 0 off"},
+    {"memory/function-osd/number_pad_show", SettingType::Integer, "1 while the number pad is on the screen"},
+    {"memory/ephotel/hotelmenu/hotelfactorymode", SettingType::Switch, "the hotel factory menu started the dialogue"},
+    {"com.brelmon/featureconf/bt_profile_bt_smart_control", SettingType::Switch,
+     "the set has a smart remote without digit keys, so a PIN may ask for the number pad"},
+    {"com.brelmon/featureconf/product.b2b_option_support", SettingType::Switch, "the set is a hotel model"},
+};
+
+constexpr std::string_view Yes[] = {"1", "true", "on", "yes"};
+constexpr std::string_view No[] = {"0", "false", "off", "no"};
+
+template <size_t Count>
+bool Contains(const std::string_view (&words)[Count], std::string_view word)
+{
+    return std::find(std::begin(words), std::end(words), word) != std::end(words);
+}
+
+bool NormaliseSwitch(std::string& value)
+{
+    const bool yes = Contains(Yes, value);
+    if (!yes && !Contains(No, value))
+    {
+        return false;
+    }
+    value = yes ? "1" : "0";
+    return true;
+}
+
+} // namespace
+
+SettingKeyRange KnownSettings()
+{
+    return {std::begin(Keys), std::end(Keys)};
+}
+
+const SettingKey* FindSetting(std::string_view key)
+{
+    const auto range = KnownSettings();
+    const auto* found = std::find_if(range.begin(), range.end(), [&](const auto& known) { return known.key == key; });
+    return found == range.end() ? nullptr : found;
+}
+
+const char* TypeName(SettingType type)
+{
+    switch (type)
+    {
+    case SettingType::Integer:
+        return "a whole number";
+    case SettingType::Switch:
+        return "1 or 0";
+    default:
+        return "a text";
+    }
+}
+
+bool NormaliseSetting(SettingType type, std::string& value)
+{
+    switch (type)
+    {
+    case SettingType::Integer:
+        return ParseWholeNumber(value).has_value();
+    case SettingType::Switch:
+        return NormaliseSwitch(value);
+    default:
+        return value.find_first_of("\n\r") == std::string::npos;
+    }
+}
+
+} // namespace veskar
