@@ -64,12 +64,18 @@ bool GrabTable::holds(weston_surface* surface, const Key& key, GrabMode mode) co
                        { return grab.surface == surface && grab.key == &key && grab.mode == mode; });
 }
 
-weston_surface* GrabTable::exclusiveHolder(const Key& key) const
+weston_surface* GrabTable::holder(const Key& key, GrabMode mode,
+                                  const std::function<bool(weston_surface*)>& accepts) const
 {
     const auto found =
         std::find_if(m_grabs.begin(), m_grabs.end(),
-                     [&key](const Grab& grab) { return grab.key == &key && grab.mode == GrabMode::Exclusive; });
+                     [&](const Grab& grab) { return grab.key == &key && grab.mode == mode && accepts(grab.surface); });
     return found == m_grabs.end() ? nullptr : found->surface;
+}
+
+weston_surface* GrabTable::exclusiveHolder(const Key& key) const
+{
+    return holder(key, GrabMode::Exclusive, [](weston_surface*) { return true; });
 }
 
 } // namespace veskar

@@ -4,6 +4,7 @@
 #include "KeyTable.h"
 #include "Listener.h"
 
+#include <functional>
 #include <list>
 #include <memory>
 
@@ -46,6 +47,9 @@ public:
     void removeClient(wl_client* client);
 
     bool holds(weston_surface* surface, const Key& key, GrabMode mode) const;
+
+    /** A surface that holds the key in this mode and that is accepted, or null. */
+    weston_surface* holder(const Key& key, GrabMode mode, const std::function<bool(weston_surface*)>& accepts) const;
 
     /** The surface that holds the key exclusively, or null. */
     weston_surface* exclusiveHolder(const Key& key) const;

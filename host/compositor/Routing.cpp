@@ -131,6 +131,11 @@ weston_surface* Routing::targetOf(const Key& key) const
     {
         return registrant;
     }
+    // Its client has shown it, and its first picture is on the way.
+    if (weston_surface* coming = m_grabs.holder(key, GrabMode::Registered, weston_surface_is_desktop_surface))
+    {
+        return coming;
+    }
     // Nobody has the focus while the desktop's own focus is outside the TV's window.
     weston_surface* focus = m_seat.keyboard()->focus;
     return focus != nullptr ? focus : topmost;
@@ -147,7 +152,6 @@ void Routing::lendFocus(weston_surface* target)
     if (keyboard->focus == nullptr || keyboard->focus != m_borrower.get())
     {
         m_lender.set(keyboard->focus);
-        m_desktopWillRestore = keyboard->seat->use_saved_kbd_focus;
     }
     m_borrower.set(target);
     weston_keyboard_set_focus(keyboard, target);
@@ -165,11 +169,21 @@ void Routing::giveFocusBack()
     {
         return;
     }
-    weston_keyboard_set_focus(keyboard, lender != nullptr && weston_surface_is_mapped(lender) ? lender : nullptr);
-    if (lender == nullptr)
+    weston_seat* seat = keyboard->seat;
+    if (seat->saved_kbd_focus != nullptr)
     {
-        keyboard->seat->use_saved_kbd_focus = m_desktopWillRestore;
+        // The desktop's focus is outside the TV's window. The compositor remembers whose ours was, and must not find
+        // anyone with it when the desktop's comes back or goes away once more.
+        weston_keyboard_set_focus(keyboard, nullptr);
+        seat->use_saved_kbd_focus = true;
+        return;
     }
+    weston_surface* next = lender != nullptr && weston_surface_is_mapped(lender) ? lender : m_windows.topmost();
+    if (next == nullptr && borrower != nullptr && weston_surface_is_desktop_surface(borrower))
+    {
+        next = borrower; // it will be drawn, and be the only one
+    }
+    weston_keyboard_set_focus(keyboard, next);
 }
 
 } // namespace veskar

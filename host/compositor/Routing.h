@@ -2,7 +2,8 @@
  * Where a key goes.
  *
  * To the surface that holds it exclusively; else to the topmost window, if that one holds it topmost; else to the
- * topmost window that registered it; else to the window with the focus. A key goes up where it went down.
+ * topmost window that registered it (one that is shown but not drawn yet is below all others); else to the window with
+ * the focus. A key goes up where it went down.
  */
 #pragma once
 
@@ -49,8 +50,6 @@ private:
     std::map<const Key*, SurfaceRef> m_pressed;
     SurfaceRef m_borrower;
     SurfaceRef m_lender;
-    /** Nobody had the focus because the desktop's is elsewhere; the compositor kept in mind whom to give it to. */
-    bool m_desktopWillRestore = false;
 };
 
 } // namespace veskar

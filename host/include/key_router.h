@@ -58,7 +58,10 @@ extern "C"
     /** Grabs every key of the list for the surface; fails when one of them is refused (the others stay grabbed). */
     int KeyRouter_Set_KeyList(struct wl_surface* surface, const _KeyList* list);
 
-    /** Releases them. A key that is not held counts as released; one that is held in another mode is a failure. */
+    /**
+ * Releases them. A key that is not held counts as released. Exclusive and topmost are two strengths of one grab: asked to
+ * release one of them of a key that is held in the other, it fails and the key stays held. A registration stands beside.
+ */
     int KeyRouter_UnSet_KeyList(struct wl_surface* surface, const _KeyList* list);
 
 #ifdef __cplusplus
