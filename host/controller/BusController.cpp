@@ -5,6 +5,7 @@
 
 #include <Eldbus.h>
 
+#include <cstring>
 #include <memory>
 
 namespace
@@ -20,6 +21,12 @@ struct ConnectionUnref
     void operator()(Eldbus_Connection* connection) const { eldbus_connection_unref(connection); }
 };
 using Connection = std::unique_ptr<Eldbus_Connection, ConnectionUnref>;
+
+struct MessageUnref
+{
+    void operator()(Eldbus_Message* message) const { eldbus_message_unref(message); }
+};
+using Message = std::unique_ptr<Eldbus_Message, MessageUnref>;
 
 /**
  * The process's one session connection, which the application framework opens first and closes last. It is taken anew
@@ -56,16 +63,16 @@ bool Call(const char* method, const char* signature, Args... args)
         __dlog_print(LOG_ID_MAIN, DLOG_ERROR, s_tag, "No bus for %s", method);
         return false;
     }
-    Eldbus_Message* message = eldbus_message_method_call_new(s_busName, s_path, s_interface, method);
-    if (message == nullptr || !eldbus_message_arguments_append(message, signature, args...))
+    Message message{eldbus_message_method_call_new(s_busName, s_path, s_interface, method)};
+    if (message == nullptr || !eldbus_message_arguments_append(message.get(), signature, args...))
     {
         __dlog_print(LOG_ID_MAIN, DLOG_ERROR, s_tag, "Out of memory for %s", method);
         return false;
     }
-    return eldbus_connection_send(connection.get(), message, OnReply, nullptr, s_defaultTimeout) != nullptr;
+    return eldbus_connection_send(connection.get(), message.release(), OnReply, nullptr, s_defaultTimeout) != nullptr;
 }
 
-/** The bus closes the connection of whoever sends a string that is none to it, so such a text must not get there. */
+/** Whoever sends the bus a string that is not UTF-8 loses its connection, so such a text must not get there. */
 bool IsBusText(const std::string& text)
 {
     return text.find('\0') == std::string::npos && dbus_validate_utf8(text.c_str(), nullptr);
@@ -87,11 +94,14 @@ public:
         if (!IsBusText(data))
         {
             __dlog_print(LOG_ID_MAIN, DLOG_ERROR, s_tag,
-                         "The answer of ui %d, source %d is dropped: its %zu bytes of text are not valid UTF-8", uiId,
-                         sourceId, data.size());
+                         "The answer of ui %d, source %d is dropped: its %zu bytes are no text that the bus carries",
+                         uiId, sourceId, data.size());
             return false;
         }
-        return Call("SendResponse", "iyiyys", uiId, sourceId, kind, button, item, data.c_str());
+        const bool sent = Call("SendResponse", "iyiyys", uiId, sourceId, kind, button, item, data.c_str());
+        // It may be a PIN, and this copy is ours.
+        explicit_bzero(data.data(), data.size());
+        return sent;
     }
 };
 } // namespace

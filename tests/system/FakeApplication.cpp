@@ -1,0 +1,70 @@
+#include "FakeApplication.h"
+
+#include "ServeOnce.h"
+
+#include <stdexcept>
+#include <utility>
+
+using namespace VESKAR_DESK;
+
+FakeApplication::FakeApplication()
+    : m_bus(sdbus::createSessionBusConnection()),
+      m_middleware(sdbus::createProxy(*m_bus, Controller::busName, Controller::path)),
+      m_contextManager(sdbus::createProxy(*m_bus, Manager::busName, Manager::path)),
+      m_object(sdbus::createObject(*m_bus, Application::PathOf(Application::id)))
+{
+    m_object->registerMethod(Application::appControl)
+        .onInterface(Application::interface)
+        .implementedAs([this](const RequestData& request) { m_Handle(request); });
+    m_object->finishRegistration();
+    Return();
+}
+
+RequestData FakeApplication::Take()
+{
+    const auto deadline = Clock::now() + PATIENCE;
+    while (m_taken.empty())
+    {
+        if (!ServeOnce(*m_bus, deadline))
+        {
+            throw std::runtime_error("no request came");
+        }
+    }
+    RequestData request = std::move(m_taken.front());
+    m_taken.pop_front();
+    return request;
+}
+
+void FakeApplication::m_Handle(const RequestData& request)
+{
+    m_taken.push_back(request);
+    if (const auto action = std::exchange(m_whileHandling, nullptr))
+    {
+        action();
+    }
+}
+
+void FakeApplication::Answer(int uiId, int sourceId, int kind, int button, int item, const std::string& data)
+{
+    m_middleware->callMethod(Controller::sendResponse)
+        .onInterface(Controller::interface)
+        .withArguments(std::int32_t{uiId}, static_cast<std::uint8_t>(sourceId), std::int32_t{kind},
+                       static_cast<std::uint8_t>(button), static_cast<std::uint8_t>(item), data)
+        .dontExpectReply();
+}
+
+void FakeApplication::AskForTask(const std::string& task, const std::string& action)
+{
+    m_contextManager->callMethod(Manager::requestTask)
+        .onInterface(Manager::interface)
+        .withArguments(task, action)
+        .dontExpectReply();
+}
+
+void FakeApplication::OpenMenuPosition(int position)
+{
+    m_middleware->callMethod(Controller::openMenuPosition)
+        .onInterface(Controller::interface)
+        .withArguments(std::int32_t{position})
+        .dontExpectReply();
+}

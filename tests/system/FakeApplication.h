@@ -1,0 +1,40 @@
+#pragma once
+
+#include "DeskBus.h"
+#include "Process.h"
+
+#include <deque>
+#include <functional>
+#include <memory>
+
+/**
+ * Has the application's name and does with a request what a test says. It handles requests only inside `Take`, so that
+ * nothing happens that the test did not ask for.
+ */
+class FakeApplication
+{
+public:
+    FakeApplication();
+
+    /** Handles requests until one more was taken, and returns it: the sender has its reply then. */
+    VESKAR_DESK::RequestData Take();
+    /** The next request runs this before its reply; an sdbus::Error that it throws is the reply. */
+    void WhileHandling(std::function<void()> action) { m_whileHandling = std::move(action); }
+
+    void Answer(int uiId, int sourceId, int kind, int button = 0, int item = 0, const std::string& data = "");
+    void AskForTask(const std::string& task, const std::string& action);
+    void OpenMenuPosition(int position);
+
+    void Leave() { m_bus->releaseName(VESKAR_DESK::Application::id); }
+    void Return() { m_bus->requestName(VESKAR_DESK::Application::id); }
+
+private:
+    void m_Handle(const VESKAR_DESK::RequestData& request);
+
+    std::unique_ptr<sdbus::IConnection> m_bus;
+    std::unique_ptr<sdbus::IProxy> m_middleware;
+    std::unique_ptr<sdbus::IProxy> m_contextManager;
+    std::unique_ptr<sdbus::IObject> m_object;
+    std::function<void()> m_whileHandling;
+    std::deque<VESKAR_DESK::RequestData> m_taken;
+};

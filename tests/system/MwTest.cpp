@@ -1,0 +1,194 @@
+/** `veskar-mw` and the daemon behind it, against an application that does what each test says. */
+#include "FakeApplication.h"
+#include "Tv.h"
+
+#include <fstream>
+
+using namespace VESKAR_DESK;
+
+namespace
+{
+
+using Words = std::vector<std::string>;
+
+Process Mw(Words arguments)
+{
+    arguments.insert(arguments.begin(), "veskar-mw");
+    return Process(arguments);
+}
+
+std::string TextOf(const RequestData& request, const std::string& key)
+{
+    return request.at(key).get<std::string>();
+}
+
+Words TextsOf(const RequestData& request, const std::string& key)
+{
+    return request.at(key).get<Words>();
+}
+
+} // namespace
+
+class MwTest : public TvTest
+{
+protected:
+    void SetUp() override {}
+
+    /** A message that the application has handled and not yet answered. */
+    Process Shown(int uiId, const char* kind = "message")
+    {
+        Process mw = Mw({"--ui-id", std::to_string(uiId), kind});
+        m_application.Take();
+        return mw;
+    }
+
+    FakeApplication m_application;
+};
+
+TEST_F(MwTest, AnswersArePrintedAndBecomeTheStatus)
+{
+    const std::map<int, int> statusOfKind{{0, 0}, {2, 2}, {3, 1}};
+    for (const auto& [kind, status] : statusOfKind)
+    {
+        Process mw = Shown(7);
+        m_application.Answer(7, 255, kind, 2, 250, "a \"b\"");
+        EXPECT_EQ(mw.Status(), status);
+        EXPECT_EQ(mw.Output(), Answer(7, 255, kind, 2, 250, R"(a \"b\")"));
+    }
+}
+
+TEST_F(MwTest, EachOfTwoAtOnceGetsItsOwnAnswer)
+{
+    Process first = Shown(1);
+    Process second = Shown(2);
+    m_application.Answer(2, 254, 0, 9);
+    m_application.Answer(2, 255, 0, 2);
+    m_application.Answer(1, 255, 0, 1);
+    EXPECT_EQ(second.Status(), 0);
+    EXPECT_EQ(second.Output(), Answer(2, 255, 0, 2, 0));
+    EXPECT_EQ(first.Status(), 0);
+    EXPECT_EQ(first.Output(), Answer(1, 255, 0, 1, 0));
+}
+
+TEST_F(MwTest, ScreenReplacedByOneWithTheSameIdsIsClosedAndTheSecondWaitsOn)
+{
+    Process first = Shown(5);
+    m_application.WhileHandling([this] { m_application.Answer(5, 255, 2); });
+    Process second = Shown(5);
+    EXPECT_EQ(first.Status(), 2);
+    m_application.Answer(5, 255, 0, 1);
+    EXPECT_EQ(second.Status(), 0);
+}
+
+TEST_F(MwTest, ScreenUpdatedInPlaceAnswersEverybodyWhoWaitsForIt)
+{
+    Process first = Shown(5, "progress");
+    Process second = Shown(5, "progress");
+    m_application.Answer(5, 255, 0, 1);
+    EXPECT_EQ(first.Status(), 0);
+    EXPECT_EQ(second.Status(), 0);
+}
+
+TEST_F(MwTest, TimeOutIsSaidAndTheLateAnswerIsNobodys)
+{
+    Process mw = Mw({"--timeout", "0.1", "message"});
+    m_application.Take();
+    EXPECT_EQ(mw.Status(), 3);
+    EXPECT_EQ(mw.Output(), "");
+    m_application.Answer(1, 255, 0, 1);
+    EXPECT_TRUE(WaitUntil([this] { return CountInLog("button 1, item 0, data 0 bytes; nobody waited") > 0; }));
+}
+
+TEST_F(MwTest, ApplicationThatLeavesWithoutAnAnswerIsGone)
+{
+    Process mw = Shown(1);
+    m_application.Leave();
+    EXPECT_EQ(mw.Status(), 69);
+}
+
+TEST_F(MwTest, RequestThatTheNextProcessTakesOverIsStillAnswered)
+{
+    Process mw = Shown(1);
+    m_application.Leave();
+    m_application.Return();
+    m_application.Answer(1, 255, 3);
+    EXPECT_EQ(mw.Status(), 1);
+}
+
+TEST_F(MwTest, RequestThatGoesNowhereHasItsOwnStatus)
+{
+    m_application.WhileHandling([] { throw sdbus::Error("org.tizen.Error.Refused", "too long"); });
+    EXPECT_EQ(Shown(1).Status(), 64) << "refused";
+    m_application.Leave();
+    EXPECT_EQ(Mw({"message"}).Status(), 69) << "no application";
+    EXPECT_EQ(Process({"env", "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere", "veskar-mw", "message"}).Status(), 69);
+}
+
+TEST_F(MwTest, BadUsageIsRefusedWithoutARequest)
+{
+    for (const std::string usage :
+         {"", "bogus", "menu", "raw a", "raw a=1 a[]=2", "--source-id 256 message", "--timeout 0 message",
+          "message --title $(printf '\\377')", "list --entries-from /nowhere"})
+    {
+        Process mw({"sh", "-c", "veskar-mw " + usage});
+        EXPECT_EQ(mw.Status(), 64) << usage;
+        EXPECT_EQ(mw.Output(), "");
+    }
+    EXPECT_EQ(CountInLog("request \""), 0);
+}
+
+TEST_F(MwTest, TextsArriveAsTheyWereGiven)
+{
+    const Words buttons{"[a,b]", "", "-x"};
+    Process mw = Mw({"--no-wait", "message", "--title=-t", "--sub=", "--button", buttons[0], "--button", buttons[1],
+                     "--button=" + buttons[2], "--no-close"});
+    const RequestData request = m_application.Take();
+    EXPECT_EQ(mw.Status(), 0);
+    EXPECT_EQ(TextOf(request, "signal_tvservice_key"), "ui_type_message");
+    EXPECT_EQ(TextOf(request, "ui_param_title"), "-t");
+    EXPECT_EQ(TextOf(request, "ui_param_noclose"), "1");
+    EXPECT_EQ(TextsOf(request, "ui_param_buttons"), buttons);
+}
+
+TEST_F(MwTest, RowsOfAFileFollowThoseGivenOneByOne)
+{
+    const std::string file = std::string{getenv("XDG_RUNTIME_DIR")} + "/rows";
+    std::ofstream{file} << "b\tc\n\nd\n";
+    const Process mw = Mw({"--no-wait", "list", "--entry", "a", "--entries-from", file});
+    EXPECT_EQ(TextsOf(m_application.Take(), "ui_param_entries"), (Words{"a", "b\tc", "", "d"}));
+}
+
+TEST_F(MwTest, RawWaitsForTheScreenWithTheIdsAmongItsValues)
+{
+    Process mw =
+        Mw({"raw", "signal_type_key=signal_tvservice", "signal_tvservice_key=ui_type_message", "ui_param_ui_id= 42abc",
+            "ui_param_source_id=510", "ui_param_buttons[]=A", "ui_param_buttons[]=B"});
+    EXPECT_EQ(TextsOf(m_application.Take(), "ui_param_buttons"), (Words{"A", "B"}));
+    m_application.Answer(42, 254, 3);
+    EXPECT_EQ(mw.Status(), 1);
+}
+
+TEST_F(MwTest, MenuTellsTheTaskAndThePositionOfItsOwnRequest)
+{
+    Process unknown = Mw({"--timeout", "0.5", "menu", "nowhere"});
+    EXPECT_EQ(TextOf(m_application.Take(), "menu_pos_key"), "nowhere");
+    m_application.AskForTask("name:menu ", "stop");
+    Process known = Mw({"menu", "veskar_info"});
+    m_application.Take();
+    m_application.AskForTask("name:menu ", "stop");
+    m_application.OpenMenuPosition(0);
+    const std::string task = "{\"task\":\"name:menu \",\"action\":\"stop\"}\n";
+    EXPECT_EQ(known.Status(), 0);
+    EXPECT_EQ(known.Output(), task + "{\"menuPosition\":0}\n");
+    EXPECT_EQ(unknown.Status(), 3);
+    EXPECT_EQ(unknown.Output(), task);
+}
+
+TEST_F(MwTest, LogTellsOfAPinItsLengthOnly)
+{
+    Process mw = Shown(1, "pin");
+    m_application.Answer(1, 255, 0, 0, 0, "8071");
+    EXPECT_EQ(mw.Status(), 0);
+    EXPECT_TRUE(WaitUntil([this] { return CountInLog("data 4 bytes; 1 waited") == 1; }));
+    EXPECT_EQ(CountInLog("8071"), 0);
+}
