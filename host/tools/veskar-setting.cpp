@@ -1,0 +1,134 @@
+/** Reads and writes the settings and feature flags of the desk TV. Needs neither the bus nor the application. */
+#include <cstdio>
+#include <string>
+
+#include <sysexits.h>
+
+#include <CLI/CLI.hpp>
+
+#include "SettingKeys.h"
+#include "SettingsStore.h"
+
+namespace
+{
+
+constexpr int NotSet = 1;
+
+struct Arguments
+{
+    std::string key;
+    std::string value;
+    bool force = false;
+};
+
+/** Tells what is wrong with the key; true when it may be used. */
+bool MayUse(const Arguments& arguments)
+{
+    const char* key = arguments.key.c_str();
+    if (!veskar::IsWellFormedKey(arguments.key))
+    {
+        fprintf(stderr, "veskar-setting: \"%s\" is no key: names with slashes between, as db/menu_widget/language\n",
+                key);
+        return false;
+    }
+    if (veskar::FindSetting(arguments.key) == nullptr && !arguments.force)
+    {
+        fprintf(
+            stderr,
+            "veskar-setting: nothing reads \"%s\"; \"veskar-setting list\" shows every key, --force takes any other\n",
+            key);
+        return false;
+    }
+    if (!veskar::SettingFile(arguments.key))
+    {
+        fprintf(stderr,
+                "veskar-setting: no folder for \"%s\": set HOME or XDG_RUNTIME_DIR, or the TV's own variables\n", key);
+        return false;
+    }
+    return true;
+}
+
+int Get(const Arguments& arguments)
+{
+    if (!MayUse(arguments))
+    {
+        return EX_USAGE;
+    }
+    const auto value = veskar::ReadSetting(arguments.key);
+    if (!value)
+    {
+        fprintf(stderr, "veskar-setting: \"%s\" is not set\n", arguments.key.c_str());
+        return NotSet;
+    }
+    printf("%s\n", value->c_str());
+    return EX_OK;
+}
+
+int Set(const Arguments& arguments)
+{
+    if (!MayUse(arguments))
+    {
+        return EX_USAGE;
+    }
+    const auto* known = veskar::FindSetting(arguments.key);
+    const auto type = known != nullptr ? known->type : veskar::SettingType::Text;
+    auto value = arguments.value;
+    if (!veskar::NormaliseSetting(type, value))
+    {
+        fprintf(stderr, "veskar-setting: \"%s\" takes %s, not \"%s\"\n", arguments.key.c_str(), veskar::TypeName(type),
+                arguments.value.c_str());
+        return EX_USAGE;
+    }
+    if (const auto error = veskar::WriteSetting(arguments.key, value))
+    {
+        fprintf(stderr, "veskar-setting: %s: %s\n", veskar::SettingFile(arguments.key)->c_str(),
+                error.message().c_str());
+        return EX_CANTCREAT;
+    }
+    return EX_OK;
+}
+
+int List()
+{
+    for (const auto& known : veskar::KnownSettings())
+    {
+        const auto value = veskar::ReadSetting(known.key);
+        printf("%s = %s\n    %s\n", known.key, value ? value->c_str() : "(not set)", known.meaning);
+    }
+    return EX_OK;
+}
+
+CLI::App* AddKeyCommand(CLI::App& program, Arguments& arguments, const char* name, const char* description)
+{
+    auto* command = program.add_subcommand(name, description);
+    command->add_option("KEY", arguments.key, "the setting or flag")->required();
+    command->add_flag("--force", arguments.force, "take a key that nothing reads, too");
+    return command;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    CLI::App program("The settings and feature flags of the desk TV. A language or direction that is set reaches the "
+                     "running application at once; everything else is read when it is needed.");
+    program.require_subcommand(1);
+    Arguments arguments;
+    const auto* get = AddKeyCommand(program, arguments, "get", "print a value; status 1 when it is not set");
+    auto* set = AddKeyCommand(program, arguments, "set", "keep a value");
+    set->add_option("VALUE", arguments.value, "a text, a whole number, or on and off")->required();
+    program.add_subcommand("list", "every key, its value and what it does");
+    try
+    {
+        program.parse(argc, argv);
+    }
+    catch (const CLI::ParseError& error)
+    {
+        return program.exit(error) == 0 ? EX_OK : EX_USAGE;
+    }
+    if (set->parsed())
+    {
+        return Set(arguments);
+    }
+    return get->parsed() ? Get(arguments) : List();
+}
