@@ -59,9 +59,10 @@ extern "C"
     int KeyRouter_Set_KeyList(struct wl_surface* surface, const _KeyList* list);
 
     /**
- * Releases them. A key that is not held counts as released. Exclusive and topmost are two strengths of one grab: asked to
- * release one of them of a key that is held in the other, it fails and the key stays held. A registration stands beside.
- */
+     * Releases them. A key that is not held counts as released. Exclusive and topmost are two strengths of one grab:
+     * asked to release one of them of a key that is held in the other, it fails and the key stays held. A registration
+     * stands beside.
+     */
     int KeyRouter_UnSet_KeyList(struct wl_surface* surface, const _KeyList* list);
 
 #ifdef __cplusplus
