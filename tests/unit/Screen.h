@@ -44,6 +44,7 @@ struct Probe : Display
     using Display::t_buttons;
     using Display::t_HideNumPad;
     using Display::t_ItemsSelectedCallback;
+    using Display::t_OnButtonClicked;
     using Display::t_popup;
     using Display::t_SetSubtitle;
     using Display::t_ShowNumPad;

@@ -284,6 +284,14 @@ int KeyRouter_Remove_Key(const char* name, int mode, _KeyList* list)
 namespace
 {
 
+/** A key is held exclusively or topmost; that it is registered too does not matter to either. */
+int OtherStrength(int mode)
+{
+    return mode == KEYROUTER_MODE_EXCLUSIVE ? KEYROUTER_MODE_TOPMOST
+           : mode == KEYROUTER_MODE_TOPMOST ? KEYROUTER_MODE_EXCLUSIVE
+                                            : 0;
+}
+
 std::string ListText(const _KeyList* list)
 {
     std::string text;
@@ -307,7 +315,8 @@ int KeyRouter_Set_KeyList(wl_surface*, const _KeyList* list)
             result = 0;
             continue;
         }
-        tv.heldKeys[key->name] = key->mode;
+        tv.heldKeys.erase({key->name, OtherStrength(key->mode)});
+        tv.heldKeys.emplace(key->name, key->mode);
     }
     return result;
 }
@@ -318,14 +327,9 @@ int KeyRouter_UnSet_KeyList(wl_surface*, const _KeyList* list)
     int result = tv.Fails("KeyRouter_UnSet_KeyList") ? 0 : 1;
     for (const KeyRouter_Key* key = list->keys; result != 0 && key != list->keys + list->count; ++key)
     {
-        const auto held = tv.heldKeys.find(key->name);
-        if (held != tv.heldKeys.end() && held->second != key->mode)
+        if (tv.heldKeys.erase({key->name, key->mode}) == 0)
         {
-            result = 0;
-        }
-        else if (held != tv.heldKeys.end())
-        {
-            tv.heldKeys.erase(held);
+            result = tv.heldKeys.count({key->name, OtherStrength(key->mode)}) == 0 ? 1 : 0;
         }
     }
     return result;

@@ -48,7 +48,7 @@ struct Tv
     Texts deeds;              // in order, each as "verb arguments"
     std::vector<LogLine> log; // written by the timers' threads too, hence the mutex
     static inline std::mutex logMutex;
-    std::map<std::string, int> heldKeys; // key to mode
+    std::set<std::pair<std::string, int>> heldKeys; // key and mode
     int liveRequests = 0;
     Evas_Object* window = nullptr;
     ui_app_lifecycle_callback_s application{};

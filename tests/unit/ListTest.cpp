@@ -1,0 +1,345 @@
+#include "ImageListPopup.h"
+#include "ListWindow.h"
+#include "MultipleListWindow.h"
+#include "Screen.h"
+
+#include <fstream>
+
+namespace
+{
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* BODY = "elm.swallow.icon";
+constexpr const char* HEADER = "elm.swallow.content";
+
+template <class Display>
+struct ListProbe : Probe<Display>
+{
+    using Probe<Display>::Probe;
+    using Display::m_menuList;
+    using Display::s_ContentGet;
+    using Display::s_OnMenuItemClicked;
+};
+
+template <class Display>
+struct ListScreenTest : ScreenTest
+{
+    using List = ListProbe<Display>;
+    std::unique_ptr<List> list;
+
+    template <typename... Images>
+    void Show(const std::string& format, bool header, const Texts& entries, bool selectable = true,
+              const Images&... images)
+    {
+        list.reset();
+        tv.Forget();
+        answers.clear();
+        list = std::make_unique<List>(*this, selectable, window);
+        EXPECT_TRUE(list->SetMenuInformation("T", "S", "B", format, header, entries, {"OK"}, images...));
+        ASSERT_TRUE(list->Create());
+        ASSERT_TRUE(list->Show());
+        list->SetFocusToList(true);
+    }
+    std::vector<Elm_Object_Item*> Items()
+    {
+        std::vector<Elm_Object_Item*> items;
+        for (auto* item = elm_genlist_first_item_get(list->m_menuList); item; item = elm_genlist_item_next_get(item))
+        {
+            items.push_back(item);
+        }
+        return items;
+    }
+    /** Return on a row; the list's own use of the key comes first, then the screen hears it. */
+    void PressRow(std::size_t row)
+    {
+        Focused(window);
+        elm_object_item_focus_set(Items().at(row), EINA_TRUE);
+        Press(list->m_menuList, "Return");
+    }
+
+    /** The part of a row as the list shows it; the row is the data that the list's item carries. */
+    Evas_Object* Row(std::size_t row, const char* part = BODY)
+    {
+        return List::s_ContentGet(elm_object_item_data_get(Items().at(row)), window, part);
+    }
+    std::string RowText(std::size_t row)
+    {
+        const Elm_Genlist_Item_Class* itemClass = elm_genlist_item_item_class_get(Items().at(row));
+        char* text = itemClass->func.text_get(elm_object_item_data_get(Items().at(row)), list->m_menuList, "elm.text");
+        const std::string copy(text);
+        std::free(text);
+        return copy;
+    }
+    /** How the list is set up, in one line. */
+    std::string Look()
+    {
+        Elm_Scroller_Policy horizontal;
+        Elm_Scroller_Policy vertical;
+        elm_scroller_policy_get(list->m_menuList, &horizontal, &vertical);
+        const Elm_Genlist_Item_Class* item = elm_genlist_item_item_class_get(Items().at(0));
+        return std::string(elm_object_style_get(list->m_menuList)) + ' ' + item->item_style +
+               (item->func.text_get != nullptr ? " text" : "") + (item->func.content_get != nullptr ? " content" : "") +
+               (elm_genlist_multi_select_get(list->m_menuList) ? " multi" : "") +
+               (elm_genlist_homogeneous_get(list->m_menuList) ? " homogeneous" : "") + " select " +
+               std::to_string(elm_genlist_select_mode_get(list->m_menuList)) + " mode " +
+               std::to_string(elm_genlist_mode_get(list->m_menuList)) + " scroll " + std::to_string(horizontal) +
+               std::to_string(vertical);
+    }
+};
+
+std::string Cell(const char* alignment, const std::string& text, const char* size = "13",
+                 const char* colour = "#FFFFFF")
+{
+    return std::string("<color=") + colour + "><font=Sans:style=Regular font_size=" + size + "><align=" + alignment +
+           '>' + text + "</align></font></color>";
+}
+
+int MinimumWidth(Evas_Object* object)
+{
+    int width = 0;
+    evas_object_size_hint_min_get(object, &width, nullptr);
+    return width;
+}
+
+using ListWindowTest = ListScreenTest<VESKAR_APP::ListWindow>;
+using MultipleListWindowTest = ListScreenTest<VESKAR_APP::MultipleListWindow>;
+
+TEST_F(ListWindowTest, CellsAreAlignedByTheLettersOfTheirColumns)
+{
+    Show("LRC", false, {"a\tb\t<c>\td", "", "\t&\t"});
+    EXPECT_THAT(LabelTexts(Row(0)),
+                ElementsAre(Cell("left", "a"), Cell("right", "b"), Cell("center", "&lt;c&gt;"), Cell("left", "d")));
+    EXPECT_THAT(LabelTexts(Row(1)), ElementsAre(Cell("left", "")));
+    EXPECT_THAT(LabelTexts(Row(2)), ElementsAre(Cell("left", ""), Cell("right", "&amp;"), Cell("center", "")));
+    EXPECT_EQ(Row(0, "elm.text"), nullptr);
+    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "Not displaying elm.text in the menu currently."));
+
+    tv.numbers = {{"db/menu/system/accessibility/focuszoom", 1}, {"db/menu/system/accessibility/highcontrast", 1}};
+    EXPECT_THAT(LabelTexts(Row(1)), ElementsAre(Cell("left", "", "16", "#7F7F7F")));
+}
+
+TEST_F(ListWindowTest, TheColumnsShareTheWidthBetweenOneAndEight)
+{
+    struct
+    {
+        const char* format;
+        int width;
+    } const formats[] = {{"", 577}, {"L", 577}, {"LRC", 192}, {"LLLLLLLL", 72}, {"LLLLLLLLCRLL", 72}};
+    for (const auto& expected : formats)
+    {
+        Show(expected.format, false, {"1\t2\t3\t4\t5\t6\t7\t8\t9\t10"});
+        Evas_Object* row = Row(0);
+        EXPECT_EQ(Widgets(row, "elm_label").size(), 10U);
+        for (Evas_Object* cell : Widgets(row, "elm_label"))
+        {
+            EXPECT_EQ(MinimumWidth(cell), expected.width);
+            EXPECT_EQ(elm_label_wrap_width_get(cell), expected.width);
+        }
+    }
+    EXPECT_EQ(LabelTexts(Row(0)).at(8), Cell("center", "9"));
+    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "Scaled max label width: 609, Number of columns: 8"));
+}
+
+TEST_F(ListWindowTest, AHeaderStandsAboveTheRowsAndIsNotOneOfThem)
+{
+    Show("RL", true, {"h1\th2", "a\tb"});
+    EXPECT_EQ(Items().size(), 1U);
+    EXPECT_THAT(LabelTexts(Row(0)), ElementsAre(Cell("right", "a"), Cell("left", "b")));
+    const Texts labels = LabelTexts(list->t_popup);
+    EXPECT_THAT(labels, Contains("<color=#FFFFFF><font=Sans:style=Regular font_size=13><b><align=right>h1</align></b>"
+                                 "</font></color>"));
+    EXPECT_THAT(tv.Did("say"), ElementsAre("say T, S, h1\th2, a\tb, , B, "));
+    EXPECT_THAT(tv.Log(DLOG_INFO), testing::IsSupersetOf({"Menu title = T", "Menu subTitle = S", "Menu bottom = B"}));
+    EXPECT_THAT(tv.Log(DLOG_DEBUG),
+                testing::IsSupersetOf({"Skipping the header: RL\th1\th2\t", "Adding to the body: RL\ta\tb\t",
+                                       "Finished adding data to the list."}));
+    Show("", true, {"only"});
+    EXPECT_THAT(Items(), IsEmpty());
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "m_menuItems.empty()"));
+    Show("", true, {});
+    EXPECT_EQ(LabelTexts(list->t_popup).size(), 2U); // sub-title and bottom line
+}
+
+TEST_F(ListWindowTest, ASelectableListReportsEachPressOfARow)
+{
+    Show("", true, {"head", "a", "b", "c"});
+    EXPECT_EQ(Look(), "C_Scrollbar_White C_TextItem_WhiteSingleline02 content select 1 mode 1 scroll 21");
+    PressRow(2);
+    PressRow(2);
+    PressRow(0);
+    EXPECT_THAT(answers, ElementsAre("item 3", "key", "item 3", "key", "item 1", "key"));
+    elm_genlist_item_selected_set(Items().at(0), EINA_FALSE);
+    List::s_OnMenuItemClicked(list.get(), list->m_menuList, nullptr);
+    EXPECT_EQ(answers.back(), "item 255");
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "selected_genlist_item == NULL"));
+    List::s_OnMenuItemClicked(nullptr, list->m_menuList, nullptr);
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, " pthis == NULL"));
+
+    Show("", false, {"a", "b"}, false);
+    PressRow(1);
+    Press(list->t_popup, "XF86Back");
+    Click(list->t_buttons[0]);
+    EXPECT_THAT(answers, ElementsAre("key", "back", "button 1"));
+}
+
+TEST_F(ListWindowTest, TheListTakesTheFocusOnceItsRowsExist)
+{
+    Show("", false, {"a"});
+    EXPECT_FALSE(tv.Logged(DLOG_WARN, "Found all realised item(s). Now focusing on the menu."));
+    Settle();
+    EXPECT_TRUE(tv.Logged(DLOG_WARN, "Found all realised item(s). Now focusing on the menu."));
+    EXPECT_EQ(Focused(window), list->m_menuList);
+    list->SetFocusToList(false);
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "SetFocusToList, firstElement=false, mfocus substract from m_menuItems.size "
+                                      "m_menuItems.size = 1"));
+}
+
+TEST_F(MultipleListWindowTest, TheFirstButtonReportsTheMarkedRowsByTheirDigits)
+{
+    Show("LR", false, Texts(13, "row"));
+    EXPECT_EQ(
+        Look(),
+        "C_Scrollbar_White C_TextItem_WhiteSingleline01 text content multi homogeneous select 1 mode 1 scroll 21");
+    for (const std::size_t row : {11, 2})
+    {
+        PressRow(row);
+    }
+    Click(list->t_buttons[0]);
+    // A mark is no answer, and the selection comes first, or the button would be the answer.
+    EXPECT_THAT(answers, ElementsAre("key", "key", "items 123", "button 1"));
+
+    answers.clear();
+    PressRow(11); // a second press takes the mark away
+    Click(list->t_buttons[0]);
+    elm_genlist_item_selected_set(Items().at(2), EINA_FALSE);
+    Click(list->t_buttons[0]);
+    EXPECT_THAT(answers, ElementsAre("key", "items 3", "button 1", "button 1"));
+    EXPECT_THAT(tv.Log(DLOG_INFO), testing::IsSupersetOf({"selected_genlist_item == NULL", " selectedItems == NULL"}));
+
+    Show("", false, {"a"}, false);
+    PressRow(0);
+    Click(list->t_buttons[0]);
+    EXPECT_THAT(answers, ElementsAre("key", "button 1"));
+}
+
+TEST_F(MultipleListWindowTest, CellsRunTogetherBesideACheckBoxAndTheHeaderIsOnlySkipped)
+{
+    Show("LR", true, {"head", "a\t<b>\tc"});
+    EXPECT_EQ(Items().size(), 1U);
+    EXPECT_EQ(LabelTexts(list->t_popup).size(), 2U); // no header
+    EXPECT_EQ(RowText(0), "a&lt;b&gt;c");
+    EXPECT_THAT(tv.Log(DLOG_INFO), testing::IsSupersetOf({"s_TextGet part =  elm.text", "Setting text  a&lt;b&gt;c",
+                                                          "Skipping the header: LR\thead\t"}));
+    Evas_Object* check = Row(0);
+    EXPECT_STREQ(evas_object_type_get(check), "elm_check");
+    EXPECT_STREQ(elm_object_style_get(check), "C_Checkbox_White");
+    EXPECT_FALSE(elm_object_focus_allow_get(check));
+    EXPECT_EQ(Row(0, HEADER), nullptr);
+    EXPECT_THAT(tv.Log(DLOG_ERROR), testing::Not(Contains(" pthis == NULL")));
+    List::s_OnMenuItemClicked(nullptr, list->m_menuList, nullptr);
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, " pthis == NULL"));
+}
+
+struct ImageListPopupTest : ListScreenTest<VESKAR_APP::ImageListPopup>
+{
+    const std::string first = WritePicture("first.ppm");
+    const std::string second = WritePicture("second.ppm");
+
+    static std::string WritePicture(const char* name)
+    {
+        const std::string path = testing::TempDir() + name;
+        std::ofstream(path) << "P6 1 1 255\nabc";
+        return path;
+    }
+    Evas_Object* Image()
+    {
+        const std::vector<Evas_Object*> images = Widgets(list->t_popup, "elm_image");
+        return images.empty() ? nullptr : images.front();
+    }
+    std::string Picture()
+    {
+        const char* path = nullptr;
+        if (Evas_Object* image = Image())
+        {
+            elm_image_file_get(image, &path, nullptr);
+        }
+        return path == nullptr ? "" : path;
+    }
+    /** The pictures on the screen after each of these keys, with the list focused. */
+    Texts After(std::initializer_list<const char*> keys)
+    {
+        evas_object_smart_callback_call(list->m_menuList, "focused", nullptr);
+        Texts pictures;
+        for (const char* key : keys)
+        {
+            Press(list->t_popup, key);
+            pictures.push_back(Picture());
+        }
+        return pictures;
+    }
+};
+
+TEST_F(ImageListPopupTest, ThePictureFollowsUpAndDownWithinTheRows)
+{
+    Show("", false, {"a", "b"}, true, Texts{first, second}, 400, 300);
+    EXPECT_EQ(Look(), "C_Scrollbar_White C_TextItem_WhiteSingleline01 text homogeneous select 0 mode 1 scroll 21");
+    EXPECT_EQ(Picture(), first);
+    EXPECT_EQ(MinimumWidth(Image()), 200);
+    EXPECT_THAT(After({"Up", "Down", "Down", "Return", "Up"}), ElementsAre(first, second, second, second, first));
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "KEY_UP/DOWN pressed. Current index update to 1"));
+    EXPECT_EQ(RowText(1), "b");
+    Press(list->t_popup, "XF86Back");
+    EXPECT_THAT(answers, IsEmpty()); // no key is handed on
+    PressRow(1);
+    EXPECT_THAT(answers, ElementsAre("item 2"));
+}
+
+TEST_F(ImageListPopupTest, AnIndexPastThePicturesIsAnErrorLine)
+{
+    Show("", true, {"head", "a", "b"}, false, Texts{first, second}, 4, 4);
+    EXPECT_THAT(LabelTexts(list->t_popup), Contains(testing::HasSubstr("<b><align=left>head")));
+    EXPECT_THAT(After({"Down", "Down"}), ElementsAre(second, second)); // the header counts among the entries
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Wrong index value!"));
+    PressRow(0);
+    EXPECT_THAT(answers, ElementsAre("item 1")); // whatever the flag
+
+    evas_object_smart_callback_call(list->m_menuList, "unfocused", nullptr);
+    tv.Forget();
+    Press(list->t_popup, "Up");
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("Menu not focused or there are no entries!"));
+    After({"Return"});
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Wrong index value!"));
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "KEY_UP/DOWN pressed. Current index update to 2"));
+}
+
+TEST_F(ImageListPopupTest, AWidePictureIsBroughtDownForAllThatFollow)
+{
+    Show("", false, {"a", "b"}, true, Texts{first, second}, 1280, 721);
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Image size greater than allowed. Resizing to 640 x 360"));
+    EXPECT_EQ(MinimumWidth(Image()), 320);
+    tv.Forget();
+    EXPECT_THAT(After({"Down"}), ElementsAre(second));
+    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "Loading a new image file: " + second + " width:640 height:360"));
+    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "Current width: 320, height:180"));
+    Show("", false, {"a"}, true, Texts{first}, 640, 480);
+    EXPECT_FALSE(tv.Logged(DLOG_INFO, "Image size greater than allowed. Resizing to 640 x 480"));
+}
+
+TEST_F(ImageListPopupTest, WithoutAPictureTheRowsStayAndWithoutRowsNothing)
+{
+    Show("", false, {"a", "b"}, true, Texts{"", "/no/such/picture.png"}, 4, 4);
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "There are no images to display. We could still have text menu"));
+    After({"Down"});
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Loading the image file has failed :/no/such/picture.png"));
+    EXPECT_EQ(Items().size(), 2U);
+    Show("", false, {}, true, Texts{first}, 4, 4);
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "There are no entries to display. Returning"));
+    EXPECT_EQ(Image(), nullptr);
+    Press(list->t_popup, "Down");
+    EXPECT_FALSE(tv.Logged(DLOG_ERROR, "Menu not focused or there are no entries!"));
+}
+
+} // namespace

@@ -1,0 +1,207 @@
+#include "ImagePopup.h"
+#include "LoadingPopup.h"
+#include "PinEntry.h"
+#include "ProgressPopup.h"
+#include "Screen.h"
+
+#include <ea.h>
+
+namespace
+{
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct PinEntryTest : ScreenTest
+{
+    using Pin = Probe<VESKAR_APP::PinEntry>;
+    std::unique_ptr<Pin> entry;
+
+    void Show()
+    {
+        entry = std::make_unique<Pin>(*this, "T", "not shown", "S", 6, "B", window);
+        ASSERT_TRUE(entry->Create());
+        ASSERT_TRUE(entry->Show());
+    }
+    Evas_Object* Field() { return Widgets(entry->t_popup, "elm_button").front(); }
+    void Type(std::initializer_list<const char*> keys)
+    {
+        for (const char* key : keys)
+        {
+            Press(Field(), key);
+        }
+    }
+};
+
+TEST_F(PinEntryTest, AsksForFourDigitsWhateverTheRequestSays)
+{
+    tv.hasController = false;
+    Show();
+    EXPECT_THAT(tv.Did("pin"), ElementsAre("pin 4", "pin reset"));
+    EXPECT_THAT(tv.Did("say"), ElementsAre("say T, S, , B, "));
+    EXPECT_TRUE(tv.Logged(DLOG_WARN, "Getting VesKar controller failed"));
+    EXPECT_EQ(Focused(window), Field());
+    elm_object_focus_set(Field(), EINA_FALSE);
+    Click(Field());
+    EXPECT_EQ(Focused(window), Field());
+    entry->t_OnButtonClicked(1);
+    EXPECT_THAT(answers, IsEmpty());
+}
+
+TEST_F(PinEntryTest, TheKeyThatCompletesTheDigitsReportsThem)
+{
+    Show();
+    Type({"1", "2", "BackSpace", "3", "4"});
+    EXPECT_EQ(answers, Texts(5, "key"));
+    answers.clear();
+    Type({"5", "6"});
+    EXPECT_THAT(answers, ElementsAre("pin 1345", "key", "pin 13456", "key"));
+    EXPECT_THAT(tv.Log(DLOG_INFO),
+                testing::IsSupersetOf({"Number [5] pressed!", "Backspace pressed. Removing the last digit."}));
+}
+
+TEST_F(PinEntryTest, OtherKeysAreNoDigitsAndReachTheScreen)
+{
+    Show();
+    Type({"BackSpace", "KP_1", "12", "XF86Back"});
+    EXPECT_THAT(answers, ElementsAre("key", "key", "key", "back"));
+    EXPECT_THAT(tv.Log(DLOG_INFO), testing::IsSupersetOf({"Key input BackSpace not handled.",
+                                                          "Key input KP_1 not handled.", "Key input 12 not handled."}));
+
+    tv.texts["pin"] = "12345";
+    reinterpret_cast<Ea_Pin_Entered_Cb>(evas_object_data_get(Field(), "entered"))(Field());
+    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "PIN entered is 1234");
+    EXPECT_EQ(answers.size(), 4U);
+}
+
+TEST_F(PinEntryTest, MoreOpensTheNumberPadWhichGoesWithTheScreen)
+{
+    tv.features["com.brelmon/featureconf/bt_profile_bt_smart_control"] = true;
+    tv.numbers["memory/function-osd/number_pad_show"] = 0;
+    Show();
+    Type({"XF86More"});
+    EXPECT_THAT(tv.Did("launch"), ElementsAre("launch org.tizen.function-osd type=number_zip cmd=show tts=skip"));
+    tv.numbers["memory/function-osd/number_pad_show"] = 1;
+    Evas_Object* field = Field();
+    EXPECT_TRUE(entry->Hide());
+    EXPECT_EQ(tv.Did("launch").back(), "launch org.tizen.function-osd cmd=hide");
+    EXPECT_FALSE(evas_object_visible_get(field));
+    EXPECT_FALSE(evas_object_visible_get(entry->t_popup));
+}
+
+TEST_F(PinEntryTest, WithoutItsFieldTheScreenIsStillShown)
+{
+    tv.failing = {"ea_pin_add"};
+    Show();
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Pin entry UI cannot be added."));
+    EXPECT_TRUE(entry->Hide());
+}
+
+struct ProgressPopupTest : ScreenTest
+{
+    Probe<VESKAR_APP::ProgressPopup> popup{*this, "T", "S", "Cancel", 7, window};
+    Evas_Object* Bar() { return Widgets(popup.t_popup, "elm_progressbar").front(); }
+};
+
+TEST_F(ProgressPopupTest, ShowsAPercentageThatIsUpdatedInPlace)
+{
+    EXPECT_FALSE(popup.Update("T2", "S2", "Stop", 40));
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "m_popup null"));
+    popup.Create();
+    popup.Show();
+    EXPECT_EQ(TextOf(popup.t_popup, "title,text"), "T");
+    EXPECT_DOUBLE_EQ(elm_progressbar_value_get(Bar()), 0.07);
+    EXPECT_STREQ(elm_progressbar_unit_format_get(Bar()), "%1.0f %%");
+    EXPECT_STREQ(elm_object_style_get(Bar()), "C_ProgressCircle_WhiteLarge");
+    EXPECT_EQ(elm_progressbar_span_size_get(Bar()), 100);
+    EXPECT_TRUE(elm_progressbar_horizontal_get(Bar()) && !elm_progressbar_pulse_get(Bar()));
+    EXPECT_TRUE(elm_win_borderless_get(window));
+
+    EXPECT_TRUE(popup.Update("<T2>", "a&b", "", 40));
+    EXPECT_EQ(TextOf(popup.t_popup, "title,text"), "&lt;T2&gt;");
+    EXPECT_THAT(TextOf(popup.t_subtitleLabel), testing::HasSubstr(">a&amp;b<"));
+    EXPECT_DOUBLE_EQ(elm_progressbar_value_get(Bar()), 0.4);
+    EXPECT_FALSE(evas_object_visible_get(popup.t_buttons[0]));
+    popup.Update("T", "S", "Stop", 41);
+    EXPECT_TRUE(evas_object_visible_get(popup.t_buttons[0]));
+    EXPECT_EQ(TextOf(popup.t_buttons[0]), "Stop");
+    EXPECT_EQ(LabelTexts(popup.t_popup).size(), 1U); // no bottom line
+}
+
+TEST_F(ProgressPopupTest, OnlyItsButtonAnswers)
+{
+    popup.Create();
+    popup.Show();
+    for (const char* key : {"XF86Back", "XF86Exit", "Return"})
+    {
+        Press(popup.t_popup, key);
+    }
+    EXPECT_THAT(answers, IsEmpty());
+    Click(popup.t_buttons[0]);
+    EXPECT_THAT(answers, ElementsAre("button 1"));
+}
+
+using LoadingPopupTest = ScreenTest;
+
+TEST_F(LoadingPopupTest, PulsesWhileItIsShownAndHearsNoKey)
+{
+    Probe<VESKAR_APP::LoadingPopup> popup(*this, "a < b", Texts{"Stop"}, 3, window);
+    popup.Create();
+    Evas_Object* bar = Widgets(popup.t_popup, "elm_progressbar").front();
+    EXPECT_TRUE(elm_progressbar_is_pulsing_get(bar));
+    EXPECT_STREQ(elm_object_style_get(bar), "C_Loading_WhiteLarge");
+    EXPECT_EQ(TextOf(popup.t_popup, "title,text"), "a &lt; b");
+    EXPECT_THAT(tv.Did("say"), ElementsAre("say a &lt; b, , , , "));
+    for (int round = 0; round < 2; ++round)
+    {
+        EXPECT_TRUE(popup.Show());
+        EXPECT_TRUE(elm_progressbar_is_pulsing_get(bar) && elm_progressbar_pulse_get(bar));
+        Press(popup.t_popup, "XF86Back");
+        EXPECT_TRUE(popup.Hide());
+        EXPECT_FALSE(elm_progressbar_is_pulsing_get(bar) || elm_progressbar_pulse_get(bar));
+    }
+    EXPECT_THAT(answers, IsEmpty());
+    Click(popup.t_buttons[0]);
+    EXPECT_THAT(answers, ElementsAre("button 1"));
+}
+
+using ImagePopupTest = ScreenTest;
+
+TEST_F(ImagePopupTest, TheRequestSizesTheImageAlsoWhenItDoesNotLoad)
+{
+    struct
+    {
+        int asked;
+        int pixels;
+    } const sizes[] = {{0, 0}, {400, 200}, {401, 201}};
+    for (const auto& size : sizes)
+    {
+        tv.Forget();
+        Probe<VESKAR_APP::ImagePopup> popup(*this, "T", "S", "/no/such.png", size.asked, size.asked + 2, "B", Texts{},
+                                            false, window);
+        popup.Create();
+        popup.Show();
+        int width = 0;
+        int height = 0;
+        evas_object_size_hint_min_get(Widgets(popup.t_popup, "elm_image").front(), &width, &height);
+        EXPECT_EQ(width, size.pixels);
+        EXPECT_EQ(height, size.pixels + 1);
+        EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Loading the image file has failed :/no/such.png"));
+        EXPECT_THAT(tv.Did("say"), ElementsAre("say T, S, , B, "));
+        Press(popup.t_popup, "XF86Back");
+    }
+    EXPECT_EQ(answers, Texts(3, "back"));
+}
+
+TEST_F(ImagePopupTest, WithNoCloseOnlyTheButtonsAnswer)
+{
+    Probe<VESKAR_APP::ImagePopup> popup(*this, "T", "S", "", 1, 1, "B", Texts{"1", "2"}, true, window);
+    popup.Create();
+    popup.Show();
+    Press(popup.t_popup, "XF86Exit");
+    Click(popup.t_buttons[1]);
+    EXPECT_THAT(answers, ElementsAre("button 2"));
+}
+
+} // namespace

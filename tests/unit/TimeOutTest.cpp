@@ -1,0 +1,175 @@
+// Linked with a window manager of short time-outs: the frame, its timers and the main loop are the real ones.
+
+#include "Frame.h"
+
+#include <algorithm>
+#include <chrono>
+#include <optional>
+#include <random>
+#include <thread>
+
+namespace
+{
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+constexpr auto VISIBLE = std::chrono::milliseconds(VESKAR_VISIBLE_TIMEOUT_MS);
+constexpr auto IDLE = std::chrono::milliseconds(VESKAR_IDLE_TIMEOUT_MS);
+
+/** Does to the frame what the platform and the viewer do, and keeps in mind which clocks must be running. */
+struct TimeOutTest : Frame
+{
+    std::optional<Clock::time_point> idleSince;
+    std::optional<Clock::time_point> visibleSince;
+    bool ignoresPause = false;
+    bool isPrivileged = false;
+
+    TimeOutTest()
+    {
+        Run([] { Create(); });
+    }
+
+    void Request(bool privileged)
+    {
+        idleSince.reset();
+        if (!privileged)
+        {
+            visibleSince = Clock::now();
+        }
+        ignoresPause = true;
+        isPrivileged = privileged;
+        ShowMessage("7", privileged ? "254" : "255");
+    }
+    void Key()
+    {
+        const std::vector<Evas_Object*> popups = WidgetsOnScreen(tv.window, "elm_popup");
+        if (popups.empty())
+        {
+            return;
+        }
+        if (!isPrivileged)
+        {
+            visibleSince = Clock::now();
+        }
+        Press(popups.front(), "Return");
+    }
+    void LeaveScreen()
+    {
+        const auto before = Clock::now();
+        Pause();
+        if (!ignoresPause)
+        {
+            idleSince = before;
+            isPrivileged = false;
+        }
+    }
+    void ComeBack()
+    {
+        Resume();
+        ignoresPause = false;
+    }
+    void End()
+    {
+        Terminate();
+        isPrivileged = false;
+    }
+
+    /** Runs the loop for a time; whether it ended before. An end that no clock had reached is a failure. */
+    bool EndsWithin(std::chrono::duration<double> time)
+    {
+        tv.Forget();
+        const bool ended = LoopEnds(time.count());
+        const auto now = Clock::now();
+        const bool idle = tv.Logged(DLOG_INFO, "Idle timeout, exit");
+        const bool visible = tv.Logged(DLOG_INFO, "Visible timeout, exit");
+        EXPECT_EQ(ended, idle || visible);
+        EXPECT_TRUE(!idle || (idleSince && now - *idleSince >= IDLE));
+        EXPECT_TRUE(!visible || (visibleSince && now - *visibleSince >= VISIBLE));
+        return ended;
+    }
+};
+
+TEST_F(TimeOutTest, EachClockEndsTheLoopAndTheScreenIsAnsweredByTerminate)
+{
+    Request(false);
+    EXPECT_TRUE(EndsWithin(5s));
+    EXPECT_THAT(tv.Log(DLOG_INFO), testing::Contains("VisibleTimeout: m_uiId:7, m_sourceId:255"));
+    EXPECT_THAT(tv.Did("answer"), testing::IsEmpty());
+    End();
+    EXPECT_THAT(tv.Did("answer"), testing::ElementsAre("answer 7 255 2 0 0 \"\""));
+
+    Request(true);
+    ComeBack();
+    LeaveScreen();
+    EXPECT_TRUE(EndsWithin(5s));
+    EXPECT_THAT(tv.Log(DLOG_INFO), testing::Contains("IdleTimeout: m_uiId:0, m_sourceId:100"));
+}
+
+TEST_F(TimeOutTest, ACancelOrARestartThatOvertakesAnExpiryWins)
+{
+    Request(true);
+    ComeBack();
+    LeaveScreen();
+    std::this_thread::sleep_for(10 * IDLE); // expired, and posted to a loop that does not run
+    Request(true);
+    EXPECT_FALSE(EndsWithin(20 * IDLE));
+
+    Request(false);
+    std::this_thread::sleep_for(10 * VISIBLE);
+    Key();
+    EXPECT_TRUE(EndsWithin(VISIBLE / 4) || EndsWithin(5s)); // not before the new time has run, and then it does
+}
+
+TEST_F(TimeOutTest, ThousandsOfExpiriesMeetRequestsKeysPausesAndTerminate)
+{
+    constexpr int STEPS = 3000;
+    std::mt19937 random(20240607);
+    const auto below = [&random](unsigned limit)
+    {
+        return static_cast<int>(random() % limit);
+    };
+    const auto start = Clock::now();
+    int ends = 0;
+    for (int step = 0; step < STEPS; ++step)
+    {
+        switch (below(8))
+        {
+        case 0:
+            Request(true);
+            break;
+        case 1:
+            Request(false);
+            break;
+        case 2:
+            Key();
+            break;
+        case 3:
+            End();
+            break;
+        case 4:
+            ComeBack();
+            break;
+        default:
+            ComeBack();
+            LeaveScreen();
+            break;
+        }
+        // Half of the time the loop does not run while the clocks do.
+        const auto pause = std::chrono::microseconds(below(2500));
+        if (below(2) == 0)
+        {
+            std::this_thread::sleep_for(pause);
+        }
+        else
+        {
+            ends += EndsWithin(pause) ? 1 : 0;
+        }
+    }
+    EXPECT_GT(ends, STEPS / 20);
+    EXPECT_LT(Clock::now() - start, 30s);
+    Request(false); // and the clocks still run
+    EXPECT_TRUE(EndsWithin(5s));
+}
+
+} // namespace

@@ -1,0 +1,413 @@
+#include "WindowManager.h"
+
+#include "BaseDisplay.h"
+#include "Screen.h"
+
+namespace
+{
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using VESKAR_APP::BaseDisplay;
+using VESKAR_APP::WindowManager;
+
+constexpr const char* CLOSED_7 = "answer 7 255 2 0 0 \"\"";
+const Texts RELEASED{"release navigation", "release channel", "release exit", "release number", "release PVR"};
+
+/** The lists one after the other. */
+Texts Joined(std::initializer_list<Texts> lists)
+{
+    Texts joined;
+    for (const Texts& list : lists)
+    {
+        joined.insert(joined.end(), list.begin(), list.end());
+    }
+    return joined;
+}
+
+struct WindowManagerTest : TvTest
+{
+    std::unique_ptr<WindowManager> manager = std::make_unique<WindowManager>([] {}, [] {});
+
+    WindowManagerTest() { tv.Forget(); }
+
+    bool Show(int uiId, unsigned char sourceId, bool noClose = false)
+    {
+        return manager->ShowMessage(uiId, sourceId, "T", "S", "B", "text", {"OK"}, noClose);
+    }
+    static Evas_Object* Popup()
+    {
+        const std::vector<Evas_Object*> popups = WidgetsOnScreen(tv.window, "elm_popup");
+        EXPECT_LE(popups.size(), 1U);
+        return popups.empty() ? nullptr : popups.front();
+    }
+    /** What one call did. */
+    template <typename Call>
+    Texts Do(Call call)
+    {
+        tv.Forget();
+        call();
+        return tv.DeedsByKeyGroup();
+    }
+    /** Nothing is shown, nothing is held, and the ids are forgotten. */
+    void ExpectIdle()
+    {
+        EXPECT_FALSE(evas_object_visible_get(tv.window));
+        EXPECT_THAT(tv.heldKeys, IsEmpty());
+        EXPECT_THAT(Do([this] { manager->Exit(); }), ElementsAre("iconify"));
+        EXPECT_TRUE(tv.Logged(DLOG_INFO, "No UI to close - m_uiId:0, m_sourceId:100"));
+    }
+};
+
+TEST_F(WindowManagerTest, AScreenIsBuiltBeforeKeysAndWindowAreTaken)
+{
+    EXPECT_THAT(
+        Do([this] { Show(7, 255); }),
+        Joined({{"say T, S, text, B, "}, RELEASED, {"release navigation", "grab navigation", "activate", "restore"}}));
+    EXPECT_TRUE(evas_object_visible_get(tv.window));
+    EXPECT_TRUE(evas_object_visible_get(Popup()));
+    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "uiId = 7 sourceId =255"));
+}
+
+TEST_F(WindowManagerTest, AReplacedScreenIsAnsweredAsClosedAndDeletedFirst)
+{
+    Show(7, 255);
+    EXPECT_THAT(Do([this] { Show(8, 254); }), Joined({{"iconify", CLOSED_7},
+                                                      RELEASED,
+                                                      {"say T, S, text, B, "},
+                                                      RELEASED,
+                                                      {"grab channel", "activate", "restore"}}));
+    EXPECT_TRUE(evas_object_visible_get(Popup()));
+    EXPECT_TRUE(evas_object_visible_get(tv.window));
+}
+
+TEST_F(WindowManagerTest, TheSourceDecidesOnKeysAndClock)
+{
+    struct
+    {
+        unsigned char source;
+        bool noClose;
+        const char* mode;
+        const char* heldKey;
+        std::size_t held;
+        bool clock;
+    } const screens[] = {
+        {254, false, "Privileged mode", "XF86ChannelList", 72, false},
+        {254, true, "Privileged mode", "XF86Home", 72, false},
+        {255, false, "Normal mode", "Return", 7, true},
+        {255, true, "Normal mode", "Up", 7, false},
+        {253, false, "Dongle MMI", "XF86Exit", 7, true},
+        {0, true, "Dongle MMI", "XF86Back", 7, false},
+    };
+    for (const auto& screen : screens)
+    {
+        Do([&] { EXPECT_TRUE(Show(7, screen.source, screen.noClose)); });
+        EXPECT_TRUE(tv.Logged(DLOG_INFO, screen.mode));
+        EXPECT_EQ(tv.heldKeys.count({screen.heldKey, screen.source == 254 ? 4 : 5}), 1U);
+        EXPECT_EQ(tv.heldKeys.size(), screen.held);
+        EXPECT_EQ(tv.Logged(DLOG_INFO, "Start visible timer"), screen.clock);
+        EXPECT_EQ(tv.Logged(DLOG_DEBUG, "milliseconds:30000"), screen.clock);
+
+        Do([this] { manager->KeyPressed(); }); // a key starts it whatever the screen asked for
+        EXPECT_EQ(tv.Logged(DLOG_INFO, "Restart visible timer"), screen.source != 254);
+        EXPECT_EQ(tv.Logged(DLOG_DEBUG, "milliseconds:30000"), screen.source != 254);
+        EXPECT_THAT(tv.deeds, IsEmpty());
+    }
+}
+
+TEST_F(WindowManagerTest, EachKindOfScreenIsBuiltFromItsArguments)
+{
+    constexpr const char* LARGE = "C_PopupBasic_WhiteBottomLarge";
+    constexpr const char* SMALL = "C_PopupBasic_WhiteBottom";
+    constexpr const char* MENU = "say T, S, head, row, , B, ";
+    WindowManager& show = *manager;
+    struct
+    {
+        std::function<bool()> call;
+        const char* style;
+        const char* spoken;
+        const char* widget;
+        bool clock;
+    } const screens[] = {
+        {[&] { return show.ShowMessage(7, 255, "T", "S", "B", "X", {}, false); }, SMALL, "say T, S, X, B, ",
+         "elm_label", true},
+        {[&] { return show.ShowMmiMessage(7, 255, "T", "S", "B", "X", {}, true); }, SMALL, "say T, S, X, B, ",
+         "elm_label", false},
+        {[&] {
+             return show.ShowList(7, 255, "T", "S", "B", {"head", "row"}, "L", true, {"OK"}, true);
+         },
+         LARGE, MENU, "elm_genlist", true},
+        {[&] {
+             return show.ShowMultipleList(7, 255, "T", "S", "B", {"head", "row"}, "L", true, {"OK"}, true);
+         },
+         LARGE, MENU, "elm_genlist", true},
+        {[&] {
+             return show.ShowMultipleImageList(7, 255, "T", "S", "B", {"head", "row"}, "L", true, {}, {""}, 1, 1, true);
+         },
+         LARGE, MENU, "elm_genlist", false},
+        {[&] { return show.ShowPinManager(7, 255, "T", "no", "S", 4, "B"); }, SMALL, "say T, S, , B, ", "elm_button",
+         true},
+        {[&] { return show.ShowProgress(7, 255, "T", "S", "B", 40); }, SMALL, "say T, S, , , ", "elm_progressbar",
+         true},
+        {[&] { return show.ShowLoading(7, 255, "T", {}, 3); }, SMALL, "say T, , , , ", "elm_progressbar", true},
+        {[&] { return show.ShowImage(7, 255, "T", "S", "B", "none.png", 4, 4, {}, false); }, LARGE, "say T, S, , B, ",
+         "elm_image", true},
+        {[&] { return show.ShowImage(7, 255, "T", "S", "B", "none.png", 4, 4, {}, true); }, LARGE, "say T, S, , B, ",
+         "elm_image", false},
+    };
+    for (const auto& screen : screens)
+    {
+        tv.Forget();
+        EXPECT_TRUE(screen.call());
+        EXPECT_STREQ(elm_object_style_get(Popup()), screen.style);
+        EXPECT_EQ(TextOf(Popup(), "title,text"), "T");
+        EXPECT_THAT(tv.Did("say"), ElementsAre(screen.spoken));
+        EXPECT_FALSE(Widgets(Popup(), screen.widget).empty()) << screen.widget;
+        EXPECT_EQ(tv.Logged(DLOG_INFO, "Start visible timer"), screen.clock);
+        EXPECT_EQ(tv.Logged(DLOG_ERROR, "SetFocusToList, firstElement=true, mfocus set to zero"),
+                  std::string(screen.widget) == "elm_genlist");
+    }
+    EXPECT_TRUE(show.ShowTestPopup(7, 255, 5));
+    EXPECT_EQ(TextOf(Popup(), "title,text"), "Test");
+}
+
+TEST_F(WindowManagerTest, APinAlsoTakesTheNumberAndMediaKeys)
+{
+    Do([this] { manager->ShowPinManager(7, 254, "", "", "", 4, ""); });
+    EXPECT_EQ(tv.heldKeys.size(), 72U + 10U + 8U);
+    EXPECT_EQ(tv.heldKeys.count({"7", 4}) + tv.heldKeys.count({"XF86AudioPlay", 5}), 2U);
+    manager->BackKey();
+    ExpectIdle();
+}
+
+TEST_F(WindowManagerTest, EachAnswerCarriesTheScreensIdsAndEndsIt)
+{
+    struct
+    {
+        std::function<void(WindowManager&)> answer;
+        const char* sent;
+        int priority;
+        const char* nothing;
+    } const answers[] = {
+        {[](auto& m) { m.PinEntered("1234"); }, "answer 7 3 0 0 0 \"1234\"", DLOG_WARN, "invalid id"},
+        {[](auto& m) { m.ItemsSelected("13"); }, "answer 7 3 0 0 0 \"13\"", DLOG_WARN, "No UI to close"},
+        {[](auto& m) { m.ItemSelected(255); }, "answer 7 3 0 0 255 \"\"", DLOG_INFO, "No UI to close"},
+        {[](auto& m) { m.ButtonPressed(1); }, "answer 7 3 0 1 0 \"\"", DLOG_INFO, "No UI to close"},
+        {[](auto& m) { m.BackKey(); }, "answer 7 3 3 0 0 \"\"", DLOG_INFO, "No UI to close"},
+        {[](auto& m) { m.ExitKey(); }, "answer 7 3 2 0 0 \"\"", DLOG_INFO, "No UI to close"},
+        {[](auto& m) { m.Exit(); }, "answer 7 3 2 0 0 \"\"", DLOG_INFO, "No UI to close"},
+        {[](auto& m) { m.Terminate(); }, "answer 7 3 2 0 0 \"\"", DLOG_INFO, "No UI to close"},
+    };
+    for (const auto& expected : answers)
+    {
+        Show(7, 3);
+        const Texts deeds = Do([&] { expected.answer(*manager); });
+        const bool closed = std::string(expected.sent).find(" 3 2 ") != std::string::npos;
+        EXPECT_EQ(deeds, Joined({closed ? Texts{"iconify"} : Texts{}, {expected.sent}, RELEASED}));
+        EXPECT_FALSE(evas_object_visible_get(Popup())); // hidden, not deleted
+        ExpectIdle();
+
+        EXPECT_THAT(Do([&] { expected.answer(*manager); }), closed ? Texts{"iconify"} : Texts{});
+        EXPECT_TRUE(tv.Logged(expected.priority, std::string(expected.nothing) + " - m_uiId:0, m_sourceId:100"));
+    }
+}
+
+TEST_F(WindowManagerTest, AScreenWithoutAnIdOrWithTheIdleSourceIsNeverAnswered)
+{
+    Show(0, 255);
+    EXPECT_THAT(Do(
+                    [this]
+                    {
+                        manager->BackKey();
+                        manager->ButtonPressed(1);
+                    }),
+                IsEmpty());
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "No UI to close - m_uiId:0, m_sourceId:255"));
+    Show(7, 100);
+    EXPECT_THAT(Do([this] { manager->PinEntered("1"); }), IsEmpty());
+    EXPECT_TRUE(evas_object_visible_get(Popup()));
+}
+
+TEST_F(WindowManagerTest, ACloseNeedsTheIdAndAnswersTheMiddlewareAlone)
+{
+    Show(7, 255);
+    EXPECT_THAT(Do([this] { manager->Close(5, 255); }), IsEmpty());
+    EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre("reject close command, ui id mismatch (7 , 5)"));
+    EXPECT_TRUE(evas_object_visible_get(Popup()));
+
+    EXPECT_EQ(Do([this] { manager->Close(7, 253); }), RELEASED);
+    ExpectIdle();
+    for (const int id : {7, 0})
+    {
+        Show(7, 255);
+        EXPECT_EQ(Do([&] { manager->Close(id, 254); }), Joined({{CLOSED_7}, RELEASED}));
+        EXPECT_TRUE(tv.Logged(DLOG_INFO, "close request came from MW, send response back"));
+        ExpectIdle();
+    }
+}
+
+TEST_F(WindowManagerTest, AProgressIsUpdatedInPlaceForTheSameIdsAlone)
+{
+    manager->ShowProgress(7, 255, "T", "S", "Cancel", 10);
+    Evas_Object* popup = Popup();
+    EXPECT_THAT(Do([this] { EXPECT_TRUE(manager->ShowProgress(7, 255, "T2", "S2", "Stop", 40)); }), IsEmpty());
+    EXPECT_THAT(tv.Log(DLOG_INFO), Contains("Updated exiting progress"));
+    EXPECT_FALSE(tv.Logged(DLOG_INFO, "Start visible timer"));
+    EXPECT_EQ(Popup(), popup);
+    EXPECT_EQ(TextOf(popup, "title,text"), "T2");
+    EXPECT_EQ(elm_progressbar_value_get(Widgets(popup, "elm_progressbar").front()), 0.4);
+
+    Do([this] { manager->ShowProgress(7, 254, "T", "S", "", 50); });
+    EXPECT_THAT(tv.Did("answer"), ElementsAre(CLOSED_7));
+    Do([this] { manager->ShowProgress(8, 254, "T", "S", "", 50); });
+    EXPECT_THAT(tv.Did("answer"), ElementsAre("answer 7 254 2 0 0 \"\""));
+    Show(8, 254);
+    EXPECT_THAT(Do([this] { manager->ShowProgress(8, 254, "T", "S", "", 60); }), Contains("answer 8 254 2 0 0 \"\""));
+}
+
+/** A screen that fails where it is told to. */
+struct Faulty : BaseDisplay
+{
+    Faulty(WindowManager& manager, bool creates) : BaseDisplay(manager, tv.window, {}, "", false), m_creates(creates) {}
+    bool t_Create() override { return m_creates; }
+    bool t_Show() override { return false; }
+    bool m_creates;
+};
+
+// Only a screen of its own can fail, and presenting is private, which an explicit instantiation may pass.
+bool Present(WindowManager& manager, std::unique_ptr<BaseDisplay> display);
+template <auto present>
+struct Open
+{
+    friend bool Present(WindowManager& manager, std::unique_ptr<BaseDisplay> display)
+    {
+        return (manager.*present)(std::move(display), 8, 255, false);
+    }
+};
+template struct Open<&WindowManager::m_Present>;
+
+TEST_F(WindowManagerTest, AScreenThatCannotBeBuiltStillClosesTheOldOne)
+{
+    Show(7, 255);
+    EXPECT_FALSE(Present(*manager, nullptr));
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Error popup null"));
+    EXPECT_TRUE(evas_object_visible_get(Popup()));
+    for (const bool creates : {false, true})
+    {
+        Show(7, 255);
+        EXPECT_EQ(Do([&] { EXPECT_FALSE(Present(*manager, std::make_unique<Faulty>(*manager, creates))); }),
+                  Joined({{"iconify", CLOSED_7}, RELEASED}));
+        EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre(creates ? "Error showing popup" : "Error creating popup"));
+        EXPECT_TRUE(tv.Logged(DLOG_INFO, "Start visible timer"));
+        EXPECT_EQ(Popup(), nullptr);
+        ExpectIdle();
+    }
+}
+
+TEST_F(WindowManagerTest, PauseAnswersAndArmsTheIdleClockWhichAScreenStops)
+{
+    EXPECT_THAT(Do([this] { manager->Resume(); }), ElementsAre("activate"));
+    Show(7, 255);
+    EXPECT_EQ(Do([this] { manager->Pause(); }), Joined({{"iconify", CLOSED_7}, RELEASED}));
+    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "milliseconds:2000"));
+    EXPECT_THAT(Do([this] { manager->Resume(); }), ElementsAre("activate", "release navigation", "grab navigation"));
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Dongle MMI")); // the hidden screen's ids are gone
+
+    Show(7, 254);
+    EXPECT_THAT(Do([this] { manager->Resume(); }), ElementsAre("activate", "grab channel"));
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Privileged mode"));
+    Show(7, 255);
+    Do([this] { manager->Resume(); });
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Normal mode"));
+}
+
+TEST_F(WindowManagerTest, AHotelsFactoryMenuComesBackAfterEachScreen)
+{
+    constexpr const char* HOTEL = "com.brelmon/featureconf/product.b2b_option_support";
+    constexpr const char* MODE = "memory/ephotel/hotelmenu/hotelfactorymode";
+    const auto launches = [this]
+    {
+        Show(7, 255);
+        Do([this] { manager->BackKey(); });
+        EXPECT_EQ(tv.liveRequests, 0);
+        return tv.Did("launch");
+    };
+    EXPECT_THAT(launches(), IsEmpty());
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Failed to get SYSTEM_INFO_CUSTOM_KEY_B2B_OPTION_SUPPORT"));
+    tv.features[HOTEL] = false;
+    tv.numbers[MODE] = 1;
+    EXPECT_THAT(launches(), IsEmpty());
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "This is not a hotel TV, menu cannot have been launched by factory menu"));
+    tv.features[HOTEL] = true;
+    EXPECT_THAT(launches(), ElementsAre("launch org.tizen.ep-hotel-factory"));
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Hotel factory mode :1"));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("Hotel factory mode is set"));
+    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "App launched from hotel factory menu");
+
+    tv.failing = {"app_control_send_launch_request"};
+    launches();
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Failed to send request [-17825759]"));
+    tv.failing = {"app_control_create"};
+    launches();
+    EXPECT_THAT(tv.Log(DLOG_ERROR),
+                ElementsAre("Hotel factory mode is set", "app_control_create failed", "Failed to send request [-22]"));
+    tv.numbers[MODE] = 2;
+    EXPECT_THAT(launches(), IsEmpty());
+    tv.numbers.clear();
+    EXPECT_THAT(launches(), IsEmpty());
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, std::string("Failed to get vconf: ") + MODE));
+}
+
+TEST_F(WindowManagerTest, WithoutAWindowOrAControllerNothingIsShownAndNothingBreaks)
+{
+    tv.hasController = false;
+    manager = std::make_unique<WindowManager>([] {}, [] {});
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "failed to create veskar controller"));
+    EXPECT_FALSE(evas_object_visible_get(tv.window));
+    EXPECT_THAT(tv.Did("ea"), IsEmpty());
+    EXPECT_TRUE(Show(7, 255));
+    manager->ButtonPressed(1);
+    ExpectIdle();
+
+    tv.hasController = true;
+    tv.failing = {"elm_win_add"};
+    tv.Forget();
+    manager = std::make_unique<WindowManager>([] {}, [] {});
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "failed to create main window"));
+    tv.Forget();
+    EXPECT_FALSE(Show(7, 255));
+    EXPECT_THAT(tv.Log(DLOG_ERROR),
+                testing::IsSupersetOf({"Main window not available", "Error creating popup", "Error presenting popup"}));
+    manager->Pause();
+    manager->Resume();
+    EXPECT_THAT(tv.Did("answer"), IsEmpty());
+}
+
+TEST_F(WindowManagerTest, TheDestructorGivesTheKeysBackWithoutAnAnswer)
+{
+    Show(7, 255);
+    EXPECT_EQ(Do([this] { manager.reset(); }), Joined({RELEASED,
+                                                       {"release exit", "release channel", "release navigation",
+                                                        "release number", "release PVR", "router finalized"}}));
+    EXPECT_THAT(tv.heldKeys, IsEmpty());
+}
+
+TEST_F(WindowManagerTest, TheTestCasesRunFrom0To22AndAnswerNobody)
+{
+    for (int id = 0; id <= 22; ++id)
+    {
+        EXPECT_TRUE(manager->Test(id)) << id;
+        EXPECT_TRUE(evas_object_visible_get(Popup())) << id;
+        EXPECT_EQ(tv.Logged(DLOG_INFO, "Start visible timer"), id != 4) << id;
+        tv.Forget();
+    }
+    for (const int id : {23, -5})
+    {
+        EXPECT_FALSE(manager->Test(id));
+        EXPECT_THAT(tv.deeds, IsEmpty());
+    }
+    EXPECT_THAT(Do([this] { manager->ExitKey(); }), ElementsAre("iconify"));
+}
+
+} // namespace
