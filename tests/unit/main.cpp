@@ -1,5 +1,6 @@
 #include <cstdlib>
 
+#include <Efreet.h>
 #include <Elementary.h>
 #include <gmock/gmock.h>
 
@@ -9,6 +10,7 @@ int main(int argc, char** argv)
     setenv("ELM_ENGINE", "buffer", 1);
     setenv("ELM_SCALE", "1.0", 1);
     setenv("EINA_LOG_LEVEL", "0", 1); // the toolkit misses a system bus, at length
+    efreet_cache_disable();           // its daemon would outlive the test and hold its output
     testing::InitGoogleMock(&argc, argv);
     elm_init(argc, argv);
     return RUN_ALL_TESTS();
