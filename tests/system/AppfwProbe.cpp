@@ -1,0 +1,134 @@
+// An application that writes each thing it is told into the log, and does what a request's value "do" says.
+
+#include <app.h>
+#include <dlog.h>
+#include <vconf.h>
+
+#include <Elementary.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <map>
+#include <memory>
+#include <string>
+#include <thread>
+
+namespace
+{
+
+struct Free
+{
+    void operator()(char* text) const { free(text); }
+};
+
+Evas_Object* s_window = nullptr;
+bool s_launchAtTheEnd = false;
+
+template <typename... Args>
+void Tell(const char* format, Args... args)
+{
+    __dlog_print(LOG_ID_MAIN, DLOG_INFO, "PROBE", format, args...);
+}
+
+std::string Value(app_control_h request, const char* key)
+{
+    char* value = nullptr;
+    app_control_get_extra_data(request, key, &value);
+    const std::unique_ptr<char, Free> owner(value);
+    return value == nullptr ? "" : value;
+}
+
+void Launch(const char* appId)
+{
+    app_control_h request = nullptr;
+    app_control_create(&request);
+    app_control_set_app_id(request, appId);
+    app_control_add_extra_data(request, "name", "from another");
+    Tell("launch %d", app_control_send_launch_request(request, nullptr, nullptr));
+    app_control_destroy(request);
+}
+
+/** The moment in which a request would be lost most easily lasts longer than in a real application. */
+void EndSlowly()
+{
+    elm_exit();
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+}
+
+const std::map<std::string, void (*)()> s_actions = {
+    {"hide",
+     []
+     {
+         evas_object_hide(s_window);
+     }},
+    {"show",
+     []
+     {
+         evas_object_show(s_window);
+     }},
+    {"replace",
+     []
+     {
+         evas_object_hide(s_window);
+         evas_object_show(s_window);
+     }},
+    {"end", EndSlowly},
+    {"launch nobody",
+     []
+     {
+         Launch("org.tizen.nobody");
+     }},
+    {"launch at the end",
+     []
+     {
+         s_launchAtTheEnd = true;
+     }},
+};
+
+bool Create(void*)
+{
+    Tell("create");
+    elm_policy_set(ELM_POLICY_QUIT, ELM_POLICY_QUIT_NONE);
+    s_window = elm_win_add(nullptr, "probe", ELM_WIN_DIALOG_BASIC);
+    evas_object_show(s_window);
+    return getenv("PROBE_CREATE_FAILS") == nullptr;
+}
+
+void Terminate(void*)
+{
+    Tell("terminate");
+    // The window's own doings are not told any more.
+    evas_object_hide(s_window);
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    if (s_launchAtTheEnd)
+    {
+        Launch("org.tizen.slow");
+    }
+}
+
+void Request(app_control_h request, void*)
+{
+    Tell("request %s", Value(request, "name").c_str());
+    const auto action = s_actions.find(Value(request, "do"));
+    if (action != s_actions.end())
+    {
+        action->second();
+    }
+}
+
+void LanguageChanged(app_event_info_h, void*)
+{
+    const std::unique_ptr<char, Free> language(vconf_get_str("db/menu_widget/language"));
+    Tell("language %s", language == nullptr ? "" : language.get());
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    ui_app_lifecycle_callback_s callbacks = {Create, Terminate, [](void*) { Tell("pause"); },
+                                             [](void*) { Tell("resume"); }, Request};
+    app_event_handler_h handler = nullptr;
+    ui_app_add_event_handler(&handler, APP_EVENT_LANGUAGE_CHANGED, LanguageChanged, nullptr);
+    return ui_app_main(argc, argv, &callbacks, nullptr);
+}

@@ -1,0 +1,211 @@
+// What an application is told, in which order, and that nothing sent to it is lost.
+
+#include "Tv.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <random>
+#include <thread>
+
+namespace
+{
+
+using Events = std::vector<std::string>;
+using Values = std::map<std::string, sdbus::Variant>;
+
+constexpr const char* ID = "org.tizen.veskar-app";
+constexpr const char* INTERFACE = "org.tizen.Application1";
+
+Values Request(const std::string& name, const std::string& action = "")
+{
+    return {{"name", name}, {"do", action}};
+}
+
+class Appfw : public TvTest
+{
+protected:
+    void SetUp() override
+    {
+        TvTest::SetUp();
+        m_before = AllEvents().size();
+    }
+
+    /** What the application has told since the test began. */
+    Events Told() const
+    {
+        const Events all = AllEvents();
+        return {all.begin() + static_cast<Events::difference_type>(m_before), all.end()};
+    }
+
+    void ExpectTold(const Events& expected) const
+    {
+        WaitUntil([&] { return Told().size() >= expected.size(); });
+        EXPECT_EQ(Told(), expected);
+    }
+
+    void Call(const std::string& method) const
+    {
+        sdbus::createProxy(*m_bus, ID, "/org/tizen/veskar_app")->callMethod(method).onInterface(INTERFACE);
+    }
+
+private:
+    static Events AllEvents()
+    {
+        const std::string beginning = "PROBE I ";
+        std::ifstream log(getenv("VESKAR_TV_LOG"));
+        Events events;
+        for (std::string line; std::getline(log, line);)
+        {
+            if (line.compare(0, beginning.size(), beginning) == 0)
+            {
+                events.push_back(line.substr(beginning.size()));
+            }
+        }
+        return events;
+    }
+
+    std::size_t m_before = 0;
+};
+
+TEST_F(Appfw, the_request_that_starts_the_process_comes_between_create_and_resume)
+{
+    EXPECT_EQ(SendRaw(Request("first")), "");
+    ExpectTold({"create", "request first", "resume"});
+}
+
+TEST_F(Appfw, each_hide_and_show_is_told_before_the_next_request)
+{
+    SendRaw(Request("start"));
+    auto application = sdbus::createProxy(*m_bus, ID, "/org/tizen/veskar_app");
+    for (const char* action : {"replace", "replace", "hide", "hide", "show"})
+    {
+        application->callMethod("AppControl")
+            .onInterface(INTERFACE)
+            .withArguments(Request(action, action))
+            .dontExpectReply();
+    }
+    ExpectTold({"create", "request start", "resume", "request replace", "pause", "resume", "request replace", "pause",
+                "resume", "request hide", "pause", "request hide", "request show", "resume"});
+}
+
+TEST_F(Appfw, the_tv_pauses_resumes_and_ends_it_and_nothing_is_told_after_terminate)
+{
+    SendRaw(Request("start"));
+    Call("Pause");
+    Call("Resume");
+    Call("Terminate");
+    EXPECT_TRUE(WaitForApplicationEnd());
+    ExpectTold({"create", "request start", "resume", "pause", "resume", "terminate"});
+}
+
+TEST_F(Appfw, a_signal_ends_it_through_terminate)
+{
+    SendRaw(Request("start"));
+    ExpectTold({"create", "request start", "resume"});
+    kill(static_cast<pid_t>(ApplicationPid()), SIGTERM);
+    EXPECT_TRUE(WaitForApplicationEnd());
+    ExpectTold({"create", "request start", "resume", "terminate"});
+}
+
+TEST_F(Appfw, what_is_no_string_or_too_large_is_refused_by_its_key_and_never_seen)
+{
+    constexpr std::size_t longest = 256 * 1024;
+    const std::string longText(longest, 'x');
+    EXPECT_EQ(SendRaw({{"name", std::string("whole")}, {"a", longText}, {"b", Events(20000, "x")}}), "");
+    EXPECT_EQ(SendRaw({{"all", Events(32, longText)}}), "");
+    const std::map<std::string, sdbus::Variant> refused = {
+        {"number", 7},
+        {"numbers", std::vector<int>{7}},
+        {"text", longText + "x"},
+        {"array", Events(20001, "x")},
+        {"all", Events(33, longText)},
+    };
+    for (const auto& [key, value] : refused)
+    {
+        const std::string error = SendRaw({{"fine", std::string("x")}, {key, value}});
+        EXPECT_EQ(error.find("org.tizen.Application1.Error.Refused: "), 0u) << error;
+        EXPECT_NE(error.find('"' + key + '"'), std::string::npos) << error;
+    }
+    ExpectTold({"create", "request whole", "resume", "request "});
+}
+
+TEST_F(Appfw, no_request_is_lost_or_told_twice_when_the_process_ends)
+{
+    constexpr int ROUNDS = 40;
+    std::minstd_rand random(20261121);
+    std::uniform_int_distribution<int> moment(0, 30);
+    for (int round = 1; round <= ROUNDS; ++round)
+    {
+        ASSERT_EQ(SendRaw(Request(std::to_string(round), "end")), "");
+        std::this_thread::sleep_for(std::chrono::milliseconds(moment(random)));
+    }
+    EXPECT_TRUE(WaitForApplicationEnd());
+    Events requests;
+    Events expected;
+    for (const auto& event : Told())
+    {
+        if (event.find("request ") == 0)
+        {
+            requests.push_back(event);
+        }
+    }
+    for (int round = 1; round <= ROUNDS; ++round)
+    {
+        expected.push_back("request " + std::to_string(round));
+    }
+    EXPECT_EQ(requests, expected);
+    EXPECT_GT(CountInLog("passed on to the next process"), ROUNDS / 8) << "no request met the end of the process";
+}
+
+TEST_F(Appfw, language_and_direction_reach_the_running_application)
+{
+    SendRaw(Request("start"));
+    RunCommand({"veskar-setting", "set", "db/menu_widget/language", "el_GR.utf8"});
+    ExpectTold({"create", "request start", "resume", "language el_GR.utf8"});
+    RunCommand({"veskar-setting", "set", "db/menu_widget/orientation", "1"});
+    ExpectTold({"create", "request start", "resume", "language el_GR.utf8", "language el_GR.utf8"});
+}
+
+TEST_F(Appfw, an_application_that_nobody_has_is_not_found)
+{
+    SendRaw(Request("start", "launch nobody"));
+    ExpectTold({"create", "request start", "launch -17825759", "resume"});
+}
+
+TEST_F(Appfw, a_request_sent_in_terminate_arrives_though_its_target_starts_slowly)
+{
+    std::ofstream(std::string(getenv("VESKAR_TV_DIR")) + "/services/org.tizen.slow.service")
+        << "[D-BUS Service]\nName=org.tizen.slow\n"
+        << "Exec=/usr/bin/env VESKAR_APP_ID=org.tizen.slow sh -c 'sleep 0.2; exec " PROBE "'\n";
+    sdbus::createProxy(*m_bus, "org.freedesktop.DBus", "/org/freedesktop/DBus")
+        ->callMethod("ReloadConfig")
+        .onInterface("org.freedesktop.DBus");
+    SendRaw(Request("start", "launch at the end"));
+    ExpectTold({"create", "request start", "resume"});
+    EndApplication();
+    ExpectTold(
+        {"create", "request start", "resume", "terminate", "launch 0", "create", "request from another", "resume"});
+    sdbus::createProxy(*m_bus, "org.tizen.slow", "/org/tizen/slow")->callMethod("Terminate").onInterface(INTERFACE);
+}
+
+TEST_F(Appfw, without_a_bus_or_when_create_fails_it_ends_with_an_error)
+{
+    EXPECT_EQ(Process({"env", "PROBE_CREATE_FAILS=1", "sh", "-c", "exec " PROBE " 2>>$VESKAR_TV_LOG"}).Status(), 1);
+    EXPECT_EQ(Process({"env", "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere", PROBE}).Status(), 1);
+    ExpectTold({"create"});
+}
+
+TEST_F(Appfw, when_the_bus_dies_it_ends_through_terminate)
+{
+    auto bus = std::make_unique<Process>(Events{"dbus-daemon", "--session", "--nofork", "--print-address"});
+    WaitUntil([&] { return bus->Output().find('\n') != std::string::npos; });
+    const std::string address = bus->Output().substr(0, bus->Output().find('\n'));
+    Process application({"env", "DBUS_SESSION_BUS_ADDRESS=" + address, "sh", "-c", "exec " PROBE " 2>>$VESKAR_TV_LOG"});
+    ExpectTold({"create", "resume"});
+    bus.reset();
+    EXPECT_EQ(application.Status(), 0);
+    ExpectTold({"create", "resume", "terminate"});
+}
+
+} // namespace
