@@ -82,13 +82,15 @@ bool RouterBinding::grab(wl_surface* surface, const _KeyList& list)
 
 bool RouterBinding::ungrab(wl_surface* surface, const _KeyList& list)
 {
+    const size_t heldBefore = m_held.size();
     bool allReleased = true;
     for (int i = 0; i < list.count; ++i)
     {
         allReleased = release({surface, list.keys[i].name, list.keys[i].mode}) && allReleased;
     }
-    wl_display_flush(m_display);
-    return allReleased && wl_display_get_error(m_display) == 0;
+    // Whoever hears that they are free may ask for them: the compositor must know before we return.
+    const bool answered = m_held.size() == heldBefore || roundTrip(m_display, m_queue.get());
+    return allReleased && answered;
 }
 
 bool RouterBinding::release(const Holding& holding)
