@@ -120,54 +120,35 @@ TEST_F(WindowManagerTest, EachKindOfScreenIsBuiltFromItsArguments)
 {
     constexpr const char* LARGE = "C_PopupBasic_WhiteBottomLarge";
     constexpr const char* SMALL = "C_PopupBasic_WhiteBottom";
-    constexpr const char* MENU = "say T, S, head, row, , B, ";
+    const Texts rows{"head", "row"};
     WindowManager& show = *manager;
-    struct
+    const auto expect = [](bool shown, const char* widget, const char* style, bool clock, const std::string& spoken)
     {
-        std::function<bool()> call;
-        const char* style;
-        const char* spoken;
-        const char* widget;
-        bool clock;
-    } const screens[] = {
-        {[&] { return show.ShowMessage(7, 255, "T", "S", "B", "X", {}, false); }, SMALL, "say T, S, X, B, ",
-         "elm_label", true},
-        {[&] { return show.ShowMmiMessage(7, 255, "T", "S", "B", "X", {}, true); }, SMALL, "say T, S, X, B, ",
-         "elm_label", false},
-        {[&] {
-             return show.ShowList(7, 255, "T", "S", "B", {"head", "row"}, "L", true, {"OK"}, true);
-         },
-         LARGE, MENU, "elm_genlist", true},
-        {[&] {
-             return show.ShowMultipleList(7, 255, "T", "S", "B", {"head", "row"}, "L", true, {"OK"}, true);
-         },
-         LARGE, MENU, "elm_genlist", true},
-        {[&] {
-             return show.ShowMultipleImageList(7, 255, "T", "S", "B", {"head", "row"}, "L", true, {}, {""}, 1, 1, true);
-         },
-         LARGE, MENU, "elm_genlist", false},
-        {[&] { return show.ShowPinManager(7, 255, "T", "no", "S", 4, "B"); }, SMALL, "say T, S, , B, ", "elm_button",
-         true},
-        {[&] { return show.ShowProgress(7, 255, "T", "S", "B", 40); }, SMALL, "say T, S, , , ", "elm_progressbar",
-         true},
-        {[&] { return show.ShowLoading(7, 255, "T", {}, 3); }, SMALL, "say T, , , , ", "elm_progressbar", true},
-        {[&] { return show.ShowImage(7, 255, "T", "S", "B", "none.png", 4, 4, {}, false); }, LARGE, "say T, S, , B, ",
-         "elm_image", true},
-        {[&] { return show.ShowImage(7, 255, "T", "S", "B", "none.png", 4, 4, {}, true); }, LARGE, "say T, S, , B, ",
-         "elm_image", false},
-    };
-    for (const auto& screen : screens)
-    {
-        tv.Forget();
-        EXPECT_TRUE(screen.call());
-        EXPECT_STREQ(elm_object_style_get(Popup()), screen.style);
+        EXPECT_TRUE(shown);
+        EXPECT_STREQ(elm_object_style_get(Popup()), style);
         EXPECT_EQ(TextOf(Popup(), "title,text"), "T");
-        EXPECT_THAT(tv.Did("say"), ElementsAre(screen.spoken));
-        EXPECT_FALSE(Widgets(Popup(), screen.widget).empty()) << screen.widget;
-        EXPECT_EQ(tv.Logged(DLOG_INFO, "Start visible timer"), screen.clock);
-        EXPECT_EQ(tv.Logged(DLOG_ERROR, "SetFocusToList, firstElement=true, mfocus set to zero"),
-                  std::string(screen.widget) == "elm_genlist");
-    }
+        EXPECT_FALSE(Widgets(Popup(), widget).empty()) << widget;
+        EXPECT_EQ(tv.Logged(DLOG_INFO, "Start visible timer"), clock);
+        EXPECT_THAT(tv.Did("say"), ElementsAre("say T, " + spoken));
+        tv.Forget();
+    };
+    expect(show.ShowMessage(7, 255, "T", "S", "B", "X", {}, false), "elm_label", SMALL, true, "S, X, B, ");
+    expect(show.ShowMmiMessage(7, 255, "T", "S", "B", "X", {}, true), "elm_label", SMALL, false, "S, X, B, ");
+    expect(show.ShowPinManager(7, 255, "T", "no", "S", 4, "B"), "elm_button", SMALL, true, "S, , B, ");
+    expect(show.ShowProgress(7, 255, "T", "S", "B", 40), "elm_progressbar", SMALL, true, "S, , , ");
+    expect(show.ShowLoading(7, 255, "T", {}, 3), "elm_progressbar", SMALL, true, ", , , ");
+    expect(show.ShowImage(7, 255, "T", "S", "B", "/i", 4, 6, {}, false), "elm_image", LARGE, true, "S, , B, ");
+    show.ShowImage(7, 255, "T", "S", "B", "/i", 4, 6, {}, true);
+    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "Loading the image file: /i width:4 height:6"));
+    expect(true, "elm_image", LARGE, false, "S, , B, ");
+
+    const char* menu = "S, head, row, , B, ";
+    expect(show.ShowList(7, 255, "T", "S", "B", rows, "L", true, {"OK"}, true), "elm_genlist", LARGE, true, menu);
+    expect(show.ShowMultipleList(7, 255, "T", "S", "B", rows, "L", true, {}, true), "elm_genlist", LARGE, true, menu);
+    show.ShowMultipleImageList(7, 255, "T", "S", "B", rows, "L", true, {"OK"}, {""}, 1, 1, true);
+    EXPECT_TRUE(tv.Logged(DLOG_ERROR, "SetFocusToList, firstElement=true, mfocus set to zero"));
+    expect(true, "elm_genlist", LARGE, false, menu);
+
     EXPECT_TRUE(show.ShowTestPopup(7, 255, 5));
     EXPECT_EQ(TextOf(Popup(), "title,text"), "Test");
 }
@@ -216,13 +197,7 @@ TEST_F(WindowManagerTest, EachAnswerCarriesTheScreensIdsAndEndsIt)
 TEST_F(WindowManagerTest, AScreenWithoutAnIdOrWithTheIdleSourceIsNeverAnswered)
 {
     Show(0, 255);
-    EXPECT_THAT(Do(
-                    [this]
-                    {
-                        manager->BackKey();
-                        manager->ButtonPressed(1);
-                    }),
-                IsEmpty());
+    EXPECT_THAT(Do([this] { manager->BackKey(); }), IsEmpty());
     EXPECT_TRUE(tv.Logged(DLOG_INFO, "No UI to close - m_uiId:0, m_sourceId:255"));
     Show(7, 100);
     EXPECT_THAT(Do([this] { manager->PinEntered("1"); }), IsEmpty());
