@@ -8,11 +8,14 @@
 namespace
 {
 
-/** The application's one binding; null without a router, and then every grab fails. */
+/**
+ * The application's one binding; null without a router, and then every grab fails. Never destroyed: an application need
+ * not finalize, and by the time of the exit handlers its connection to the compositor is gone.
+ */
 std::unique_ptr<veskar::RouterBinding>& binding()
 {
-    static std::unique_ptr<veskar::RouterBinding> one;
-    return one;
+    static auto* one = new std::unique_ptr<veskar::RouterBinding>;
+    return *one;
 }
 
 } // namespace

@@ -30,10 +30,12 @@ std::string Setting(const char* name)
 
 } // namespace
 
-TvTest::TvTest()
-    : m_bus(sdbus::createSessionBusConnection()), m_logFile(Setting("VESKAR_TV_LOG")),
-      m_logStart(static_cast<std::streamoff>(ReadFile(m_logFile).size()))
+TvTest::TvTest() : m_bus(sdbus::createSessionBusConnection()), m_logFile(Setting("VESKAR_TV_LOG")) {}
+
+void TvTest::SetUp()
 {
+    EndApplication();
+    m_logStart = static_cast<std::streamoff>(ReadFile(m_logFile).size());
 }
 
 Process TvTest::Send(const std::vector<std::string>& arguments)
@@ -91,16 +93,28 @@ Picture TvTest::Shot()
 
 Picture TvTest::StillShot()
 {
+    // Longer than a frame that is on its way, and than any pause within a motion.
+    constexpr std::chrono::milliseconds STILL{300};
     Picture last = Shot();
+    auto since = std::chrono::steady_clock::now();
     const auto isStill = [&]
     {
-        const Picture next = Shot();
-        const bool alike = next == last;
-        last = next;
-        return alike;
+        Picture next = Shot();
+        if (next != last)
+        {
+            last = std::move(next);
+            since = std::chrono::steady_clock::now();
+        }
+        return std::chrono::steady_clock::now() - since >= STILL;
     };
     EXPECT_TRUE(WaitUntil(isStill)) << "the screen does not come to rest";
     return last;
+}
+
+Picture TvTest::ChangedShot(const Picture& before)
+{
+    EXPECT_TRUE(WaitUntil([&] { return Shot() != before; })) << "the screen stays as it is";
+    return StillShot();
 }
 
 bool TvTest::IsApplicationRunning()
@@ -176,9 +190,19 @@ std::string TvTest::SendRaw(const std::map<std::string, sdbus::Variant>& values)
 
 std::string Answer(int uiId, int sourceId, int kind, int button, int item, const std::string& data)
 {
-    const char* results[] = {"answered", "", "closed", "back"};
-    std::ostringstream json;
-    json << R"({"uiId":)" << uiId << R"(,"sourceId":)" << sourceId << R"(,"kind":)" << kind << R"(,"result":")"
-         << results[kind] << R"(","button":)" << button << R"(,"item":)" << item << R"(,"data":")" << data << "\"}\n";
-    return json.str();
+    constexpr const char* RESULTS[] = {"answered", "", "closed", "back"};
+    std::ostringstream line;
+    line << R"({"uiId":)" << uiId << R"(,"sourceId":)" << sourceId << R"(,"kind":)" << kind << R"(,"result":")"
+         << RESULTS[kind] << R"(","button":)" << button << R"(,"item":)" << item << R"(,"data":")" << data << "\"}\n";
+    return line.str();
+}
+
+void ExpectAnswer(Process& request, const std::string& answer)
+{
+    const auto tells = [&answer](const char* result)
+    {
+        return answer.find(result) != std::string::npos;
+    };
+    EXPECT_EQ(request.Status(), tells("\"answered\"") ? 0 : tells("\"back\"") ? 1 : 2);
+    EXPECT_EQ(request.Output(), answer);
 }

@@ -21,7 +21,7 @@ class TvTest : public ::testing::Test
 {
 protected:
     TvTest();
-    void SetUp() override { EndApplication(); }
+    void SetUp() override;
 
     /**
      * Sends a request with `veskar-mw` and these arguments, and returns when the application has handled it. The
@@ -38,8 +38,10 @@ protected:
     std::map<std::string, std::string> Grabs();
 
     Picture Shot();
-    /** The picture once two in a row are alike: nothing moves any more. */
+    /** The picture once it stays the same: nothing moves any more. */
     Picture StillShot();
+    /** The same, after the screen has changed from what it was. */
+    Picture ChangedShot(const Picture& before);
 
     bool IsApplicationRunning();
     /** 0 when it does not run. */
@@ -58,8 +60,11 @@ protected:
 
 private:
     std::string m_logFile;
-    std::streamoff m_logStart;
+    std::streamoff m_logStart = 0;
 };
 
 /** The answer as `veskar-mw` prints it. */
 std::string Answer(int uiId, int sourceId, int kind, int button, int item, const std::string& data = "");
+
+/** Waits for this answer of a request, and for the exit status that belongs to it. */
+void ExpectAnswer(Process& request, const std::string& answer);
