@@ -4,6 +4,9 @@
 #include <string_view>
 #include <vector>
 
+namespace veskar
+{
+
 /** Digits that leave no trace: what is removed is overwritten, and the memory never moves. */
 class Digits
 {
@@ -43,3 +46,5 @@ private:
     std::vector<char> m_digits;
     std::size_t m_count = 0;
 };
+
+} // namespace veskar

@@ -1,15 +1,16 @@
-#include "digits.h"
+#include "Digits.h"
 #include "ea.h"
 
 #include <algorithm>
 #include <cstring>
 #include <vector>
 
+namespace veskar
+{
 namespace
 {
 
 constexpr char fieldKey[] = "veskar_pin_field";
-constexpr char userDataKey[] = "ea_pin_data";
 
 /**
  * The field: one cell for each digit in a row. Holds the digits; the cells know only whether they are filled and whose
@@ -29,14 +30,22 @@ public:
     std::string_view Text() const { return m_digits.View(); }
 
 private:
+    static void s_OnKey(void* data, Evas* evas, Evas_Object* object, void* event);
+    static void s_OnDeletion(void* data, Evas* evas, Evas_Object* object, void* event);
+    static void s_OnFocus(void* data, Evas_Object* object, const char* emission, const char* source);
+    static void s_OnUnfocus(void* data, Evas_Object* object, const char* emission, const char* source);
+    static void s_OnClick(void* data, Evas_Object* object, const char* emission, const char* source);
+    static void s_OnTheme(void* data, Evas_Object* cell, void* event);
     void m_AddCell();
     void m_OnKey(const char* key);
+    void m_SetFocused(bool focused);
     void m_Draw() const;
 
     Evas_Object* m_object;
     std::vector<Evas_Object*> m_cells;
     Digits m_digits;
     Ea_Pin_Entered_Cb m_entered;
+    bool m_focused = false;
 };
 
 PinField::PinField(Evas_Object* object, int length, Ea_Pin_Entered_Cb entered)
@@ -49,27 +58,12 @@ PinField::PinField(Evas_Object* object, int length, Ea_Pin_Entered_Cb entered)
         m_AddCell();
     }
 
-    const auto pressed = [](void* data, Evas*, Evas_Object*, void* event)
-    {
-        static_cast<PinField*>(data)->m_OnKey(static_cast<Evas_Event_Key_Down*>(event)->key);
-    };
-    const auto gone = [](void* data, Evas*, Evas_Object*, void*)
-    {
-        delete static_cast<PinField*>(data);
-    };
-    const auto focusMoved = [](void* data, Evas_Object*, void*)
-    {
-        static_cast<PinField*>(data)->m_Draw();
-    };
-    const auto clicked = [](void*, Evas_Object* field, const char*, const char*)
-    {
-        evas_object_smart_callback_call(field, "clicked", nullptr);
-    };
-    evas_object_event_callback_add(m_object, EVAS_CALLBACK_KEY_DOWN, pressed, this);
-    evas_object_event_callback_add(m_object, EVAS_CALLBACK_DEL, gone, this);
-    evas_object_smart_callback_add(m_object, "focused", focusMoved, this);
-    evas_object_smart_callback_add(m_object, "unfocused", focusMoved, this);
-    elm_layout_signal_callback_add(m_object, "elm,action,click", "elm", clicked, nullptr);
+    evas_object_event_callback_add(m_object, EVAS_CALLBACK_KEY_DOWN, s_OnKey, this);
+    evas_object_event_callback_add(m_object, EVAS_CALLBACK_DEL, s_OnDeletion, this);
+    // A plain layout tells of its focus in no other way.
+    elm_layout_signal_callback_add(m_object, "elm,action,focus", "elm", s_OnFocus, this);
+    elm_layout_signal_callback_add(m_object, "elm,action,unfocus", "elm", s_OnUnfocus, this);
+    elm_layout_signal_callback_add(m_object, "elm,action,click", "elm", s_OnClick, this);
     evas_object_data_set(m_object, fieldKey, this);
 }
 
@@ -77,6 +71,8 @@ void PinField::m_AddCell()
 {
     Evas_Object* cell = elm_layout_add(m_object);
     elm_layout_theme_set(cell, "pin", "digit", "default");
+    // A cell that has taken another theme has forgotten what it showed.
+    evas_object_smart_callback_add(cell, "theme,changed", s_OnTheme, this);
     elm_layout_box_append(m_object, "veskar.box.digits", cell);
     evas_object_show(cell);
     m_cells.push_back(cell);
@@ -107,19 +103,57 @@ void PinField::m_OnKey(const char* key)
     }
 }
 
+void PinField::m_SetFocused(bool focused)
+{
+    m_focused = focused;
+    m_Draw();
+}
+
 void PinField::m_Draw() const
 {
-    const bool focused = elm_object_focus_get(m_object);
     for (std::size_t i = 0; i < m_cells.size(); ++i)
     {
         const bool filled = i < m_digits.Count();
-        const bool current = focused && i == m_digits.Count();
+        const bool current = m_focused && i == m_digits.Count();
         elm_layout_signal_emit(m_cells[i], filled ? "veskar,digit,filled" : "veskar,digit,empty", "veskar");
         elm_layout_signal_emit(m_cells[i], current ? "veskar,digit,current" : "veskar,digit,waiting", "veskar");
     }
 }
 
+void PinField::s_OnKey(void* data, Evas*, Evas_Object*, void* event)
+{
+    static_cast<PinField*>(data)->m_OnKey(static_cast<Evas_Event_Key_Down*>(event)->key);
+}
+
+void PinField::s_OnDeletion(void* data, Evas*, Evas_Object*, void*)
+{
+    delete static_cast<PinField*>(data);
+}
+
+void PinField::s_OnFocus(void* data, Evas_Object*, const char*, const char*)
+{
+    static_cast<PinField*>(data)->m_SetFocused(true);
+}
+
+void PinField::s_OnUnfocus(void* data, Evas_Object*, const char*, const char*)
+{
+    static_cast<PinField*>(data)->m_SetFocused(false);
+}
+
+void PinField::s_OnClick(void*, Evas_Object* object, const char*, const char*)
+{
+    evas_object_smart_callback_call(object, "clicked", nullptr);
+}
+
+void PinField::s_OnTheme(void* data, Evas_Object*, void*)
+{
+    static_cast<PinField*>(data)->m_Draw();
+}
+
 } // namespace
+} // namespace veskar
+
+using veskar::PinField;
 
 Evas_Object* ea_pin_add(Evas_Object* parent, int length, Ea_Pin_Entered_Cb callback, void* data)
 {
@@ -128,7 +162,7 @@ Evas_Object* ea_pin_add(Evas_Object* parent, int length, Ea_Pin_Entered_Cb callb
     {
         return nullptr;
     }
-    evas_object_data_set(object, userDataKey, data);
+    evas_object_data_set(object, "ea_pin_data", data);
     new PinField(object, length, callback);
     return object;
 }

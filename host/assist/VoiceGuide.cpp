@@ -1,6 +1,6 @@
 #include "voice_guide.h"
 
-#include "dlog.h"
+#include "Log.h"
 
 #include <Elementary.h>
 #include <algorithm>
@@ -11,8 +11,6 @@
 
 namespace
 {
-
-constexpr char logTag[] = "VESKAR-VOICE";
 
 /** What is to be heard: no markup, one line. */
 std::string Spoken(const char* text)
@@ -35,7 +33,7 @@ void Record(const std::string& sentence)
     file << sentence << '\n';
     if (!file.flush())
     {
-        __dlog_print(LOG_ID_MAIN, DLOG_WARN, logTag, "cannot write to %s", path);
+        ASSIST_WARN("cannot write to %s", path);
     }
 }
 
@@ -48,6 +46,6 @@ void elm_access_force_say(const char* text)
         return;
     }
     const std::string sentence = Spoken(text);
-    __dlog_print(LOG_ID_MAIN, DLOG_INFO, logTag, "%s", sentence.c_str());
+    ASSIST_INFO("Speaking: %s", sentence.c_str());
     Record(sentence);
 }

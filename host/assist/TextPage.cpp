@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace veskar
+{
 namespace
 {
 
@@ -67,6 +69,9 @@ private:
         int height;
     };
 
+    static void s_OnResize(void* data, Evas* evas, Evas_Object* object, void* event);
+    static void s_OnDeletion(void* data, Evas* evas, Evas_Object* object, void* event);
+    static void s_OnJob(void* data);
     void m_UpdateLater();
     void m_Update();
     std::vector<Page> m_BreakIntoPages() const;
@@ -98,17 +103,9 @@ TextPage::TextPage(Evas_Object* scroller)
     elm_object_content_set(m_scroller, m_content);
 
     // The view's size is known once the scroller has laid itself out, which is after it tells of its own resize.
-    const auto resized = [](void* data, Evas*, Evas_Object*, void*)
-    {
-        static_cast<TextPage*>(data)->m_UpdateLater();
-    };
-    const auto gone = [](void* data, Evas*, Evas_Object*, void*)
-    {
-        delete static_cast<TextPage*>(data);
-    };
-    evas_object_event_callback_add(m_scroller, EVAS_CALLBACK_RESIZE, resized, this);
-    evas_object_event_callback_add(m_content, EVAS_CALLBACK_RESIZE, resized, this);
-    evas_object_event_callback_add(m_scroller, EVAS_CALLBACK_DEL, gone, this);
+    evas_object_event_callback_add(m_scroller, EVAS_CALLBACK_RESIZE, s_OnResize, this);
+    evas_object_event_callback_add(m_content, EVAS_CALLBACK_RESIZE, s_OnResize, this);
+    evas_object_event_callback_add(m_scroller, EVAS_CALLBACK_DEL, s_OnDeletion, this);
     evas_object_data_set(m_scroller, dataKey, this);
 }
 
@@ -153,13 +150,7 @@ void TextPage::m_UpdateLater()
     {
         return;
     }
-    const auto update = [](void* data)
-    {
-        auto* self = static_cast<TextPage*>(data);
-        self->m_pending = nullptr;
-        self->m_Update();
-    };
-    m_pending = ecore_job_add(update, this);
+    m_pending = ecore_job_add(s_OnJob, this);
 }
 
 void TextPage::m_Update()
@@ -214,7 +205,27 @@ void TextPage::m_Indicate()
     elm_object_part_text_set(m_scroller, "veskar.text.page", indicator.c_str());
 }
 
+void TextPage::s_OnResize(void* data, Evas*, Evas_Object*, void*)
+{
+    static_cast<TextPage*>(data)->m_UpdateLater();
+}
+
+void TextPage::s_OnDeletion(void* data, Evas*, Evas_Object*, void*)
+{
+    delete static_cast<TextPage*>(data);
+}
+
+void TextPage::s_OnJob(void* data)
+{
+    auto* self = static_cast<TextPage*>(data);
+    self->m_pending = nullptr;
+    self->m_Update();
+}
+
 } // namespace
+} // namespace veskar
+
+using veskar::TextPage;
 
 Evas_Object* ea_textpage_add(Evas_Object* parent)
 {
@@ -228,7 +239,7 @@ Evas_Object* ea_textpage_add(Evas_Object* parent)
 
 void ea_textpage_text_set(Evas_Object* page, char* text)
 {
-    const std::unique_ptr<char, FreeText> owned(text);
+    const std::unique_ptr<char, veskar::FreeText> owned(text);
     if (TextPage* self = TextPage::Of(page))
     {
         self->SetText(text);
@@ -257,7 +268,7 @@ int ea_textpage_total_page_get(const Evas_Object* page)
 
 void ea_textpage_textblock_style_set(Evas_Object* page, Evas_Textblock_Style* style)
 {
-    StyleHandle owned(style);
+    veskar::StyleHandle owned(style);
     if (TextPage* self = TextPage::Of(page))
     {
         self->SetStyle(std::move(owned));

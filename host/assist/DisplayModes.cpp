@@ -1,0 +1,103 @@
+#include "DisplayModes.h"
+
+#include "Log.h"
+#include "SettingsStore.h"
+#include "vconf.h"
+
+#include <Elementary.h>
+
+namespace veskar
+{
+namespace
+{
+
+constexpr char enlargedKey[] = "db/menu/system/accessibility/focuszoom";
+constexpr char highContrastKey[] = "db/menu/system/accessibility/highcontrast";
+
+/** Unset is off. */
+bool IsSet(const char* key)
+{
+    int value = 0;
+    return vconf_get_int(key, &value) == 0 && value != 0;
+}
+
+/** The TV's theme is the one overlay that the application's framework has put onto the toolkit's own. */
+std::filesystem::path LoadedTheme()
+{
+    const Eina_List* overlays = elm_theme_overlay_list_get(nullptr);
+    return overlays ? static_cast<const char*>(eina_list_data_get(overlays)) : "";
+}
+
+std::filesystem::path ThemeFor(const std::filesystem::path& plain, bool enlarged, bool highContrast)
+{
+    std::string name = plain.stem().string();
+    name += enlarged ? "-large" : "";
+    name += highContrast ? "-contrast" : "";
+    return plain.parent_path() / (name + plain.extension().string());
+}
+
+} // namespace
+
+DisplayModes::DisplayModes() : m_plainTheme(LoadedTheme()), m_theme(m_plainTheme)
+{
+    ecore_file_init();
+    if (m_plainTheme.empty())
+    {
+        ASSIST_WARN("no theme of the TV is loaded: enlarged text and high contrast show in texts alone");
+        return;
+    }
+    m_Watch();
+    m_Apply();
+}
+
+DisplayModes::~DisplayModes()
+{
+    if (m_monitor)
+    {
+        ecore_file_monitor_del(m_monitor);
+    }
+    ecore_file_shutdown();
+}
+
+void DisplayModes::m_Watch()
+{
+    const auto file = SettingFile(enlargedKey);
+    if (!file)
+    {
+        return;
+    }
+    // Both settings are files of this folder. It has to exist to be watched.
+    const auto folder = file->parent_path();
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    m_monitor = error ? nullptr : ecore_file_monitor_add(folder.c_str(), s_OnChange, this);
+    if (!m_monitor)
+    {
+        ASSIST_WARN("%s cannot be watched: changes of the display modes are not noticed", folder.c_str());
+    }
+}
+
+void DisplayModes::s_OnChange(void* data, Ecore_File_Monitor*, Ecore_File_Event, const char*)
+{
+    static_cast<DisplayModes*>(data)->m_Apply();
+}
+
+void DisplayModes::m_Apply()
+{
+    const auto theme = ThemeFor(m_plainTheme, IsSet(enlargedKey), IsSet(highContrastKey));
+    if (theme == m_theme)
+    {
+        return;
+    }
+    std::error_code error;
+    if (!std::filesystem::exists(theme, error))
+    {
+        ASSIST_WARN("the theme %s is missing: %s stays", theme.c_str(), m_theme.c_str());
+        return;
+    }
+    elm_theme_overlay_del(nullptr, m_theme.c_str());
+    elm_theme_overlay_add(nullptr, theme.c_str());
+    m_theme = theme;
+}
+
+} // namespace veskar
