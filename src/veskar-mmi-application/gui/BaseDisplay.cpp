@@ -36,6 +36,25 @@ constexpr short LAYER_ABOVE_SETUP = 32767;
 constexpr const char* KEY_EXIT = "XF86Exit";
 constexpr const char* KEY_BACK = "XF86Back";
 
+/** Instead of being shown. */
+void StayHidden(void* /*data*/, Evas_Object* /*button*/) {}
+
+/**
+ * Inside a main-loop section. The popup shows the buttons it holds whenever it is laid out anew, so a hidden one also
+ * has to refuse being shown.
+ */
+void SetButtonShown(Evas_Object* button, bool shown)
+{
+    evas_object_intercept_show_callback_del(button, StayHidden);
+    if (shown)
+    {
+        evas_object_show(button);
+        return;
+    }
+    evas_object_intercept_show_callback_add(button, StayHidden, nullptr);
+    evas_object_hide(button);
+}
+
 } // namespace
 
 BaseDisplay::BaseDisplay(IUserInteraction& userInteraction, Evas_Object* mainWindow,
@@ -267,15 +286,15 @@ void BaseDisplay::t_UpdateButtonLabels(const std::vector<std::string>& labels)
     }
     for (std::size_t i = 0; i < labels.size(); ++i)
     {
-        if (labels[i].empty())
-        {
-            EFL_GUARD(evas_object_hide, t_buttons[i]);
-            continue;
-        }
         const std::string markup = ToMarkup(labels[i]);
         const MainLoopSection section;
+        if (labels[i].empty())
+        {
+            SetButtonShown(t_buttons[i], false);
+            continue;
+        }
         elm_object_domain_translatable_part_text_set(t_buttons[i], nullptr, nullptr, markup.c_str());
-        evas_object_show(t_buttons[i]);
+        SetButtonShown(t_buttons[i], true);
         if (i == 0)
         {
             elm_object_focus_set(t_buttons[i], EINA_TRUE);

@@ -6,6 +6,7 @@
 namespace VESKAR_APP
 {
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): by value as in the window manager's operation
 LoadingPopup::LoadingPopup(IUserInteraction& userInteraction, std::string text, const std::vector<std::string>& buttons,
                            int parameter, Evas_Object* mainWindow)
     : BaseDisplay(userInteraction, mainWindow, buttons, "C_PopupBasic_WhiteBottom", false), m_progressBar(nullptr),
