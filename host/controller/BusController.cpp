@@ -81,6 +81,8 @@ bool IsBusText(const std::string& text)
 class BusController final : public VESKAR_API::IVesKarController
 {
 public:
+    virtual ~BusController() = default;
+
     void Reserved1() override {}
     void Reserved2() override {}
     void Reserved3() override {}

@@ -64,6 +64,22 @@ std::string NameOf(const RequestData& request)
     }
     return "of no kind";
 }
+
+/** The library's results can only be moved, and a callback must be copyable. */
+std::shared_ptr<sdbus::Result<>> Share(sdbus::Result<>&& result)
+{
+    return std::make_shared<sdbus::Result<>>(std::move(result));
+}
+
+void Reply(const sdbus::Result<>& result, const sdbus::Error* refusal)
+{
+    if (refusal != nullptr)
+    {
+        result.returnError(*refusal);
+        return;
+    }
+    result.returnResults();
+}
 } // namespace
 
 Middleware::Middleware(sdbus::IConnection& connection)
@@ -169,7 +185,8 @@ void Middleware::m_Ask(Waiter::Result&& result, ScreenIds screen, const RequestD
 void Middleware::m_Tell(sdbus::Result<>&& result, const RequestData& request)
 {
     Print("request " + NameOf(request));
-    m_Forward(request, s_Reply(std::move(result)));
+    const auto reply = Share(std::move(result));
+    m_Forward(request, [reply](const sdbus::Error* refusal) { Reply(*reply, refusal); });
 }
 
 void Middleware::m_OpenMenu(sdbus::Result<>&& result, const RequestData& request)
@@ -177,14 +194,15 @@ void Middleware::m_OpenMenu(sdbus::Result<>&& result, const RequestData& request
     Print("menu request " + NameOf(request));
     const std::string client = m_Caller();
     m_menuCallers.Add(client);
+    const auto reply = Share(std::move(result));
     m_Forward(request,
-              [this, client, reply = s_Reply(std::move(result))](const sdbus::Error* refusal)
+              [this, client, reply](const sdbus::Error* refusal)
               {
                   if (refusal != nullptr)
                   {
                       m_menuCallers.Remove(client);
                   }
-                  reply(refusal);
+                  Reply(*reply, refusal);
               });
 }
 
@@ -245,20 +263,6 @@ void Middleware::m_Forward(const RequestData& request, Delivered delivered)
                 Print("the request was not taken: " + std::string{refusal.what()});
                 delivered(&refusal);
             });
-}
-
-Middleware::Delivered Middleware::s_Reply(sdbus::Result<>&& result)
-{
-    // Shared only because a callback must be copyable.
-    return [shared = std::make_shared<sdbus::Result<>>(std::move(result))](const sdbus::Error* refusal)
-    {
-        if (refusal != nullptr)
-        {
-            shared->returnError(*refusal);
-            return;
-        }
-        shared->returnResults();
-    };
 }
 
 std::string Middleware::m_Caller() const

@@ -42,8 +42,6 @@ private:
     void m_OwnerChanged(const std::string& name, const std::string& oldOwner, const std::string& newOwner);
 
     void m_Forward(const RequestData& request, Delivered delivered);
-    /** `Delivered` that replies to a caller which waits for nothing more. */
-    static Delivered s_Reply(sdbus::Result<>&& result);
     std::string m_Caller() const;
     template <typename... Args>
     void m_Signal(const std::string& client, const std::string& name, const Args&... args);

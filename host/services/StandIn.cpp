@@ -38,29 +38,39 @@ std::string TextOf(const RequestData& request)
 } // namespace
 
 StandIn::StandIn(sdbus::IConnection& connection, const std::string& appId, std::function<void()> terminated)
-    : m_object(sdbus::createObject(connection, Application::PathOf(appId)))
+    : m_appId(appId), m_terminated(std::move(terminated)),
+      m_object(sdbus::createObject(connection, Application::PathOf(appId)))
+{
+    m_RegisterMethods();
+    connection.requestName(m_appId);
+    m_Say("stands ready");
+}
+
+void StandIn::m_RegisterMethods()
 {
     m_object->registerMethod(Application::appControl)
         .onInterface(Application::interface)
         .withInputParamNames("request")
-        .implementedAs([appId](const RequestData& request)
-                       { Print(appId + " " + Application::appControl + TextOf(request)); });
-    for (const std::string method : {"Pause", "Resume"})
+        .implementedAs([this](const RequestData& request) { m_Say(Application::appControl + TextOf(request)); });
+    for (const char* method : {"Pause", "Resume"})
     {
         m_object->registerMethod(method)
             .onInterface(Application::interface)
-            .implementedAs([appId, method] { Print(appId + " " + method); });
+            .implementedAs([this, method] { m_Say(method); });
     }
     m_object->registerMethod("Terminate")
         .onInterface(Application::interface)
         .implementedAs(
-            [appId, terminated = std::move(terminated)]
+            [this]
             {
-                Print(appId + " Terminate");
-                terminated();
+                m_Say("Terminate");
+                m_terminated();
             });
     m_object->finishRegistration();
-    connection.requestName(appId);
-    Print(appId + " stands ready");
+}
+
+void StandIn::m_Say(const std::string& what) const
+{
+    Print(m_appId + " " + what);
 }
 } // namespace VESKAR_DESK

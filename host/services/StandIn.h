@@ -12,10 +12,19 @@ namespace VESKAR_DESK
 class StandIn
 {
 public:
-    /** `terminated` runs when the application is told to end; the stand-in must live on until it has returned. */
+    /** Owns the name from now on. `terminated` runs when the application is told to end, and must not destroy this. */
     StandIn(sdbus::IConnection& connection, const std::string& appId, std::function<void()> terminated);
 
+    /** The bus library's callbacks name this object. */
+    StandIn(const StandIn&) = delete;
+    StandIn& operator=(const StandIn&) = delete;
+
 private:
+    void m_RegisterMethods();
+    void m_Say(const std::string& what) const;
+
+    std::string m_appId;
+    std::function<void()> m_terminated;
     std::unique_ptr<sdbus::IObject> m_object;
 };
 } // namespace VESKAR_DESK

@@ -39,8 +39,6 @@ private:
 class ControllerTest : public TvTest
 {
 protected:
-    void SetUp() override {}
-
     bool IsLoggedSoon(const std::string& text)
     {
         return WaitUntil([&] { return CountInLog(text) == 1; });

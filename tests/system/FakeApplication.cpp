@@ -17,7 +17,6 @@ FakeApplication::FakeApplication()
         .onInterface(Application::interface)
         .implementedAs([this](const RequestData& request) { m_Handle(request); });
     m_object->finishRegistration();
-    Return();
 }
 
 RequestData FakeApplication::Take()

@@ -8,8 +8,8 @@
 #include <memory>
 
 /**
- * Has the application's name and does with a request what a test says. It handles requests only inside `Take`, so that
- * nothing happens that the test did not ask for.
+ * Takes the application's place on the bus and does with a request what a test says. It handles requests only inside
+ * `Take`, so that nothing happens that the test did not ask for.
  */
 class FakeApplication
 {
@@ -25,8 +25,9 @@ public:
     void AskForTask(const std::string& task, const std::string& action);
     void OpenMenuPosition(int position);
 
+    /** Has the name only in between. */
+    void Arrive() { m_bus->requestName(VESKAR_DESK::Application::id); }
     void Leave() { m_bus->releaseName(VESKAR_DESK::Application::id); }
-    void Return() { m_bus->requestName(VESKAR_DESK::Application::id); }
 
 private:
     void m_Handle(const VESKAR_DESK::RequestData& request);

@@ -20,7 +20,11 @@ Process Mw(Words arguments)
 class MwTest : public TvTest
 {
 protected:
-    void SetUp() override {}
+    void SetUp() override
+    {
+        TvTest::SetUp();
+        m_application.Arrive();
+    }
 
     /** A message that the application has handled and not yet answered. */
     Process Shown(int uiId, const char* kind = "message")
@@ -98,7 +102,7 @@ TEST_F(MwTest, RequestThatTheNextProcessTakesOverIsStillAnswered)
 {
     Process mw = Shown(1);
     m_application.Leave();
-    m_application.Return();
+    m_application.Arrive();
     m_application.Answer(1, 255, 3);
     EXPECT_EQ(mw.Status(), 1);
 }
@@ -109,7 +113,7 @@ TEST_F(MwTest, AnswerOfTheNextProcessMayOvertakeTheReplyOfTheLeavingOne)
         [this]
         {
             m_application.Leave();
-            m_application.Return();
+            m_application.Arrive();
             m_application.Answer(1, 255, 3);
         });
     EXPECT_EQ(Shown(1).Status(), 1);
