@@ -61,7 +61,7 @@ extern "C"
     /**
      * Releases them. A key that is not held counts as released. Exclusive and topmost are two strengths of one grab:
      * asked to release one of them of a key that is held in the other, it fails and the key stays held. A registration
-     * stands beside.
+     * stands beside. The compositor hears of it with the next grab, or when the main loop goes on.
      */
     int KeyRouter_UnSet_KeyList(struct wl_surface* surface, const _KeyList* list);
 

@@ -1,6 +1,6 @@
 #include "RouterBinding.h"
 
-#include "RoundTrip.h"
+#include "Connection.h"
 #include "tizen-keyrouter-client-protocol.h"
 
 #include <key_router.h>
@@ -88,9 +88,12 @@ bool RouterBinding::ungrab(wl_surface* surface, const _KeyList& list)
     {
         allReleased = release({surface, list.keys[i].name, list.keys[i].mode}) && allReleased;
     }
-    // Whoever hears that they are free may ask for them: the compositor must know before we return.
-    const bool answered = m_held.size() == heldBefore || roundTrip(m_display, m_queue.get());
-    return allReleased && answered;
+    if (m_held.size() != heldBefore)
+    {
+        // Mostly they are taken again at once. Sent together, there is no moment in which nobody holds them.
+        flushSoon(m_display);
+    }
+    return allReleased && wl_display_get_error(m_display) == 0;
 }
 
 bool RouterBinding::release(const Holding& holding)

@@ -187,7 +187,10 @@ bool WaylandWindow::Grab(const char* key, int mode)
 
 bool WaylandWindow::Ungrab(const char* key, int mode)
 {
-    return m_router->ungrab(m_globals->surface, ListOf(key, mode));
+    const bool released = m_router->ungrab(m_globals->surface, ListOf(key, mode));
+    // An application's main loop would send it.
+    wl_display_roundtrip(m_globals->display);
+    return released;
 }
 
 void WaylandWindow::Unbind()

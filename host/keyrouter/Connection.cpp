@@ -1,4 +1,4 @@
-#include "RoundTrip.h"
+#include "Connection.h"
 
 #include <Ecore.h>
 #include <ecore_wayland.h>
@@ -10,13 +10,26 @@ namespace veskar
 namespace
 {
 
-/** The toolkit may have disconnected since the job was queued. */
-void dispatchWhatWasRead(void* display)
+/** The toolkit may have disconnected since a job was queued. */
+bool isStillConnected(const void* display)
 {
     Ecore_Wl2_Display* connected = ecore_wl2_connected_display_get(nullptr);
-    if (connected != nullptr && ecore_wl2_display_get(connected) == display)
+    return connected != nullptr && ecore_wl2_display_get(connected) == display;
+}
+
+void dispatchWhatWasRead(void* display)
+{
+    if (isStillConnected(display))
     {
         wl_display_dispatch_pending(static_cast<wl_display*>(display));
+    }
+}
+
+void flush(void* display)
+{
+    if (isStillConnected(display))
+    {
+        wl_display_flush(static_cast<wl_display*>(display));
     }
 }
 
@@ -31,6 +44,11 @@ bool finish(wl_display* display, int dispatched)
 bool roundTrip(wl_display* display, wl_event_queue* queue)
 {
     return finish(display, wl_display_roundtrip_queue(display, queue));
+}
+
+void flushSoon(wl_display* display)
+{
+    ecore_job_add(flush, display);
 }
 
 bool roundTrip(wl_display* display)

@@ -1,9 +1,8 @@
 /**
- * Waiting for the compositor beside the toolkit's own reading.
+ * The connection to the compositor, which the toolkit owns, reads and writes too.
  *
- * A round trip reads from the connection that the toolkit reads too. What it finds there for the toolkit lies in the
- * toolkit's queue, unseen until the connection next has data; so each round trip leaves a job in the main loop which
- * hands it over.
+ * A round trip reads from it. What it finds there for the toolkit lies in the toolkit's queue, unseen until the
+ * connection next has data; so each round trip leaves a job in the main loop which hands it over.
  */
 #pragma once
 
@@ -18,5 +17,8 @@ bool roundTrip(wl_display* display, wl_event_queue* queue);
 
 /** The same with the connection's default queue, which is the toolkit's. */
 bool roundTrip(wl_display* display);
+
+/** Sends what is still unsent when the main loop goes on. */
+void flushSoon(wl_display* display);
 
 } // namespace veskar
