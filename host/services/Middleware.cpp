@@ -41,7 +41,7 @@ sdbus::Error DeskError(const sdbus::Error& error)
     if (error.getName() == "org.freedesktop.DBus.Error.NoReply" ||
         error.getName() == "org.freedesktop.DBus.Error.Timeout")
     {
-        return sdbus::Error{Desk::gone, "the application went away with the request: " + error.getMessage()};
+        return sdbus::Error{Desk::gone, "the application did not take the request: " + error.getMessage()};
     }
     return sdbus::Error{Desk::refused, error.getMessage() + " (" + error.getName() + ")"};
 }

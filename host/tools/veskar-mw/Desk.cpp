@@ -13,7 +13,8 @@ namespace
 using namespace std::chrono_literals;
 
 const std::string s_timeout = "org.freedesktop.DBus.Error.Timeout";
-const std::string s_invalid = "org.freedesktop.DBus.Error.InvalidArgs";
+const std::string s_notUtf8 = "org.freedesktop.DBus.Error.InvalidArgs";
+const std::string s_tooBig = "org.freedesktop.DBus.Error.InconsistentMessage";
 
 RequestData OnTheBus(const Request& request)
 {
@@ -88,9 +89,10 @@ Failure FailureOf(const sdbus::Error& error)
     {
         return {ExitStatus::timedOut, "nothing came back within the time-out"};
     }
-    if (error.getName() == s_invalid)
+    if (error.getName() == s_notUtf8 || error.getName() == s_tooBig)
     {
-        return {ExitStatus::badUsage, "the bus carries no such text, is it UTF-8? " + error.getMessage()};
+        return {ExitStatus::badUsage,
+                "the bus carries UTF-8 texts, and less than 64 MiB in a list: " + error.getMessage()};
     }
     if (error.getName() == Desk::refused)
     {
