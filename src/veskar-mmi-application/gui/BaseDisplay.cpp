@@ -20,7 +20,6 @@ namespace
 {
 
 constexpr double BASE_SCALE = 2.0;
-constexpr unsigned char MAX_BUTTONS = 3;
 
 constexpr const char* LAYOUT_GROUP = "kavro_layout";
 constexpr const char* LAYOUT_CONTENT_PART = "kavro_layout.content";

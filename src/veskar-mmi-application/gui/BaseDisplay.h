@@ -54,6 +54,8 @@ public:
     static const char* s_TextColour();
 
 protected:
+    static constexpr unsigned char MAX_BUTTONS = 3;
+
     virtual bool t_Create();
     virtual bool t_Show();
     virtual bool t_Hide();
@@ -118,7 +120,7 @@ protected:
     std::string t_title; // markup, as the two other texts are
     std::string t_subtitle;
     std::vector<std::string> t_buttonLabels;
-    std::array<Evas_Object*, 3> t_buttons;
+    std::array<Evas_Object*, MAX_BUTTONS> t_buttons;
     std::string t_popupStyle;
     bool t_hasBottomText;
     std::string t_bottomText;

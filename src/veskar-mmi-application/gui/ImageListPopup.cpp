@@ -108,18 +108,7 @@ Evas_Object* ImageListPopup::m_CreateWindowContent(Evas_Object* parent, Evas_Obj
 
 Evas_Object* ImageListPopup::s_CreateMenuList(Evas_Object* parent)
 {
-    Evas_Object* list = AddMenuList(parent);
-    if (list == nullptr)
-    {
-        return nullptr;
-    }
-    const MainLoopSection section;
-    elm_genlist_select_mode_set(list, ELM_OBJECT_SELECT_MODE_DEFAULT);
-    elm_genlist_homogeneous_set(list, EINA_TRUE);
-    ApplyMenuListLook(list);
-    elm_genlist_multi_select_set(list, EINA_FALSE);
-    SwitchFocusHighlightOn();
-    return list;
+    return CreateEvenMenuList(parent, ELM_OBJECT_SELECT_MODE_DEFAULT, false);
 }
 
 Elm_Genlist_Item_Class* ImageListPopup::s_CreateListItemTemplate()
@@ -233,11 +222,12 @@ void ImageListPopup::t_OnKeyPressed(void* event)
     }
     if (!s_menuFocused)
     {
+        // The focus has left the list for the buttons below it: the Up that brings it back lands on the last row.
         m_currentIndex = static_cast<unsigned int>(m_firstRowHeader ? m_entries.size() - 1 : m_entries.size());
         LOG_ERROR("Menu not focused or there are no entries!");
         return;
     }
-    // The entries bound the index, the header among them; past the last image m_UpdateImage says so.
+    // The entries bound the index, a header among them; past the last image there is an error line and no new image.
     const std::string_view key = static_cast<Evas_Event_Key_Down*>(event)->key;
     if (key == KEY_DIRECTION_UP && m_currentIndex > 0)
     {

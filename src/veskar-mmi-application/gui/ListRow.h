@@ -18,8 +18,7 @@ constexpr const char* BODY_PART = "elm.swallow.icon";
 /** The row data of an entry, which is the cells with a tab between them. */
 std::string RowData(const std::string& format, const std::string& entry);
 
-/** What the voice guide says for an entry: the entry as it is, with only its text escaped, which the guide takes as
- * markup. */
+/** What the voice guide says for an entry: the entry with its `<` and `&` escaped, for the guide takes markup. */
 std::string SpokenRow(const std::string& entry);
 
 /** The number of columns whose width a format asks for: at least 1, at most 8. */

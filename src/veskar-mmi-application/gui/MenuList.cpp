@@ -16,6 +16,22 @@ Evas_Object* AddMenuList(Evas_Object* parent)
     return list;
 }
 
+Evas_Object* CreateEvenMenuList(Evas_Object* parent, Elm_Object_Select_Mode selectMode, bool multiSelect)
+{
+    Evas_Object* list = AddMenuList(parent);
+    if (list == nullptr)
+    {
+        return nullptr;
+    }
+    const MainLoopSection section;
+    elm_genlist_select_mode_set(list, selectMode);
+    elm_genlist_homogeneous_set(list, EINA_TRUE);
+    ApplyMenuListLook(list);
+    elm_genlist_multi_select_set(list, multiSelect);
+    SwitchFocusHighlightOn();
+    return list;
+}
+
 void ApplyMenuListLook(Evas_Object* list)
 {
     elm_genlist_mode_set(list, ELM_LIST_SCROLL);

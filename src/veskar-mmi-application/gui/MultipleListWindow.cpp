@@ -44,18 +44,7 @@ bool MultipleListWindow::t_Show()
 
 Evas_Object* MultipleListWindow::s_CreateMenuList(Evas_Object* parent)
 {
-    Evas_Object* list = AddMenuList(parent);
-    if (list == nullptr)
-    {
-        return nullptr;
-    }
-    const MainLoopSection section;
-    elm_genlist_select_mode_set(list, ELM_OBJECT_SELECT_MODE_ALWAYS);
-    elm_genlist_homogeneous_set(list, EINA_TRUE);
-    ApplyMenuListLook(list);
-    elm_genlist_multi_select_set(list, EINA_TRUE);
-    SwitchFocusHighlightOn();
-    return list;
+    return CreateEvenMenuList(parent, ELM_OBJECT_SELECT_MODE_ALWAYS, true);
 }
 
 Elm_Genlist_Item_Class* MultipleListWindow::s_CreateListItemTemplate()
