@@ -1,6 +1,7 @@
 #include "Routing.h"
 
 #include "DeskKeyboard.h"
+#include "Unfocused.h"
 
 namespace veskar
 {
@@ -17,22 +18,6 @@ const Key* keyOf(uint32_t code)
 void ignoreModifiers(weston_keyboard_grab*, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t) {}
 
 void ignoreCancel(weston_keyboard_grab*) {}
-
-/** The key comes up for a client that has lost the focus since: told without taking the focus from who has it now. */
-void sendUpWithoutFocus(weston_keyboard* keyboard, const timespec* time, const Key& key, weston_surface* surface)
-{
-    wl_client* client = wl_resource_get_client(surface->resource);
-    const uint32_t serial = wl_display_next_serial(keyboard->seat->compositor->wl_display);
-    const auto milliseconds = static_cast<uint32_t>(time->tv_sec * 1000 + time->tv_nsec / 1000000);
-    wl_resource* resource;
-    wl_resource_for_each(resource, &keyboard->resource_list)
-    {
-        if (wl_resource_get_client(resource) == client)
-        {
-            wl_keyboard_send_key(resource, serial, milliseconds, key.code, WL_KEYBOARD_KEY_STATE_RELEASED);
-        }
-    }
-}
 
 } // namespace
 
@@ -84,6 +69,12 @@ void Routing::keyDown(const timespec* time, const Key& key)
     {
         return;
     }
+    if (isOverlay(target))
+    {
+        // It was told of the focus when it appeared, and the screen below shows that it really has it.
+        sendUnfocused(m_seat.keyboard(), time, key, WL_KEYBOARD_KEY_STATE_PRESSED, target);
+        return;
+    }
     lendFocus(target);
     weston_keyboard_send_key(m_seat.keyboard(), time, key.code, WL_KEYBOARD_KEY_STATE_PRESSED);
 }
@@ -103,7 +94,7 @@ void Routing::keyUp(const timespec* time, const Key& key)
     }
     else if (target != nullptr && target->resource != nullptr)
     {
-        sendUpWithoutFocus(keyboard, time, key, target);
+        sendUnfocused(keyboard, time, key, WL_KEYBOARD_KEY_STATE_RELEASED, target);
     }
     m_pressed.erase(press);
     if (m_pressed.empty())

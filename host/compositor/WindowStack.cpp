@@ -1,10 +1,14 @@
 #include "WindowStack.h"
 
+#include <string_view>
+
 namespace veskar
 {
 
 namespace
 {
+
+constexpr std::string_view NUMBER_PAD = "org.tizen.function-osd";
 
 weston_layer* layerAt(weston_compositor* compositor, weston_layer_position position)
 {
@@ -19,12 +23,23 @@ weston_layer* layerAt(weston_compositor* compositor, weston_layer_position posit
     return nullptr;
 }
 
-bool isWindow(const weston_view* view)
+bool isScreen(const weston_view* view)
 {
-    return view->is_mapped && view->surface->resource != nullptr && weston_surface_is_desktop_surface(view->surface);
+    return view->is_mapped && view->surface->resource != nullptr && weston_surface_is_desktop_surface(view->surface) &&
+           !isOverlay(view->surface);
 }
 
 } // namespace
+
+bool isOverlay(weston_surface* surface)
+{
+    if (surface == nullptr || !weston_surface_is_desktop_surface(surface))
+    {
+        return false;
+    }
+    const char* id = weston_desktop_surface_get_app_id(weston_surface_get_desktop_surface(surface));
+    return id != nullptr && id == NUMBER_PAD;
+}
 
 WindowStack::WindowStack(weston_compositor* compositor) : m_compositor(compositor)
 {
@@ -44,7 +59,7 @@ weston_surface* WindowStack::topmost(const std::function<bool(weston_surface*)>&
         weston_view* view;
         wl_list_for_each(view, &layer->view_list.link, layer_link.link)
         {
-            if (isWindow(view) && accepts(view->surface))
+            if (isScreen(view) && accepts(view->surface))
             {
                 return view->surface;
             }

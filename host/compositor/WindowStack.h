@@ -8,6 +8,10 @@
 namespace veskar
 {
 
+/** A window over the screens rather than one of them (see Overlays.h); false for null. */
+bool isOverlay(weston_surface* surface);
+
+/** The screens: overlays are no part of it. */
 class WindowStack
 {
 public:

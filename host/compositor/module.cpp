@@ -7,6 +7,7 @@
 #include "Backdrop.h"
 #include "DeskKeyboard.h"
 #include "KeyRouter.h"
+#include "Overlays.h"
 #include "RemoteCommands.h"
 #include "RemoteSocketPath.h"
 #include "Routing.h"
@@ -27,7 +28,8 @@ class Tv
 public:
     Tv(weston_compositor* compositor, bool withKeyRouter)
         : m_compositor(compositor), m_seat(compositor), m_windows(compositor), m_routing(m_seat, m_grabs, m_windows),
-          m_screenshots(compositor), m_backdrop(compositor, [this] { openSocket(); }),
+          m_overlays(compositor, m_seat, m_windows), m_screenshots(compositor),
+          m_backdrop(compositor, [this] { openSocket(); }),
           m_end(compositor->destroy_signal, [this](void*) { delete this; })
     {
         if (withKeyRouter)
@@ -65,6 +67,7 @@ private:
     WindowStack m_windows;
     GrabTable m_grabs;
     Routing m_routing;
+    Overlays m_overlays;
     Screenshots m_screenshots;
     Backdrop m_backdrop;
     std::optional<RemoteSocket> m_socket;

@@ -1,0 +1,39 @@
+/**
+ * Windows that lie over a screen and serve it, as a number pad does.
+ *
+ * An overlay takes no keyboard focus: what it does not grab goes to the screen below. It is asked to close when there
+ * is no screen below it any more, however that one has ended.
+ */
+#pragma once
+
+#include "Seat.h"
+#include "SurfaceRef.h"
+#include "WindowStack.h"
+
+#include <optional>
+
+namespace veskar
+{
+
+class Overlays
+{
+public:
+    /** Everything given must outlive this object. */
+    Overlays(weston_compositor* compositor, const Seat& seat, const WindowStack& windows);
+
+    Overlays(const Overlays&) = delete;
+    Overlays& operator=(const Overlays&) = delete;
+
+private:
+    void onActivated(weston_surface* surface);
+    void stayOver(weston_surface* screen);
+
+    const Seat& m_seat;
+    const WindowStack& m_windows;
+    Listener m_activated;
+    SurfaceRef m_overlay;
+    std::optional<Listener> m_screenCommitted;
+    std::optional<Listener> m_screenDestroyed;
+};
+
+} // namespace veskar

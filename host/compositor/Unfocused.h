@@ -1,0 +1,16 @@
+/** The keyboards of a client while another one has the focus: it hears keys without taking the focus from that one. */
+#pragma once
+
+#include "KeyTable.h"
+#include "Weston.h"
+
+namespace veskar
+{
+
+/** The toolkit drops a key that comes to a window which was never told that it has the focus. */
+void tellOfFocus(weston_keyboard* keyboard, weston_surface* surface);
+
+void sendUnfocused(weston_keyboard* keyboard, const timespec* time, const Key& key, wl_keyboard_key_state state,
+                   weston_surface* surface);
+
+} // namespace veskar
