@@ -1,10 +1,9 @@
 #include "SettingsStore.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <cstdlib>
-#include <fstream>
-#include <sstream>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -64,22 +63,59 @@ bool IsWellFormedComponent(std::string_view component)
     return !component.empty() && component != "." && component != "..";
 }
 
+class FileDescriptor
+{
+public:
+    explicit FileDescriptor(int descriptor) : m_descriptor(descriptor) {}
+    FileDescriptor(const FileDescriptor&) = delete;
+    FileDescriptor& operator=(const FileDescriptor&) = delete;
+    ~FileDescriptor()
+    {
+        if (m_descriptor >= 0)
+        {
+            close(m_descriptor);
+        }
+    }
+    operator int() const { return m_descriptor; }
+
+private:
+    int m_descriptor;
+};
+
+/** Nothing for what is missing, or no plain file. */
+std::optional<std::string> ReadFile(const char* path)
+{
+    const FileDescriptor file(open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status;
+    if (file < 0 || fstat(file, &status) != 0 || !S_ISREG(status.st_mode))
+    {
+        return std::nullopt;
+    }
+    std::string content(static_cast<size_t>(status.st_size), '\0');
+    const ssize_t length = read(file, content.data(), content.size());
+    if (length < 0)
+    {
+        return std::nullopt;
+    }
+    content.resize(static_cast<size_t>(length));
+    return content;
+}
+
 /** A file of ours beside the one to be replaced; it goes away again unless it has taken the other's place. */
 class TemporaryFile
 {
 public:
-    explicit TemporaryFile(const fs::path& beside) : m_path(beside.string() + ".XXXXXX")
+    explicit TemporaryFile(const fs::path& beside)
+        : m_path(beside.string() + ".XXXXXX"), m_file(mkostemp(m_path.data(), O_CLOEXEC)),
+          m_error(m_file < 0 ? LastError() : std::error_code())
     {
-        m_descriptor = mkostemp(m_path.data(), O_CLOEXEC);
-        m_error = m_descriptor < 0 ? LastError() : std::error_code();
     }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile()
     {
-        if (m_descriptor >= 0)
+        if (m_file >= 0)
         {
-            close(m_descriptor);
             unlink(m_path.c_str());
         }
     }
@@ -88,9 +124,9 @@ public:
     {
         while (!m_error && !text.empty())
         {
-            const ssize_t count = write(m_descriptor, text.data(), text.size());
+            const ssize_t count = write(m_file, text.data(), text.size());
             m_error = count < 0 ? LastError() : std::error_code();
-            text.remove_prefix(std::max<ssize_t>(count, 0));
+            text.remove_prefix(static_cast<size_t>(std::max<ssize_t>(count, 0)));
         }
         return m_error;
     }
@@ -98,7 +134,7 @@ public:
     std::error_code MoveTo(const fs::path& target)
     {
         // mkostemp makes it for its owner alone; the TV's parts may run as several users.
-        if (!m_error && (fchmod(m_descriptor, 0644) != 0 || rename(m_path.c_str(), target.c_str()) != 0))
+        if (!m_error && (fchmod(m_file, 0644) != 0 || rename(m_path.c_str(), target.c_str()) != 0))
         {
             m_error = LastError();
         }
@@ -109,7 +145,7 @@ private:
     static std::error_code LastError() { return {errno, std::generic_category()}; }
 
     std::string m_path;
-    int m_descriptor;
+    FileDescriptor m_file;
     std::error_code m_error;
 };
 
@@ -154,23 +190,10 @@ std::optional<fs::path> SettingFile(std::string_view key)
 std::optional<std::string> ReadSetting(std::string_view key)
 {
     const auto path = SettingFile(key);
-    std::error_code error;
-    if (!path || !std::filesystem::is_regular_file(*path, error))
+    auto value = path ? ReadFile(path->c_str()) : std::nullopt;
+    if (value && !value->empty() && value->back() == '\n')
     {
-        return std::nullopt;
-    }
-    std::ifstream file(*path, std::ios::binary);
-    if (!file.is_open())
-    {
-        return std::nullopt;
-    }
-    // Unlike iterators, the stream swallows what the buffer throws when the disk fails.
-    std::ostringstream text;
-    text << file.rdbuf();
-    auto value = text.str();
-    if (!value.empty() && value.back() == '\n')
-    {
-        value.pop_back();
+        value->pop_back();
     }
     return value;
 }

@@ -184,9 +184,12 @@ TEST_F(Appfw, a_request_sent_in_terminate_arrives_though_its_target_starts_slowl
     SendRaw(Request("start", "launch at the end"));
     ExpectTold({"create", "request start", "resume"});
     EndApplication();
-    ExpectTold(
-        {"create", "request start", "resume", "terminate", "launch 0", "create", "request from another", "resume"});
+    Events expected = {"create", "request start",        "resume", "terminate", "launch 0",
+                       "create", "request from another", "resume"};
+    ExpectTold(expected);
     sdbus::createProxy(*m_bus, "org.tizen.slow", "/org/tizen/slow")->callMethod("Terminate").onInterface(INTERFACE);
+    expected.emplace_back("terminate");
+    ExpectTold(expected);
 }
 
 TEST_F(Appfw, without_a_bus_or_when_create_fails_it_ends_with_an_error)
