@@ -20,3 +20,11 @@ if(VESKAR_SANITIZE)
     add_compile_options(-fsanitize=${VESKAR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${VESKAR_SANITIZE})
 endif()
+
+# For what a program loads that is not built with the sanitizers: it has no place for their runtimes.
+function(veskar_without_sanitizers target)
+    if(VESKAR_SANITIZE)
+        target_compile_options(${target} PRIVATE -fno-sanitize=all)
+        target_link_options(${target} PRIVATE -fno-sanitize=all)
+    endif()
+endfunction()

@@ -60,7 +60,7 @@ std::string writePng(const Picture& picture, const std::string& path)
     {
         return "";
     }
-    const std::string error = path + ": " + std::strerror(errno);
+    std::string error = path + ": " + std::strerror(errno);
     std::remove(temporary.c_str());
     return error;
 }

@@ -78,7 +78,7 @@ std::string RemoteClient::readLine()
         }
         m_received.append(block, static_cast<size_t>(count));
     }
-    const std::string line = m_received.substr(0, end);
+    std::string line = m_received.substr(0, end);
     m_received.erase(0, end + 1);
     return line;
 }

@@ -88,7 +88,7 @@ void Seat::inject(const Key& key, wl_keyboard_key_state state)
         return;
     }
     keepKeymap();
-    timespec now;
+    timespec now{};
     weston_compositor_get_time(&now);
     notify_key(m_seat, &now, key.code, state, STATE_UPDATE_NONE);
 }

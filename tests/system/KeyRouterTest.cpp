@@ -5,7 +5,6 @@
 #include "RemoteSocketPath.h"
 #include "WaylandWindow.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <optional>
 
@@ -16,11 +15,9 @@
 class KeyRouter : public ::testing::Test
 {
 protected:
-    KeyRouter() { ecore_init(); }
-    ~KeyRouter() override { ecore_shutdown(); }
-
     void SetUp() override
     {
+        ecore_init();
         // The compositor may still have to notice that the clients of the test before have gone.
         ASSERT_TRUE(WaitUntil([this] { return m_remote.ask("grabs").empty(); }));
         m_lower.emplace().Show();
@@ -33,6 +30,7 @@ protected:
         {
             window->reset();
         }
+        ecore_shutdown();
     }
 
     void CloseUpper()
@@ -61,7 +59,7 @@ protected:
 
     std::string Shot()
     {
-        const std::string path = std::string(std::getenv("XDG_RUNTIME_DIR")) + "/stack.png";
+        const std::string path = veskar::remoteSocketPath() + ".png";
         m_remote.ask("shot " + path);
         std::ifstream file(path, std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(file), {});

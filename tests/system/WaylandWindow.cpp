@@ -9,6 +9,7 @@
 #include <utility>
 
 #include <sys/mman.h>
+#include <sys/socket.h>
 #include <unistd.h>
 #include <wayland-client.h>
 
@@ -21,22 +22,37 @@ constexpr uint32_t HALF_TRANSPARENT = 0x80404080;
 
 } // namespace
 
-/** The connection; all of its objects end with it. */
+/** Destroys a proxy, or disconnects. */
+template <auto Destroy>
+struct Destroyer
+{
+    template <typename T>
+    void operator()(T* object) const
+    {
+        Destroy(object);
+    }
+};
+
+template <typename T, auto Destroy>
+using Owned = std::unique_ptr<T, Destroyer<Destroy>>;
+
 struct WaylandGlobals
 {
-    wl_display* display = wl_display_connect(nullptr);
-    wl_registry* registry = nullptr;
-    wl_compositor* compositor = nullptr;
-    wl_shm* shm = nullptr;
-    wl_seat* seat = nullptr;
-    xdg_wm_base* shell = nullptr;
-    wl_surface* surface = nullptr;
+    Owned<wl_display, wl_display_disconnect> display{wl_display_connect(nullptr)};
+    Owned<wl_registry, wl_registry_destroy> registry;
+    Owned<wl_compositor, wl_compositor_destroy> compositor;
+    Owned<wl_shm, wl_shm_destroy> shm;
+    Owned<wl_seat, wl_seat_destroy> seat;
+    Owned<wl_keyboard, wl_keyboard_destroy> keyboard;
+    Owned<xdg_wm_base, xdg_wm_base_destroy> shell;
+    Owned<wl_surface, wl_surface_destroy> surface;
+    Owned<wl_buffer, wl_buffer_destroy> buffer;
+    Owned<xdg_surface, xdg_surface_destroy> shellSurface;
+    Owned<xdg_toplevel, xdg_toplevel_destroy> toplevel;
     uint32_t routerName = 0;
     bool configured = false;
     bool focused = false;
     std::vector<std::string> heard;
-
-    ~WaylandGlobals() { wl_display_disconnect(display); }
 };
 
 namespace
@@ -62,19 +78,19 @@ void OnGlobal(void* data, wl_registry* registry, uint32_t name, const char* inte
     };
     if (is(wl_compositor_interface.name))
     {
-        globals.compositor = Bind<wl_compositor>(registry, name, wl_compositor_interface);
+        globals.compositor.reset(Bind<wl_compositor>(registry, name, wl_compositor_interface));
     }
     else if (is(wl_shm_interface.name))
     {
-        globals.shm = Bind<wl_shm>(registry, name, wl_shm_interface);
+        globals.shm.reset(Bind<wl_shm>(registry, name, wl_shm_interface));
     }
     else if (is(wl_seat_interface.name))
     {
-        globals.seat = Bind<wl_seat>(registry, name, wl_seat_interface);
+        globals.seat.reset(Bind<wl_seat>(registry, name, wl_seat_interface));
     }
     else if (is(xdg_wm_base_interface.name))
     {
-        globals.shell = Bind<xdg_wm_base>(registry, name, xdg_wm_base_interface);
+        globals.shell.reset(Bind<xdg_wm_base>(registry, name, xdg_wm_base_interface));
     }
     else if (is(KEYROUTER_INTERFACE))
     {
@@ -102,7 +118,7 @@ void OnConfigure(void* data, xdg_surface* surface, uint32_t serial)
 
 wl_buffer* MakeBuffer(wl_shm* shm)
 {
-    const std::vector<uint32_t> pixels(WIDTH * HEIGHT, HALF_TRANSPARENT);
+    const std::vector<uint32_t> pixels(size_t{WIDTH} * HEIGHT, HALF_TRANSPARENT);
     const auto size = static_cast<int>(pixels.size() * sizeof(uint32_t));
     const int fd = memfd_create("window", MFD_CLOEXEC);
     if (fd < 0 || write(fd, pixels.data(), static_cast<size_t>(size)) != size)
@@ -135,9 +151,9 @@ WaylandWindow::WaylandWindow() : m_globals(std::make_unique<WaylandGlobals>())
     }
     static const wl_registry_listener registryListener = {OnGlobal, [](void*, wl_registry*, uint32_t) {
                                                           }};
-    globals.registry = wl_display_get_registry(globals.display);
-    wl_registry_add_listener(globals.registry, &registryListener, &globals);
-    wl_display_roundtrip(globals.display);
+    globals.registry.reset(wl_display_get_registry(globals.display.get()));
+    wl_registry_add_listener(globals.registry.get(), &registryListener, &globals);
+    wl_display_roundtrip(globals.display.get());
 
     static const wl_keyboard_listener keyboardListener = {
         OnKeymap,
@@ -146,22 +162,28 @@ WaylandWindow::WaylandWindow() : m_globals(std::make_unique<WaylandGlobals>())
         OnKey,
         [](void*, wl_keyboard*, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t) {},
         nullptr};
-    wl_keyboard_add_listener(wl_seat_get_keyboard(globals.seat), &keyboardListener, &globals);
-    globals.surface = wl_compositor_create_surface(globals.compositor);
-    m_router = std::make_unique<veskar::RouterBinding>(globals.display, globals.registry, globals.routerName);
+    globals.keyboard.reset(wl_seat_get_keyboard(globals.seat.get()));
+    wl_keyboard_add_listener(globals.keyboard.get(), &keyboardListener, &globals);
+    globals.surface.reset(wl_compositor_create_surface(globals.compositor.get()));
+    m_router =
+        std::make_unique<veskar::RouterBinding>(globals.display.get(), globals.registry.get(), globals.routerName);
 }
 
-WaylandWindow::~WaylandWindow() = default;
+WaylandWindow::~WaylandWindow()
+{
+    // First of all, so that nothing said from here on reaches the compositor: a death is not a farewell.
+    shutdown(wl_display_get_fd(m_globals->display.get()), SHUT_RDWR);
+}
 
 void WaylandWindow::BeginToShow()
 {
     WaylandGlobals& globals = *m_globals;
     static const xdg_surface_listener surfaceListener = {OnConfigure};
-    xdg_surface* shellSurface = xdg_wm_base_get_xdg_surface(globals.shell, globals.surface);
-    xdg_surface_add_listener(shellSurface, &surfaceListener, &globals);
-    xdg_surface_get_toplevel(shellSurface);
-    wl_surface_commit(globals.surface);
-    while (!globals.configured && wl_display_dispatch(globals.display) >= 0)
+    globals.shellSurface.reset(xdg_wm_base_get_xdg_surface(globals.shell.get(), globals.surface.get()));
+    xdg_surface_add_listener(globals.shellSurface.get(), &surfaceListener, &globals);
+    globals.toplevel.reset(xdg_surface_get_toplevel(globals.shellSurface.get()));
+    wl_surface_commit(globals.surface.get());
+    while (!globals.configured && wl_display_dispatch(globals.display.get()) >= 0)
     {
     }
 }
@@ -169,9 +191,10 @@ void WaylandWindow::BeginToShow()
 void WaylandWindow::Draw()
 {
     WaylandGlobals& globals = *m_globals;
-    wl_surface_attach(globals.surface, MakeBuffer(globals.shm), 0, 0);
-    wl_surface_commit(globals.surface);
-    wl_display_roundtrip(globals.display);
+    globals.buffer.reset(MakeBuffer(globals.shm.get()));
+    wl_surface_attach(globals.surface.get(), globals.buffer.get(), 0, 0);
+    wl_surface_commit(globals.surface.get());
+    wl_display_roundtrip(globals.display.get());
 }
 
 void WaylandWindow::Show()
@@ -182,14 +205,14 @@ void WaylandWindow::Show()
 
 bool WaylandWindow::Grab(const char* key, int mode)
 {
-    return m_router->grab(m_globals->surface, ListOf(key, mode));
+    return m_router->grab(m_globals->surface.get(), ListOf(key, mode));
 }
 
 bool WaylandWindow::Ungrab(const char* key, int mode)
 {
-    const bool released = m_router->ungrab(m_globals->surface, ListOf(key, mode));
+    const bool released = m_router->ungrab(m_globals->surface.get(), ListOf(key, mode));
     // An application's main loop would send it.
-    wl_display_roundtrip(m_globals->display);
+    wl_display_roundtrip(m_globals->display.get());
     return released;
 }
 
@@ -200,13 +223,13 @@ void WaylandWindow::Unbind()
 
 bool WaylandWindow::HasFocus()
 {
-    wl_display_roundtrip(m_globals->display);
+    wl_display_roundtrip(m_globals->display.get());
     return m_globals->focused;
 }
 
 std::vector<std::string> WaylandWindow::Heard()
 {
     // The compositor's answer comes behind everything that it has sent before.
-    wl_display_roundtrip(m_globals->display);
+    wl_display_roundtrip(m_globals->display.get());
     return std::exchange(m_globals->heard, {});
 }
