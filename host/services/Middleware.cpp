@@ -2,7 +2,6 @@
 
 #include "Print.h"
 
-#include <array>
 #include <sstream>
 #include <utility>
 
@@ -19,16 +18,9 @@ constexpr std::chrono::seconds s_restartTime{5};
 /** What the bus says of a name that nobody owns and nobody can be started for. */
 bool IsNoApplication(const std::string& errorName)
 {
-    constexpr std::array names{"org.freedesktop.DBus.Error.ServiceUnknown",
-                               "org.freedesktop.DBus.Error.NameHasNoOwner"};
-    for (const std::string name : names)
-    {
-        if (errorName == name)
-        {
-            return true;
-        }
-    }
-    return errorName.rfind("org.freedesktop.DBus.Error.Spawn.", 0) == 0;
+    return errorName == "org.freedesktop.DBus.Error.ServiceUnknown" ||
+           errorName == "org.freedesktop.DBus.Error.NameHasNoOwner" ||
+           errorName.rfind("org.freedesktop.DBus.Error.Spawn.", 0) == 0;
 }
 
 /** The desk's error for what came back instead of the application's reply. */
