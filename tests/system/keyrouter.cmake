@@ -1,6 +1,7 @@
 # The compositor's key routing, seen from clients that speak its protocols without a toolkit.
-pkg_get_variable(WAYLAND_PROTOCOLS wayland-protocols pkgdatadir)
-set(xdg_shell ${WAYLAND_PROTOCOLS}/stable/xdg-shell/xdg-shell.xml)
+pkg_check_modules(WAYLAND_PROTOCOLS REQUIRED wayland-protocols)
+pkg_get_variable(WAYLAND_PROTOCOLS_DIR wayland-protocols pkgdatadir)
+set(xdg_shell ${WAYLAND_PROTOCOLS_DIR}/stable/xdg-shell/xdg-shell.xml)
 foreach(output private-code:xdg-shell-protocol.c client-header:xdg-shell-client-protocol.h)
     string(REPLACE ":" ";" output ${output})
     list(POP_FRONT output kind file)
