@@ -109,16 +109,16 @@ using MultipleListWindowTest = ListScreenTest<VESKAR_APP::MultipleListWindow>;
 
 TEST_F(ListWindowTest, CellsAreAlignedByTheLettersOfTheirColumns)
 {
-    Show("LRC", false, {"a\tb\t<c>\td", "", "\t&\t"});
+    Show("RLC", false, {"a\tb\t<c>\td", "", "\t&\t"});
     EXPECT_THAT(LabelTexts(Row(0)),
-                ElementsAre(Cell("left", "a"), Cell("right", "b"), Cell("center", "&lt;c&gt;"), Cell("left", "d")));
-    EXPECT_THAT(LabelTexts(Row(1)), ElementsAre(Cell("left", "")));
-    EXPECT_THAT(LabelTexts(Row(2)), ElementsAre(Cell("left", ""), Cell("right", "&amp;"), Cell("center", "")));
+                ElementsAre(Cell("right", "a"), Cell("left", "b"), Cell("center", "&lt;c&gt;"), Cell("left", "d")));
+    EXPECT_THAT(LabelTexts(Row(1)), ElementsAre(Cell("right", "")));
+    EXPECT_THAT(LabelTexts(Row(2)), ElementsAre(Cell("right", ""), Cell("left", "&amp;"), Cell("center", "")));
     EXPECT_EQ(Row(0, "elm.text"), nullptr);
     EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "Not displaying elm.text in the menu currently."));
 
     tv.numbers = {{"db/menu/system/accessibility/focuszoom", 1}, {"db/menu/system/accessibility/highcontrast", 1}};
-    EXPECT_THAT(LabelTexts(Row(1)), ElementsAre(Cell("left", "", "16", "#7F7F7F")));
+    EXPECT_THAT(LabelTexts(Row(1)), ElementsAre(Cell("right", "", "16", "#7F7F7F")));
 }
 
 TEST_F(ListWindowTest, TheColumnsShareTheWidthBetweenOneAndEight)
@@ -197,13 +197,24 @@ TEST_F(ListWindowTest, TheListTakesTheFocusOnceItsRowsExist)
                                       "m_menuItems.size = 1"));
 }
 
+TEST_F(ListWindowTest, TheFirstKeysFindTheFirstRows)
+{
+    Show("", false, {"a", "b", "c"});
+    Focused(window);
+    for (const char* key : {"Return", "Down", "Return"})
+    {
+        Press(list->m_menuList, key);
+    }
+    EXPECT_THAT(answers, ElementsAre("item 1", "key", "key", "item 2", "key"));
+}
+
 TEST_F(MultipleListWindowTest, TheFirstButtonReportsTheMarkedRowsByTheirDigits)
 {
     Show("LR", false, Texts(13, "row"));
     EXPECT_EQ(
         Look(),
         "C_Scrollbar_White C_TextItem_WhiteSingleline01 text content multi homogeneous select 1 mode 1 scroll 21");
-    for (const std::size_t row : {11, 2})
+    for (const std::size_t row : {2, 11})
     {
         PressRow(row);
     }

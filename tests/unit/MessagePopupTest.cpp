@@ -95,8 +95,9 @@ TEST_F(MessagePopupTest, ATextPageFollowsTheAccessibilitySettings)
     EXPECT_FALSE(elm_object_focus_allow_get(Page()));
 
     tv.numbers = {{"db/menu/system/accessibility/focuszoom", 1}, {"db/menu/system/accessibility/highcontrast", 1}};
+    elm_config_scale_set(2.0);
     Show(text);
-    EXPECT_EQ(tv.pageStyle, style("20", "#7F7F7F"));
+    EXPECT_EQ(tv.pageStyle, style("39", "#7F7F7F"));
 }
 
 TEST_F(MessagePopupTest, UpAndDownTurnThePagesAndNothingElse)

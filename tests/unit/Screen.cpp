@@ -37,6 +37,7 @@ ScreenTest::ScreenTest() : window(elm_win_add(nullptr, "test", ELM_WIN_DIALOG_BA
 ScreenTest::~ScreenTest()
 {
     evas_object_del(window);
+    elm_config_scale_set(1.0); // some tests change it
 }
 
 void Settle()

@@ -79,7 +79,6 @@ struct ServiceProcessorTest : TvTest
                             {"ui_param_selectable", "1"},
                             {"ui_param_percent", "300"},
                             {"ui_param_pin_length", "260"}}));
-        EXPECT_THAT(tv.Log(DLOG_ERROR), IsEmpty());
     }
     void AskWithoutKeys(const char* uiType)
     {
@@ -145,6 +144,7 @@ TEST_F(ServiceProcessorTest, EachKindOfScreenReadsItsKeysInOrderAndMakesOneShowC
     EXPECT_CALL(screens, ShowPinManager(7, 254, "T", "", "X", 4, "B"));
     Ask("ui_type_pin_entry");
     EXPECT_EQ(Found(), "title:true subtitle:true text:true length:true bottom:true complete ");
+    EXPECT_THAT(tv.Log(DLOG_ERROR), IsEmpty());
 }
 
 TEST_F(ServiceProcessorTest, AMissingKeyLeavesItsDefaultAndAnErrorLine)
@@ -154,6 +154,10 @@ TEST_F(ServiceProcessorTest, AMissingKeyLeavesItsDefaultAndAnErrorLine)
     AskWithoutKeys("ui_type_message");
     EXPECT_EQ(Found(), "title:false subtitle:false bottom:false buttons:false text:false noclose:false complete ");
     EXPECT_EQ(tv.Log(DLOG_ERROR), Texts(6, "app_control_get_extra_data returned error -126"));
+    tv.failing = {"ui_param_title"}; // a key without a value is missing too
+    EXPECT_CALL(screens, ShowPinManager(7, 254, "", "", "X", 4, "B"));
+    Ask("ui_type_pin_entry");
+    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("app_control_get_extra_data returned error 0"));
 
     EXPECT_CALL(screens, ShowImage(7, 254, "", "", "", "", 0, 0, none, false));
     AskWithoutKeys("ui_type_image");
@@ -226,7 +230,7 @@ TEST_F(ServiceProcessorTest, ASignalTypeIsNeededAndASequenceDoesNothing)
     EXPECT_TRUE(Handle({{"signal_type_key", "SEQUENCE"}}));
     EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("Wrong value of signal type"));
 
-    tv.failing = {"app_control_get_extra_data"};
+    tv.failing = {"signal_type_key"};
     EXPECT_FALSE(Handle({{"signal_type_key", "sequence"}}));
     EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("app_control_get_extra_data returned error 0"));
     EXPECT_THAT(tv.deeds, IsEmpty());

@@ -158,7 +158,7 @@ int app_control_add_extra_data_array(app_control_h request, const char* key, con
 
 int app_control_get_extra_data(app_control_h request, const char* key, char** value)
 {
-    if (tv.Fails("app_control_get_extra_data"))
+    if (tv.Fails(key))
     {
         return APP_CONTROL_ERROR_NONE; // and no value
     }

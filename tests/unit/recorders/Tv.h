@@ -33,7 +33,7 @@ struct Tv
     std::map<std::string, std::string> texts;
     std::map<std::string, bool> features;
     std::set<std::string> runningApps;
-    std::set<std::string> failing;                     // names of functions that fail
+    std::set<std::string> failing;                     // names of functions that fail, and keys that have no value
     std::set<std::pair<std::string, int>> refusedKeys; // key and mode, held by somebody else
     int orientation = 0;
     bool hasController = true;
