@@ -11,9 +11,9 @@ namespace veskar
 {
 
 /** What a request may hold at most, so that a faulty sender cannot stop the screen: bytes, elements, bytes. */
-constexpr size_t LongestText = 256 * 1024;
+constexpr size_t LongestText = 256UL * 1024;
 constexpr size_t MostElements = 20'000;
-constexpr size_t LargestRequest = 8 * 1024 * 1024;
+constexpr size_t LargestRequest = 8UL * 1024 * 1024;
 
 constexpr const char* RefusedError = "org.tizen.Application1.Error.Refused";
 

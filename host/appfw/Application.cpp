@@ -18,6 +18,14 @@ namespace veskar
 namespace
 {
 
+bool StartToolkit(int argc, char** argv)
+{
+    // Its drawing thread is waited for 0.2 s at most before a window's memory goes: on a busy machine that is too
+    // short, and the thread then ends the process. Without the thread each picture is drawn on the main loop.
+    setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 0);
+    return elm_init(argc, argv) > 0;
+}
+
 void LoadTheme()
 {
     const char* chosen = getenv("VESKAR_THEME");
@@ -91,7 +99,7 @@ int Application::m_RunOwner(int argc, char** argv)
     {
         return m_busIsDead ? APP_ERROR_INVALID_CONTEXT : APP_ERROR_ALREADY_RUNNING;
     }
-    if (elm_init(argc, argv) <= 0)
+    if (!StartToolkit(argc, argv))
     {
         APPFW_ERROR("the toolkit cannot be initialised");
         return APP_ERROR_INVALID_CONTEXT;
@@ -106,9 +114,8 @@ int Application::m_RunOwner(int argc, char** argv)
     {
         m_RefuseCalls("the application could not be created");
     }
-    // The windows go while the next process, if there is one, is already starting.
-    elm_shutdown();
     TurnMainLoopUntil([this] { return m_outgoing->Empty(); });
+    elm_shutdown();
     return created ? APP_ERROR_NONE : APP_ERROR_INVALID_CONTEXT;
 }
 

@@ -1,5 +1,6 @@
 #include <dlog.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
@@ -9,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 #include <syslog.h>
 #include <systemd/sd-journal.h>
@@ -92,18 +94,6 @@ LogState& State()
     return state;
 }
 
-/** Formats into the string alone: a copy of a typed digit in some other buffer would outlive its masking. */
-std::string Format(const char* format, va_list arguments)
-{
-    va_list again;
-    va_copy(again, arguments);
-    const int length = vsnprintf(nullptr, 0, format, arguments);
-    std::string text(length > 0 ? length : 0, '\0');
-    vsnprintf(text.data(), text.size() + 1, format, again);
-    va_end(again);
-    return text;
-}
-
 /** A text with line breaks stays one line, so that it cannot be taken for two. */
 void EscapeLineBreaks(std::string& text)
 {
@@ -151,6 +141,19 @@ int WriteToStandardError(LogState& state, const std::string& line)
     return static_cast<int>(written);
 }
 
+int Print(LogState& state, int priority, const char* tag, std::string text)
+{
+    if (!state.showSecrets)
+    {
+        veskar::MaskTypedDigits(text);
+    }
+    EscapeLineBreaks(text);
+    const auto& level = LevelOf(priority);
+    const char* name = tag != nullptr ? tag : "";
+    return state.toJournal ? WriteToJournal(level, name, text)
+                           : WriteToStandardError(state, std::string(name) + " " + level.letter + " " + text + "\n");
+}
+
 } // namespace
 
 int __dlog_print(log_id_t, int priority, const char* tag, const char* format, ...)
@@ -163,19 +166,15 @@ int __dlog_print(log_id_t, int priority, const char* tag, const char* format, ..
     const int savedErrno = errno;
     va_list arguments;
     va_start(arguments, format);
-    auto text = Format(format, arguments);
+    const int length = vsnprintf(nullptr, 0, format, arguments);
     va_end(arguments);
-    if (!state.showSecrets)
-    {
-        veskar::MaskTypedDigits(text);
-    }
-    EscapeLineBreaks(text);
 
-    const auto& level = LevelOf(priority);
-    const char* name = tag != nullptr ? tag : "";
-    const int result = state.toJournal
-                           ? WriteToJournal(level, name, text)
-                           : WriteToStandardError(state, std::string(name) + " " + level.letter + " " + text + "\n");
+    // Straight into the string: a typed digit's copy in some other buffer would outlive its masking.
+    std::string text(static_cast<size_t>(std::max(length, 0)), '\0');
+    va_start(arguments, format);
+    vsnprintf(text.data(), text.size() + 1, format, arguments);
+    va_end(arguments);
+    const int result = Print(state, priority, tag, std::move(text));
     errno = savedErrno;
     return result;
 }

@@ -33,7 +33,7 @@ void MaskText(std::string& line, const DigitText& text)
         const auto end = std::min(line.find_first_not_of(Digits, at), line.size());
         if (line.compare(end, text.after.size(), text.after) == 0)
         {
-            std::fill(line.begin() + at, line.begin() + end, '*');
+            line.replace(at, end - at, end - at, '*');
         }
     }
 }

@@ -86,7 +86,7 @@ private:
 std::optional<std::string> ReadFile(const char* path)
 {
     const FileDescriptor file(open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat status;
+    struct stat status = {};
     if (file < 0 || fstat(file, &status) != 0 || !S_ISREG(status.st_mode))
     {
         return std::nullopt;

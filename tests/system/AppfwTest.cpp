@@ -22,6 +22,18 @@ Values Request(const std::string& name, const std::string& action = "")
     return {{"name", name}, {"do", action}};
 }
 
+std::string Variable(const char* name)
+{
+    const char* value = getenv(name);
+    return value == nullptr ? "" : value;
+}
+
+/** The application, not started by the bus, with this variable; it tells where the others do. */
+Events InLog(const std::string& variable)
+{
+    return {"env", variable, "sh", "-c", "exec \"$1\" 2>>\"$VESKAR_TV_LOG\"", "sh", PROBE};
+}
+
 class Appfw : public TvTest
 {
 protected:
@@ -53,7 +65,7 @@ private:
     static Events AllEvents()
     {
         const std::string beginning = "PROBE I ";
-        std::ifstream log(getenv("VESKAR_TV_LOG"));
+        std::ifstream log(Variable("VESKAR_TV_LOG"));
         Events events;
         for (std::string line; std::getline(log, line);)
         {
@@ -110,7 +122,7 @@ TEST_F(Appfw, a_signal_ends_it_through_terminate)
 
 TEST_F(Appfw, what_is_no_string_or_too_large_is_refused_by_its_key_and_never_seen)
 {
-    constexpr std::size_t longest = 256 * 1024;
+    constexpr std::size_t longest = 256UL * 1024;
     const std::string longText(longest, 'x');
     EXPECT_EQ(SendRaw({{"name", std::string("whole")}, {"a", longText}, {"b", Events(20000, "x")}}), "");
     EXPECT_EQ(SendRaw({{"all", Events(32, longText)}}), "");
@@ -175,7 +187,7 @@ TEST_F(Appfw, an_application_that_nobody_has_is_not_found)
 
 TEST_F(Appfw, a_request_sent_in_terminate_arrives_though_its_target_starts_slowly)
 {
-    std::ofstream(std::string(getenv("VESKAR_TV_DIR")) + "/services/org.tizen.slow.service")
+    std::ofstream(Variable("VESKAR_TV_DIR") + "/services/org.tizen.slow.service")
         << "[D-BUS Service]\nName=org.tizen.slow\n"
         << "Exec=/usr/bin/env VESKAR_APP_ID=org.tizen.slow sh -c 'sleep 0.2; exec " PROBE "'\n";
     sdbus::createProxy(*m_bus, "org.freedesktop.DBus", "/org/freedesktop/DBus")
@@ -194,7 +206,7 @@ TEST_F(Appfw, a_request_sent_in_terminate_arrives_though_its_target_starts_slowl
 
 TEST_F(Appfw, without_a_bus_or_when_create_fails_it_ends_with_an_error)
 {
-    EXPECT_EQ(Process({"env", "PROBE_CREATE_FAILS=1", "sh", "-c", "exec " PROBE " 2>>$VESKAR_TV_LOG"}).Status(), 1);
+    EXPECT_EQ(Process(InLog("PROBE_CREATE_FAILS=1")).Status(), 1);
     EXPECT_EQ(Process({"env", "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere", PROBE}).Status(), 1);
     ExpectTold({"create"});
 }
@@ -204,7 +216,7 @@ TEST_F(Appfw, when_the_bus_dies_it_ends_through_terminate)
     auto bus = std::make_unique<Process>(Events{"dbus-daemon", "--session", "--nofork", "--print-address"});
     WaitUntil([&] { return bus->Output().find('\n') != std::string::npos; });
     const std::string address = bus->Output().substr(0, bus->Output().find('\n'));
-    Process application({"env", "DBUS_SESSION_BUS_ADDRESS=" + address, "sh", "-c", "exec " PROBE " 2>>$VESKAR_TV_LOG"});
+    Process application(InLog("DBUS_SESSION_BUS_ADDRESS=" + address));
     ExpectTold({"create", "resume"});
     bus.reset();
     EXPECT_EQ(application.Status(), 0);
