@@ -62,8 +62,11 @@ protected:
     void ExpectKeysAnswer(const std::string& kind, const std::vector<std::string>& values,
                           const std::vector<std::string>& keys, const std::string& answer)
     {
-        Process request = SendKind(kind, values);
         SCOPED_TRACE(kind);
+        const Picture before = Shot();
+        Process request = SendKind(kind, values);
+        // A viewer presses on what he sees.
+        EXPECT_TRUE(WaitUntil([&] { return Shot() != before; })) << "nothing is shown";
         Press(keys);
         ExpectAnswer(request, answer);
     }
@@ -109,7 +112,8 @@ TEST_F(Screens, select_answers_the_toolkits_index_of_the_pressed_row)
 
 TEST_F(Screens, select_takes_the_first_key_also_when_it_replaces_another_list)
 {
-    Process first = SendKind("select", Rows(4));
+    Process first = SendKind("select", Rows(3));
+    StillShot();
     ExpectKeysAnswer("select", Rows(4), {"Down", "Return"}, Answer(7, 255, 0, 0, 2));
     EXPECT_EQ(first.Status(), 2);
 }

@@ -76,7 +76,7 @@ Evas_Object* ListDisplay<Screen>::m_CreateWindowContent(Evas_Object* parent, Eva
     EFL_GUARD(evas_object_show, m_menuList);
     if (!m_menuItems.empty())
     {
-        m_firstRowFocus.emplace(t_mainWindow, m_menuList);
+        m_rowFocus.emplace(t_mainWindow, m_menuList);
     }
     return m_menuList;
 }
@@ -144,6 +144,10 @@ void ListDisplay<Screen>::SetFocusToList(bool firstElement)
     {
         LOG_ERROR("m_menuItems.empty()");
         return;
+    }
+    if (t_displayedButtons != 0 && !t_buttonLabels.front().empty())
+    {
+        m_rowFocus->LeadDownTo(t_buttons[0]);
     }
     if (!m_FocusIfAllRealised())
     {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "BaseDisplay.h"
-#include "FirstRowFocus.h"
 #include "Log.h"
+#include "RowFocus.h"
 
 #include <memory>
 #include <optional>
@@ -68,7 +68,7 @@ private:
 
     Screen* m_Screen();
 
-    std::optional<FirstRowFocus> m_firstRowFocus;
+    std::optional<RowFocus> m_rowFocus;
 };
 
 } // namespace VESKAR_APP
