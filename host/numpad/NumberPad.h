@@ -1,0 +1,57 @@
+/** The number pad: while it is shown, keys move through it and type its digits into the screen below. */
+#pragma once
+
+#include "HeldKeys.h"
+#include "KeyGrid.h"
+#include "PadWindow.h"
+#include "ShownSetting.h"
+
+#include <Ecore.h>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+namespace veskar
+{
+
+/** Shown for as long as it lives. Main thread, while the toolkit is initialised. */
+class NumberPad
+{
+public:
+    /**
+     * `setting` must outlive the pad. `unwanted` is called, from one of the toolkit's callbacks, when the viewer or the
+     * compositor wants the pad to go.
+     */
+    NumberPad(bool withBackSpace, ShownSetting& setting, std::function<void()> unwanted);
+    ~NumberPad();
+
+    NumberPad(const NumberPad&) = delete;
+    NumberPad& operator=(const NumberPad&) = delete;
+
+private:
+    struct HandlerDelete
+    {
+        void operator()(Ecore_Event_Handler* handler) const { ecore_event_handler_del(handler); }
+    };
+    using Handler = std::unique_ptr<Ecore_Event_Handler, HandlerDelete>;
+
+    static Eina_Bool s_OnKeyDown(void* data, int type, void* event);
+    static Eina_Bool s_OnKeyUp(void* data, int type, void* event);
+
+    void m_Appeared();
+    void m_KeyDown(std::string_view key);
+    void m_Move(Direction direction);
+    void m_TypeCurrent();
+
+    ShownSetting& m_setting;
+    std::function<void()> m_unwanted;
+    KeyGrid m_keys;
+    PadWindow m_window;
+    std::optional<HeldKeys> m_heldKeys; // once the window is on the screen
+    Handler m_keyDown;
+    Handler m_keyUp;
+    bool m_returnIsDown = false;
+};
+
+} // namespace veskar

@@ -1,0 +1,60 @@
+#include "PadApplication.h"
+
+#include <Elementary.h>
+
+namespace veskar
+{
+
+namespace
+{
+
+// The pad goes by itself when the screen below goes, and then that screen's request to hide it is still on its way.
+constexpr double IDLE_SECONDS = 1;
+
+} // namespace
+
+void PadApplication::Create()
+{
+    m_EndSoon();
+}
+
+void PadApplication::Show(bool withBackSpace)
+{
+    m_idle.reset();
+    if (!m_pad)
+    {
+        // Not at once: what wants the pad to go may be one of its own callbacks.
+        m_pad.emplace(withBackSpace, m_setting, [this] { ecore_job_add(s_HideNow, this); });
+    }
+}
+
+void PadApplication::Hide()
+{
+    m_pad.reset();
+    m_EndSoon();
+}
+
+void PadApplication::Terminate()
+{
+    m_pad.reset();
+    m_idle.reset();
+}
+
+void PadApplication::m_EndSoon()
+{
+    m_idle.reset(ecore_timer_add(IDLE_SECONDS, s_OnIdle, this));
+}
+
+void PadApplication::s_HideNow(void* data)
+{
+    static_cast<PadApplication*>(data)->Hide();
+}
+
+Eina_Bool PadApplication::s_OnIdle(void* data)
+{
+    static_cast<void>(static_cast<PadApplication*>(data)->m_idle.release()); // the toolkit deletes it after this
+    elm_exit();
+    return ECORE_CALLBACK_CANCEL;
+}
+
+} // namespace veskar

@@ -1,0 +1,50 @@
+/** The process of the number pad: the pad while it is shown, and the end of the process when it is not. */
+#pragma once
+
+#include "NumberPad.h"
+#include "ShownSetting.h"
+
+#include <Ecore.h>
+#include <memory>
+#include <optional>
+
+namespace veskar
+{
+
+/** To be made before the toolkit is initialised; the rest on the main thread while it is. */
+class PadApplication
+{
+public:
+    PadApplication() = default;
+
+    PadApplication(const PadApplication&) = delete;
+    PadApplication& operator=(const PadApplication&) = delete;
+
+    /** The process ends soon, unless the pad is shown. */
+    void Create();
+
+    /** A pad that is shown already stays as it is. */
+    void Show(bool withBackSpace);
+
+    /** As Create, then. */
+    void Hide();
+
+    /** Gives back everything of the toolkit's. */
+    void Terminate();
+
+private:
+    struct TimerDelete
+    {
+        void operator()(Ecore_Timer* timer) const { ecore_timer_del(timer); }
+    };
+
+    void m_EndSoon();
+    static void s_HideNow(void* data);
+    static Eina_Bool s_OnIdle(void* data);
+
+    ShownSetting m_setting;
+    std::optional<NumberPad> m_pad;
+    std::unique_ptr<Ecore_Timer, TimerDelete> m_idle;
+};
+
+} // namespace veskar

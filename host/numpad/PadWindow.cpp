@@ -1,0 +1,117 @@
+#include "PadWindow.h"
+
+#include "AppId.h"
+#include "Log.h"
+
+#include <Ecore_Evas.h>
+#include <cstring>
+#include <ecore_wayland.h>
+
+namespace veskar
+{
+
+namespace
+{
+
+Evas_Object* CreateWindow()
+{
+    Evas_Object* window = elm_win_add(nullptr, APP_ID, ELM_WIN_BASIC);
+    // By its class the compositor knows it for a window that lies over the screens and takes no focus.
+    ecore_evas_name_class_set(ecore_evas_ecore_evas_get(evas_object_evas_get(window)), APP_ID, APP_ID);
+    elm_win_alpha_set(window, EINA_TRUE);
+    return window;
+}
+
+void FillParent(Evas_Object* object)
+{
+    evas_object_size_hint_weight_set(object, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
+    evas_object_size_hint_align_set(object, EVAS_HINT_FILL, EVAS_HINT_FILL);
+}
+
+/** Digits keep their order where everything else is mirrored. */
+Evas_Object* AddTable(Evas_Object* parent)
+{
+    Evas_Object* table = elm_table_add(parent);
+    elm_object_mirrored_automatic_set(table, EINA_FALSE);
+    elm_object_mirrored_set(table, EINA_FALSE);
+    return table;
+}
+
+} // namespace
+
+PadWindow::PadWindow(const KeyGrid& keys, std::function<void()> appeared, std::function<void()> closed)
+    : m_appeared(std::move(appeared)), m_closed(std::move(closed)), m_window(CreateWindow())
+{
+    m_AddPanel(keys);
+    SetCurrent(keys.Current());
+    evas_object_smart_callback_add(Window(), "delete,request", s_OnClose, this);
+    evas_event_callback_add(evas_object_evas_get(Window()), EVAS_CALLBACK_RENDER_POST, s_OnDrawn, this);
+    evas_object_show(Window());
+}
+
+PadWindow::~PadWindow()
+{
+    // The toolkit may draw once more before the window is really gone.
+    evas_event_callback_del_full(evas_object_evas_get(Window()), EVAS_CALLBACK_RENDER_POST, s_OnDrawn, this);
+}
+
+void PadWindow::m_AddPanel(const KeyGrid& keys)
+{
+    Evas_Object* screen = elm_layout_add(Window());
+    if (!elm_layout_theme_set(screen, "numpad", "base", "default"))
+    {
+        NUMPAD_ERROR("the theme has no number pad");
+    }
+    FillParent(screen);
+    elm_win_resize_object_add(Window(), screen);
+    evas_object_show(screen);
+
+    Evas_Object* table = AddTable(screen);
+    for (const KeyGrid::Place& place : keys.Places())
+    {
+        m_keys.push_back(m_AddKey(place.key));
+        elm_table_pack(table, m_keys.back(), place.column, place.row, 1, 1);
+    }
+    elm_object_part_content_set(screen, "elm.swallow.content", table);
+}
+
+Evas_Object* PadWindow::m_AddKey(const char* key)
+{
+    const bool isDigit = std::strlen(key) == 1;
+    Evas_Object* object = elm_layout_add(Window());
+    elm_layout_theme_set(object, "numpad", "key", isDigit ? "default" : key);
+    if (isDigit)
+    {
+        elm_object_part_text_set(object, "elm.text", key);
+    }
+    FillParent(object);
+    evas_object_show(object);
+    return object;
+}
+
+void PadWindow::SetCurrent(std::size_t key)
+{
+    elm_layout_signal_emit(m_keys[m_current], "veskar,key,waiting", "veskar");
+    elm_layout_signal_emit(m_keys[key], "veskar,key,current", "veskar");
+    m_current = key;
+}
+
+void PadWindow::s_OnDrawn(void* data, Evas* canvas, void*)
+{
+    auto* self = static_cast<PadWindow*>(data);
+    evas_event_callback_del_full(canvas, EVAS_CALLBACK_RENDER_POST, s_OnDrawn, self);
+    ecore_wl2_sync(); // what is drawn has been sent; now the compositor has it, and may not have wanted it
+    if (!self->m_isClosed)
+    {
+        self->m_appeared();
+    }
+}
+
+void PadWindow::s_OnClose(void* data, Evas_Object*, void*)
+{
+    auto* self = static_cast<PadWindow*>(data);
+    self->m_isClosed = true;
+    self->m_closed();
+}
+
+} // namespace veskar

@@ -1,0 +1,53 @@
+/** The pad on the screen: a transparent window of the screen's size, and in it the panel with the keys. */
+#pragma once
+
+#include "KeyGrid.h"
+
+#include <Elementary.h>
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace veskar
+{
+
+/** Main thread, while the toolkit is initialised. */
+class PadWindow
+{
+public:
+    /**
+     * Shows the keys. `appeared` is called once, when the window is on the screen; `closed` when the compositor wants
+     * it to go. Both from the main loop.
+     */
+    PadWindow(const KeyGrid& keys, std::function<void()> appeared, std::function<void()> closed);
+    ~PadWindow();
+
+    PadWindow(const PadWindow&) = delete;
+    PadWindow& operator=(const PadWindow&) = delete;
+
+    Evas_Object* Window() const { return m_window.get(); }
+
+    /** The focus goes to the key with this index in the grid's places. */
+    void SetCurrent(std::size_t key);
+
+private:
+    static void s_OnDrawn(void* data, Evas* canvas, void* event);
+    static void s_OnClose(void* data, Evas_Object* window, void* event);
+
+    void m_AddPanel(const KeyGrid& keys);
+    Evas_Object* m_AddKey(const char* key);
+
+    struct ObjectDelete
+    {
+        void operator()(Evas_Object* object) const { evas_object_del(object); }
+    };
+
+    std::function<void()> m_appeared;
+    std::function<void()> m_closed;
+    std::unique_ptr<Evas_Object, ObjectDelete> m_window;
+    std::vector<Evas_Object*> m_keys; // the window's children, in the order of the grid's places
+    std::size_t m_current = 0;
+    bool m_isClosed = false;
+};
+
+} // namespace veskar

@@ -1,0 +1,117 @@
+#include "ShownSetting.h"
+
+#include "Log.h"
+#include "SettingsStore.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+
+#include <sys/prctl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace veskar
+{
+
+namespace
+{
+
+constexpr const char* KEY = "memory/function-osd/number_pad_show";
+
+void Write(bool shown)
+{
+    if (const auto error = WriteSetting(KEY, shown ? "1" : "0"))
+    {
+        NUMPAD_ERROR("%s cannot be set: %s", KEY, error.message().c_str());
+    }
+}
+
+/** Reads what the pad reports until the pad is no more. */
+void Guard(int reports)
+{
+    prctl(PR_SET_NAME, "numpad-guard");
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+    {
+        std::signal(signal, SIG_IGN); // they come to both processes, and this one has to be the last
+    }
+    bool shown = false;
+    ssize_t count = 0;
+    do
+    {
+        count = read(reports, &shown, sizeof shown);
+    } while (count > 0 || (count < 0 && errno == EINTR));
+    if (shown)
+    {
+        Write(false);
+    }
+}
+
+/** The end to report at; -1 where there is no guard. */
+int StartGuard()
+{
+    int ends[2];
+    if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0)
+    {
+        return -1;
+    }
+    const pid_t pid = fork();
+    if (pid == 0)
+    {
+        close(ends[1]);
+        Guard(ends[0]);
+        _exit(0);
+    }
+    close(ends[0]);
+    if (pid < 0)
+    {
+        close(ends[1]);
+        return -1;
+    }
+    return ends[1];
+}
+
+} // namespace
+
+ShownSetting::ShownSetting() : m_guard(StartGuard())
+{
+    if (m_guard < 0)
+    {
+        NUMPAD_WARN("no process to guard %s: %s", KEY, std::strerror(errno));
+    }
+}
+
+ShownSetting::~ShownSetting()
+{
+    Set(false);
+    close(m_guard);
+}
+
+void ShownSetting::Set(bool shown)
+{
+    if (shown == m_shown)
+    {
+        return;
+    }
+    m_shown = shown;
+    // The guard is told first of what it may have to take back, and last of what it need not any more.
+    if (shown)
+    {
+        m_TellGuard();
+    }
+    Write(shown);
+    if (!shown)
+    {
+        m_TellGuard();
+    }
+}
+
+void ShownSetting::m_TellGuard() const
+{
+    if (send(m_guard, &m_shown, sizeof m_shown, MSG_NOSIGNAL) < 0)
+    {
+        NUMPAD_WARN("%s is not guarded: %s", KEY, std::strerror(errno));
+    }
+}
+
+} // namespace veskar
