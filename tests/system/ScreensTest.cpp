@@ -2,7 +2,9 @@
 
 #include "Tv.h"
 
+#include <csignal>
 #include <fstream>
+#include <sstream>
 
 namespace
 {
@@ -43,6 +45,26 @@ long ResidentMemory(unsigned pid)
     long pages = 0;
     std::ifstream("/proc/" + std::to_string(pid) + "/statm") >> pages >> pages;
     return pages * 4096 / (1024 * 1024);
+}
+
+/** Waits until the setting that tells whether the number pad is shown has this value. */
+bool NumberPadIs(const std::string& value)
+{
+    const std::vector<std::string> get{"veskar-setting", "get", "memory/function-osd/number_pad_show"};
+    return WaitUntil([&] { return RunCommand(get) == value + "\n"; });
+}
+
+/** The lines of the keys that the number pad holds. */
+std::string NumberPadGrabs()
+{
+    std::istringstream lines(RunCommand({"veskar-remote", "grabs"}));
+    std::string line;
+    std::string grabs;
+    while (std::getline(lines, line))
+    {
+        grabs += line.find("/veskar-numpad") == std::string::npos ? "" : line + "\n";
+    }
+    return grabs;
 }
 
 } // namespace
@@ -168,18 +190,46 @@ TEST_F(Screens, pin_takes_the_digits_of_the_number_pad)
     Process request = SendKind("pin", {"--title", "PIN"});
     const Picture without = StillShot();
     Press({"More"});
-    ASSERT_TRUE(WaitUntil(
-        [] {
-            return RunCommand({"veskar-setting", "get", "memory/function-osd/number_pad_show"}) == "1\n";
-        }));
+    ASSERT_TRUE(NumberPadIs("1"));
     ChangedShot(without);
-    // The pad begins on its 1; the others lie to the right.
-    Press({"Return", "Right", "Return", "Right", "Return", "Return"});
-    ExpectAnswer(request, Answer(7, 255, 0, 0, 0, "1233"));
-    EXPECT_TRUE(WaitUntil(
-        [] {
-            return RunCommand({"veskar-setting", "get", "memory/function-osd/number_pad_show"}) == "0\n";
-        }));
+    // From the 1 to the 2, by the 0 to the key that takes the 2 back, and up to the 9; a 7 comes from the remote
+    // itself.
+    Press({"Return", "Right", "Return", "Down", "Down", "Down", "Right", "Return", "Up", "Return", "7", "Return"});
+    ExpectAnswer(request, Answer(7, 255, 0, 0, 0, "1979"));
+    EXPECT_TRUE(NumberPadIs("0"));
+    EXPECT_TRUE(WaitUntil([] { return NumberPadGrabs() == ""; }));
+}
+
+TEST_F(Screens, pin_stays_when_the_number_pad_goes_and_does_without_where_there_is_none)
+{
+    constexpr const char* FEATURE = "com.brelmon/featureconf/bt_profile_bt_smart_control";
+    Process request = SendKind("pin", {"--title", "PIN"});
+    const Picture without = StillShot();
+    Press({"More"});
+    ASSERT_TRUE(NumberPadIs("1"));
+    Press({"Back"});
+    EXPECT_TRUE(NumberPadIs("0"));
+    EXPECT_TRUE(WaitUntil([&] { return Shot() == without; })) << "the pad is still there";
+
+    Press({"More"});
+    ASSERT_TRUE(NumberPadIs("1"));
+    const std::string holder = NumberPadGrabs();
+    kill(std::stoi(holder.substr(holder.rfind(' ') + 1)), SIGKILL);
+    EXPECT_TRUE(NumberPadIs("0")) << "nobody noticed that the pad was killed";
+
+    RunCommand({"veskar-setting", "set", FEATURE, "0"});
+    Press({"More"});
+    EXPECT_TRUE(WaitUntil([this] { return CountInLog("Numpad not supported") == 1; }));
+    RunCommand({"veskar-setting", "set", FEATURE, "1"});
+    EXPECT_EQ(StillShot(), without);
+    EXPECT_EQ(NumberPadGrabs(), "");
+    EXPECT_FALSE(request.HasEnded());
+
+    Press({"More"});
+    ASSERT_TRUE(NumberPadIs("1"));
+    Press({"Exit"});
+    ExpectAnswer(request, Answer(7, 255, 2, 0, 0));
+    EXPECT_TRUE(NumberPadIs("0"));
 }
 
 TEST_F(Screens, progress_updates_in_place_and_answers_its_button_alone)
