@@ -16,8 +16,9 @@ int main(int argc, char** argv)
     setenv("ELM_DISPLAY", "buffer", 1);
     setenv("ELM_ENGINE", "buffer", 1);
     setenv("ELM_SCALE", "1.0", 1);
-    setenv("EINA_LOG_LEVEL", "0", 1); // the toolkit misses a system bus, at length
-    efreet_cache_disable();           // its daemon would outlive the test and hold its output
+    setenv("EINA_LOG_LEVEL", "0", 1);               // the toolkit misses a system bus, at length
+    setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 1); // its drawing thread ends the process of a busy machine
+    efreet_cache_disable();                         // its daemon would outlive the test and hold its output
     testing::InitGoogleMock(&argc, argv);
     elm_init(argc, argv);
     return RUN_ALL_TESTS();
