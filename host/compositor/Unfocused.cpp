@@ -25,7 +25,7 @@ void toEachKeyboardOf(weston_surface* surface, weston_keyboard* keyboard, Send s
 
 void tellOfFocus(weston_keyboard* keyboard, weston_surface* surface)
 {
-    wl_array noKeys;
+    wl_array noKeys{};
     wl_array_init(&noKeys);
     toEachKeyboardOf(surface, keyboard,
                      [&](wl_resource* resource, uint32_t serial)
