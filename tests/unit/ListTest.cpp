@@ -43,6 +43,8 @@ struct ListScreenTest : ScreenTest
         ASSERT_TRUE(list->Show());
         list->SetFocusToList(true);
     }
+    /** The header row, which stands under the sub-title. */
+    Evas_Object* Header() { return elm_object_parent_widget_get(Widgets(list->t_popup, "elm_label").at(1)); }
     std::vector<Elm_Object_Item*> Items()
     {
         std::vector<Elm_Object_Item*> items;
@@ -97,11 +99,12 @@ std::string Cell(const char* alignment, const std::string& text, const char* siz
            '>' + text + "</align></font></color>";
 }
 
-int MinimumWidth(Evas_Object* object)
+std::string MinimumSize(Evas_Object* object)
 {
     int width = 0;
-    evas_object_size_hint_min_get(object, &width, nullptr);
-    return width;
+    int height = 0;
+    evas_object_size_hint_min_get(object, &width, &height);
+    return std::to_string(width) + 'x' + std::to_string(height);
 }
 
 using ListWindowTest = ListScreenTest<VESKAR_APP::ListWindow>;
@@ -135,7 +138,7 @@ TEST_F(ListWindowTest, TheColumnsShareTheWidthBetweenOneAndEight)
         EXPECT_EQ(Widgets(row, "elm_label").size(), 10U);
         for (Evas_Object* cell : Widgets(row, "elm_label"))
         {
-            EXPECT_EQ(MinimumWidth(cell), expected.width);
+            EXPECT_EQ(MinimumSize(cell), std::to_string(expected.width) + "x18");
             EXPECT_EQ(elm_label_wrap_width_get(cell), expected.width);
         }
     }
@@ -148,9 +151,10 @@ TEST_F(ListWindowTest, AHeaderStandsAboveTheRowsAndIsNotOneOfThem)
     Show("RL", true, {"h1\th2", "a\tb"});
     EXPECT_EQ(Items().size(), 1U);
     EXPECT_THAT(LabelTexts(Row(0)), ElementsAre(Cell("right", "a"), Cell("left", "b")));
-    const Texts labels = LabelTexts(list->t_popup);
-    EXPECT_THAT(labels, Contains("<color=#FFFFFF><font=Sans:style=Regular font_size=13><b><align=right>h1</align></b>"
-                                 "</font></color>"));
+    EXPECT_EQ(MinimumSize(Header()), "609x15");
+    EXPECT_THAT(LabelTexts(Header()), ElementsAre("<color=#FFFFFF><font=Sans:style=Regular font_size=13><b>"
+                                                  "<align=right>h1</align></b></font></color>",
+                                                  testing::HasSubstr("<b><align=left>h2</align></b>")));
     EXPECT_THAT(tv.Did("say"), ElementsAre("say T, S, h1\th2, a\tb, , B, "));
     EXPECT_THAT(tv.Log(DLOG_INFO), testing::IsSupersetOf({"Menu title = T", "Menu subTitle = S", "Menu bottom = B"}));
     EXPECT_THAT(tv.Log(DLOG_DEBUG),
@@ -298,7 +302,7 @@ TEST_F(ImageListPopupTest, ThePictureFollowsUpAndDownWithinTheRows)
     Show("", false, {"a", "b"}, true, Texts{first, second}, 400, 300);
     EXPECT_EQ(Look(), "C_Scrollbar_White C_TextItem_WhiteSingleline01 text homogeneous select 0 mode 1 scroll 21");
     EXPECT_EQ(Picture(), first);
-    EXPECT_EQ(MinimumWidth(Image()), 200);
+    EXPECT_EQ(MinimumSize(Image()), "200x150");
     EXPECT_THAT(After({"Up", "Down", "Down", "Return", "Up"}), ElementsAre(first, second, second, second, first));
     EXPECT_TRUE(tv.Logged(DLOG_INFO, "KEY_UP/DOWN pressed. Current index update to 1"));
     EXPECT_EQ(RowText(1), "b");
@@ -311,7 +315,8 @@ TEST_F(ImageListPopupTest, ThePictureFollowsUpAndDownWithinTheRows)
 TEST_F(ImageListPopupTest, AnIndexPastThePicturesIsAnErrorLine)
 {
     Show("", true, {"head", "a", "b"}, false, Texts{first, second}, 4, 4);
-    EXPECT_THAT(LabelTexts(list->t_popup), Contains(testing::HasSubstr("<b><align=left>head")));
+    EXPECT_THAT(LabelTexts(Header()), ElementsAre(testing::HasSubstr("<b><align=left>head</align></b>")));
+    EXPECT_EQ(MinimumSize(Header()), "640x15");
     EXPECT_THAT(After({"Down", "Down"}), ElementsAre(second, second)); // the header counts among the entries
     EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Wrong index value!"));
     PressRow(0);
@@ -330,7 +335,7 @@ TEST_F(ImageListPopupTest, AWidePictureIsBroughtDownForAllThatFollow)
 {
     Show("", false, {"a", "b"}, true, Texts{first, second}, 1280, 721);
     EXPECT_TRUE(tv.Logged(DLOG_INFO, "Image size greater than allowed. Resizing to 640 x 360"));
-    EXPECT_EQ(MinimumWidth(Image()), 320);
+    EXPECT_EQ(MinimumSize(Image()), "320x180");
     tv.Forget();
     EXPECT_THAT(After({"Down"}), ElementsAre(second));
     EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "Loading a new image file: " + second + " width:640 height:360"));
