@@ -75,7 +75,7 @@ struct TimeOutTest : Frame
         isPrivileged = false;
     }
 
-    /** Runs the loop for a time; whether it ended before. An end that no clock had reached is a failure. */
+    /** Runs the loop for a time at most; whether a clock ended it. An end that no clock had reached is a failure. */
     bool EndsWithin(std::chrono::duration<double> time)
     {
         tv.Forget();
@@ -83,17 +83,22 @@ struct TimeOutTest : Frame
         const auto now = Clock::now();
         const bool idle = tv.Logged(DLOG_INFO, "Idle timeout, exit");
         const bool visible = tv.Logged(DLOG_INFO, "Visible timeout, exit");
-        EXPECT_EQ(ended, idle || visible);
+        EXPECT_TRUE(!ended || idle || visible);
         EXPECT_TRUE(!idle || (idleSince && now - *idleSince >= IDLE));
         EXPECT_TRUE(!visible || (visibleSince && now - *visibleSince >= VISIBLE));
-        return ended;
+        return idle || visible; // the time may have run out in the same turn of the loop
+    }
+    bool Ends()
+    {
+        const auto start = Clock::now();
+        return EndsWithin(10s) && Clock::now() - start < 9s;
     }
 };
 
 TEST_F(TimeOutTest, EachClockEndsTheLoopAndTheScreenIsAnsweredByTerminate)
 {
     Request(false);
-    EXPECT_TRUE(EndsWithin(5s));
+    EXPECT_TRUE(Ends());
     EXPECT_THAT(tv.Log(DLOG_INFO), testing::Contains("VisibleTimeout: m_uiId:7, m_sourceId:255"));
     EXPECT_THAT(tv.Did("answer"), testing::IsEmpty());
     End();
@@ -102,7 +107,7 @@ TEST_F(TimeOutTest, EachClockEndsTheLoopAndTheScreenIsAnsweredByTerminate)
     Request(true);
     ComeBack();
     LeaveScreen();
-    EXPECT_TRUE(EndsWithin(5s));
+    EXPECT_TRUE(Ends());
     EXPECT_THAT(tv.Log(DLOG_INFO), testing::Contains("IdleTimeout: m_uiId:0, m_sourceId:100"));
 }
 
@@ -118,7 +123,7 @@ TEST_F(TimeOutTest, ACancelOrARestartThatOvertakesAnExpiryWins)
     Request(false);
     std::this_thread::sleep_for(10 * VISIBLE);
     Key();
-    EXPECT_TRUE(EndsWithin(VISIBLE / 4) || EndsWithin(5s)); // not before the new time has run, and then it does
+    EXPECT_TRUE(EndsWithin(VISIBLE / 4) || Ends()); // not before the new time has run, and then it does
 }
 
 TEST_F(TimeOutTest, ThousandsOfExpiriesMeetRequestsKeysPausesAndTerminate)
@@ -167,7 +172,7 @@ TEST_F(TimeOutTest, ThousandsOfExpiriesMeetRequestsKeysPausesAndTerminate)
     }
     EXPECT_GT(ends, STEPS / 20);
     Request(false); // and the clocks still run
-    EXPECT_TRUE(EndsWithin(5s));
+    EXPECT_TRUE(Ends());
 }
 
 } // namespace
