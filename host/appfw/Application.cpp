@@ -75,6 +75,7 @@ int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& c
     }
     eldbus_connection_event_callback_add(m_connection.get(), ELDBUS_CONNECTION_EVENT_DISCONNECTED, s_OnDisconnected,
                                          this);
+    m_names = std::make_unique<BusNames>(m_connection.get());
     m_outgoing = std::make_unique<OutgoingCalls>();
     m_queue = std::make_unique<LifecycleQueue>([this](LifecycleEvent& event) { m_Deliver(event); });
     // Before the name: a process that the bus has started gets its first request ahead of the answer about the name.
@@ -86,6 +87,7 @@ int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& c
     m_object.reset();
     m_queue.reset();
     m_outgoing.reset();
+    m_names.reset();
     eldbus_connection_event_callback_del(m_connection.get(), ELDBUS_CONNECTION_EVENT_DISCONNECTED, s_OnDisconnected,
                                          this);
     m_connection.reset();

@@ -9,6 +9,7 @@
 
 #include "ApplicationObject.h"
 #include "Bus.h"
+#include "BusNames.h"
 #include "LifecycleQueue.h"
 #include "OutgoingCalls.h"
 
@@ -43,6 +44,10 @@ public:
     /** Sends a call without waiting; the process does not end before the other side has it. False: no bus. */
     bool Send(BusMessage call, OutgoingCalls::Done done);
 
+    /** Both answer from what the bus has told; false without a bus. */
+    bool IsRunning(const std::string& appId) const { return m_names && m_names->HasOwner(appId); }
+    bool CanReach(const std::string& appId) const { return m_names && m_names->IsReachable(appId); }
+
 private:
     Application();
     ~Application() = default;
@@ -75,6 +80,7 @@ private:
 
     // There while Run runs, in the order in which they need each other.
     BusConnection m_connection;
+    std::unique_ptr<BusNames> m_names;
     std::unique_ptr<OutgoingCalls> m_outgoing;
     std::unique_ptr<LifecycleQueue> m_queue;
     std::unique_ptr<ApplicationObject> m_object;

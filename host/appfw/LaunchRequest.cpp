@@ -6,7 +6,6 @@
 
 #include "AppControlCodec.h"
 #include "Application.h"
-#include "BusDaemon.h"
 #include "BusName.h"
 #include "Log.h"
 
@@ -40,7 +39,7 @@ int app_control_send_launch_request(app_control_h request, app_control_reply_cb 
         return APP_CONTROL_ERROR_INVALID_PARAMETER;
     }
     const auto appId = request->appId;
-    if (!veskar::IsApplicationId(appId.c_str()) || !veskar::NameIsReachable(appId))
+    if (!veskar::IsApplicationId(appId.c_str()) || !veskar::Application::Instance().CanReach(appId))
     {
         return APP_CONTROL_ERROR_APP_NOT_FOUND;
     }
@@ -55,5 +54,5 @@ int app_control_send_launch_request(app_control_h request, app_control_reply_cb 
 
 int aul_app_is_running(const char* appId)
 {
-    return veskar::IsApplicationId(appId) && veskar::NameHasOwner(appId) ? 1 : 0;
+    return veskar::IsApplicationId(appId) && veskar::Application::Instance().IsRunning(appId) ? 1 : 0;
 }

@@ -13,9 +13,9 @@ namespace
 
 using Texts = std::vector<std::string>;
 
-void LogPresence(const char* label, bool present)
+const char* Word(bool present)
 {
-    LOG_INFO(label << (present ? "true" : "false"));
+    return present ? "true" : "false";
 }
 
 } // namespace
@@ -28,12 +28,12 @@ bool ServiceProcessor::m_HandleMessage(app_control_h const& request, int uiId, u
     std::string text;
     Texts buttons;
     int noClose = 0;
-    LogPresence("title:", m_GetParameter(request, RequestKeys::TITLE, title));
-    LogPresence("subtitle:", m_GetParameter(request, RequestKeys::SUB, sub));
-    LogPresence("bottom:", m_GetParameter(request, RequestKeys::BOTTOM, bottom));
-    LogPresence("buttons:", m_GetStrings(request, RequestKeys::BUTTONS, buttons));
-    LogPresence("text:", m_GetParameter(request, RequestKeys::TEXT, text));
-    LogPresence("noclose:", m_GetParameter(request, RequestKeys::NO_CLOSE, noClose));
+    LOG_INFO("title:" << Word(m_GetParameter(request, RequestKeys::TITLE, title)));
+    LOG_INFO("subtitle:" << Word(m_GetParameter(request, RequestKeys::SUB, sub)));
+    LOG_INFO("bottom:" << Word(m_GetParameter(request, RequestKeys::BOTTOM, bottom)));
+    LOG_INFO("buttons:" << Word(m_GetStrings(request, RequestKeys::BUTTONS, buttons)));
+    LOG_INFO("text:" << Word(m_GetParameter(request, RequestKeys::TEXT, text)));
+    LOG_INFO("noclose:" << Word(m_GetParameter(request, RequestKeys::NO_CLOSE, noClose)));
     return m_windowManager.ShowMessage(uiId, sourceId, title, sub, bottom, text, buttons, noClose != 0);
 }
 
@@ -47,14 +47,14 @@ bool ServiceProcessor::m_HandleImage(app_control_h const& request, int uiId, uns
     int width = 0;
     int height = 0;
     int noClose = 0;
-    LogPresence("title:", m_GetParameter(request, RequestKeys::TITLE, title));
-    LogPresence("subtitle:", m_GetParameter(request, RequestKeys::SUB, sub));
-    LogPresence("bottom:", m_GetParameter(request, RequestKeys::BOTTOM, bottom));
-    LogPresence("buttons:", m_GetStrings(request, RequestKeys::BUTTONS, buttons));
-    LogPresence("imageLocation:", m_GetParameter(request, RequestKeys::IMAGE_LOCATION, imageLocation));
-    LogPresence("width:", m_GetParameter(request, RequestKeys::IMAGE_WIDTH, width));
-    LogPresence("height:", m_GetParameter(request, RequestKeys::IMAGE_HEIGHT, height));
-    LogPresence("noclose:", m_GetParameter(request, RequestKeys::NO_CLOSE, noClose));
+    LOG_INFO("title:" << Word(m_GetParameter(request, RequestKeys::TITLE, title)));
+    LOG_INFO("subtitle:" << Word(m_GetParameter(request, RequestKeys::SUB, sub)));
+    LOG_INFO("bottom:" << Word(m_GetParameter(request, RequestKeys::BOTTOM, bottom)));
+    LOG_INFO("buttons:" << Word(m_GetStrings(request, RequestKeys::BUTTONS, buttons)));
+    LOG_INFO("imageLocation:" << Word(m_GetParameter(request, RequestKeys::IMAGE_LOCATION, imageLocation)));
+    LOG_INFO("width:" << Word(m_GetParameter(request, RequestKeys::IMAGE_WIDTH, width)));
+    LOG_INFO("height:" << Word(m_GetParameter(request, RequestKeys::IMAGE_HEIGHT, height)));
+    LOG_INFO("noclose:" << Word(m_GetParameter(request, RequestKeys::NO_CLOSE, noClose)));
     return m_windowManager.ShowImage(uiId, sourceId, title, sub, bottom, imageLocation, width, height, buttons,
                                      noClose != 0);
 }
@@ -81,10 +81,10 @@ bool ServiceProcessor::m_HandleMultipleImageList(app_control_h const& request, i
     int width = 0;
     int height = 0;
     int selectable = 0;
-    LogPresence("image locations:", m_GetStrings(request, RequestKeys::IMAGE_LOCATIONS, imageLocations));
-    LogPresence("width:", m_GetParameter(request, RequestKeys::IMAGE_WIDTH, width));
-    LogPresence("height:", m_GetParameter(request, RequestKeys::IMAGE_HEIGHT, height));
-    LogPresence("selectable:", m_GetParameter(request, RequestKeys::SELECTABLE, selectable));
+    LOG_INFO("image locations:" << Word(m_GetStrings(request, RequestKeys::IMAGE_LOCATIONS, imageLocations)));
+    LOG_INFO("width:" << Word(m_GetParameter(request, RequestKeys::IMAGE_WIDTH, width)));
+    LOG_INFO("height:" << Word(m_GetParameter(request, RequestKeys::IMAGE_HEIGHT, height)));
+    LOG_INFO("selectable:" << Word(m_GetParameter(request, RequestKeys::SELECTABLE, selectable)));
     return m_windowManager.ShowMultipleImageList(uiId, sourceId, list.title, list.sub, list.bottom, list.entries,
                                                  list.format, list.firstRowHeader != 0, list.buttons, imageLocations,
                                                  width, height, selectable != 0);
@@ -96,10 +96,10 @@ bool ServiceProcessor::m_HandleProgressWindow(app_control_h const& request, int 
     std::string text;
     Texts buttons;
     int percent = 0;
-    LogPresence("title:", m_GetParameter(request, RequestKeys::TITLE, title));
-    LogPresence("text:", m_GetParameter(request, RequestKeys::TEXT, text));
-    LogPresence("percent:", m_GetParameter(request, RequestKeys::PERCENT, percent));
-    LogPresence("buttons:", m_GetStrings(request, RequestKeys::BUTTONS, buttons));
+    LOG_INFO("title:" << Word(m_GetParameter(request, RequestKeys::TITLE, title)));
+    LOG_INFO("text:" << Word(m_GetParameter(request, RequestKeys::TEXT, text)));
+    LOG_INFO("percent:" << Word(m_GetParameter(request, RequestKeys::PERCENT, percent)));
+    LOG_INFO("buttons:" << Word(m_GetStrings(request, RequestKeys::BUTTONS, buttons)));
     const std::string firstButton = buttons.empty() ? std::string() : buttons.front();
     return m_windowManager.ShowProgress(uiId, sourceId, title, text, firstButton, static_cast<unsigned char>(percent));
 }
@@ -110,9 +110,9 @@ bool ServiceProcessor::m_HandleLoadingWindow(app_control_h const& request, int u
     Texts buttons;
     int percent = 0;
     // The busy indicator's text is its title.
-    LogPresence("title:", m_GetParameter(request, RequestKeys::TEXT, text));
-    LogPresence("percent:", m_GetParameter(request, RequestKeys::PERCENT, percent));
-    LogPresence("buttons:", m_GetStrings(request, RequestKeys::BUTTONS, buttons));
+    LOG_INFO("title:" << Word(m_GetParameter(request, RequestKeys::TEXT, text)));
+    LOG_INFO("percent:" << Word(m_GetParameter(request, RequestKeys::PERCENT, percent)));
+    LOG_INFO("buttons:" << Word(m_GetStrings(request, RequestKeys::BUTTONS, buttons)));
     return m_windowManager.ShowLoading(uiId, sourceId, text, buttons, percent);
 }
 
@@ -123,11 +123,11 @@ bool ServiceProcessor::m_HandlePinEntry(app_control_h const& request, int uiId, 
     std::string text;
     std::string bottom;
     int pinLength = 0;
-    LogPresence("title:", m_GetParameter(request, RequestKeys::TITLE, title));
-    LogPresence("subtitle:", m_GetParameter(request, RequestKeys::SUB, sub));
-    LogPresence("text:", m_GetParameter(request, RequestKeys::TEXT, text));
-    LogPresence("length:", m_GetParameter(request, RequestKeys::PIN_LENGTH, pinLength));
-    LogPresence("bottom:", m_GetParameter(request, RequestKeys::BOTTOM, bottom));
+    LOG_INFO("title:" << Word(m_GetParameter(request, RequestKeys::TITLE, title)));
+    LOG_INFO("subtitle:" << Word(m_GetParameter(request, RequestKeys::SUB, sub)));
+    LOG_INFO("text:" << Word(m_GetParameter(request, RequestKeys::TEXT, text)));
+    LOG_INFO("length:" << Word(m_GetParameter(request, RequestKeys::PIN_LENGTH, pinLength)));
+    LOG_INFO("bottom:" << Word(m_GetParameter(request, RequestKeys::BOTTOM, bottom)));
     return m_windowManager.ShowPinManager(uiId, sourceId, title, sub, text, static_cast<unsigned char>(pinLength),
                                           bottom);
 }
@@ -135,13 +135,13 @@ bool ServiceProcessor::m_HandlePinEntry(app_control_h const& request, int uiId, 
 ServiceProcessor::ListRequest ServiceProcessor::m_ReadList(app_control_h const& request)
 {
     ListRequest list;
-    LogPresence("title:", m_GetParameter(request, RequestKeys::TITLE, list.title));
-    LogPresence("sub:", m_GetParameter(request, RequestKeys::SUB, list.sub));
-    LogPresence("bottom:", m_GetParameter(request, RequestKeys::BOTTOM, list.bottom));
-    LogPresence("buttons:", m_GetStrings(request, RequestKeys::BUTTONS, list.buttons));
-    LogPresence("entries:", m_GetStrings(request, RequestKeys::ENTRIES, list.entries));
-    LogPresence("formatting:", m_GetParameter(request, RequestKeys::FORMAT, list.format));
-    LogPresence("firstRowHeader:", m_GetParameter(request, RequestKeys::HEADER, list.firstRowHeader));
+    LOG_INFO("title:" << Word(m_GetParameter(request, RequestKeys::TITLE, list.title)));
+    LOG_INFO("sub:" << Word(m_GetParameter(request, RequestKeys::SUB, list.sub)));
+    LOG_INFO("bottom:" << Word(m_GetParameter(request, RequestKeys::BOTTOM, list.bottom)));
+    LOG_INFO("buttons:" << Word(m_GetStrings(request, RequestKeys::BUTTONS, list.buttons)));
+    LOG_INFO("entries:" << Word(m_GetStrings(request, RequestKeys::ENTRIES, list.entries)));
+    LOG_INFO("formatting:" << Word(m_GetParameter(request, RequestKeys::FORMAT, list.format)));
+    LOG_INFO("firstRowHeader:" << Word(m_GetParameter(request, RequestKeys::HEADER, list.firstRowHeader)));
     return list;
 }
 

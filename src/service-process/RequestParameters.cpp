@@ -55,6 +55,7 @@ bool ServiceProcessor::m_GetParameter(app_control_h const& request, const char* 
     {
         return false;
     }
+    value = 0; // an empty text leaves the stream before it writes anything
     std::istringstream(*text) >> value;
     return true;
 }

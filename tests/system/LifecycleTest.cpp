@@ -65,6 +65,7 @@ TEST_F(Lifecycle, a_test_case_shows_its_screen_and_is_never_answered)
     EXPECT_FALSE(Grabs().empty());
     EndApplication();
     EXPECT_EQ(application.Status(), 0);
+    EXPECT_EQ(CountInLog("SendResponse"), 0);
 }
 
 /** These run with an application whose time-outs are short, so that nobody waits half a minute. */

@@ -11,6 +11,18 @@ const std::map<std::string, std::string> NAVIGATION_KEYS{
     {"XF86Exit", "registered"}, {"XF86Back", "registered"}, {"Return", "registered"}, {"Up", "registered"},
     {"Left", "registered"},     {"Right", "registered"},    {"Down", "registered"}};
 
+std::map<std::string, sdbus::Variant> PrivilegedMessage()
+{
+    std::map<std::string, sdbus::Variant> values;
+    for (const auto& [key, value] :
+         {std::pair("signal_type_key", "signal_tvservice"), std::pair("signal_tvservice_key", "ui_type_message"),
+          std::pair("ui_param_ui_id", "9"), std::pair("ui_param_source_id", "254")})
+    {
+        values.emplace(key, sdbus::Variant(std::string(value)));
+    }
+    return values;
+}
+
 } // namespace
 
 class Message : public TvTest
@@ -75,6 +87,9 @@ TEST_F(Message, of_the_access_module_is_closed_without_an_answer_by_a_close_of_t
     Process request = SendMessage(7, 3, {"--button", "Yes"});
     Send({"--ui-id", "7", "--source-id", "3", "close"});
     EXPECT_TRUE(WaitUntil([this] { return Grabs().empty(); }));
+    // The process has said all that it has to say when it is gone.
+    EndApplication();
+    EXPECT_EQ(CountInLog("SendResponse"), 0);
     EXPECT_FALSE(request.HasEnded());
 }
 
@@ -198,4 +213,29 @@ TEST_F(Keys, of_a_privileged_screen_are_the_channel_changers_for_itself_alone)
     }
     EXPECT_EQ(grabs.count("XF86RaiseChannel"), 1u);
     EXPECT_EQ(grabs.count("Return"), 0u);
+}
+
+TEST_F(Keys, that_another_client_holds_for_itself_alone_are_held_topmost)
+{
+    const std::string other = "org.tizen.another-app";
+    Process process({"env", "VESKAR_APP_ID=" + other, VESKAR_APPLICATION_PROGRAM});
+    ASSERT_TRUE(WaitUntil([&] { return SendRaw(PrivilegedMessage(), other).empty(); }));
+    Process request = SendMessage(7, 254);
+    const auto grabs = Grabs();
+    EXPECT_EQ(grabs.size(), 72u);
+    for (const auto& [key, mode] : grabs)
+    {
+        EXPECT_EQ(mode, "topmost") << key;
+    }
+}
+
+TEST_F(Keys, need_no_router_for_the_screen_to_show_and_be_answered)
+{
+    const std::string log = std::string(std::getenv("XDG_RUNTIME_DIR")) + "/no-router.log";
+    Process tv({"veskar-tv", "--no-keyrouter", "--log", log, "--", "sh", "-c",
+                "veskar-mw --ui-id 7 message --text Hello --button OK & "
+                "until grep -q 'Service complete!' $VESKAR_TV_LOG; do sleep 0.05; done; "
+                "sleep 0.5; veskar-remote press Return; wait $!"});
+    ExpectAnswer(tv, Answer(7, 255, 0, 1, 0));
+    EXPECT_NE(RunCommand({"grep", "-c", "Failed to get key router id", log}), "0\n");
 }

@@ -67,6 +67,8 @@ TEST_F(Surroundings, a_hotel_set_in_factory_mode_launches_its_menu_with_each_scr
     Process usual = SendMessage(7, 255, {"--button", "OK"});
     Press({"Return"});
     ExpectAnswer(usual, Answer(7, 255, 0, 1, 0));
+    // The answer goes out before the screen does, and it is the going that asks what set this is.
+    ASSERT_TRUE(WaitUntil([this] { return CountInLog("This is not a hotel TV") == 1; }));
     EXPECT_EQ(launches(), 0);
 
     Set("com.brelmon/featureconf/product.b2b_option_support", "1");

@@ -1,5 +1,6 @@
 #include "Tv.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -66,6 +67,7 @@ void TvTest::Press(const std::vector<std::string>& keys)
 
 std::map<std::string, std::string> TvTest::Grabs()
 {
+    const std::string application = std::to_string(ApplicationPid()) + "/";
     std::map<std::string, std::string> grabs;
     std::istringstream lines(RunCommand({"veskar-remote", "grabs"}));
     std::string line;
@@ -76,7 +78,7 @@ std::map<std::string, std::string> TvTest::Grabs()
         std::string mode;
         std::string client;
         words >> key >> mode >> client;
-        if (client.find("veskar-app") != std::string::npos)
+        if (client.rfind(application, 0) == 0)
         {
             grabs[key] = mode;
         }
@@ -174,12 +176,15 @@ int TvTest::CountInLog(const std::string& text) const
     return count;
 }
 
-std::string TvTest::SendRaw(const std::map<std::string, sdbus::Variant>& values)
+std::string TvTest::SendRaw(const std::map<std::string, sdbus::Variant>& values, const std::string& application)
 {
-    auto application = sdbus::createProxy(*m_bus, APPLICATION, APPLICATION_PATH);
+    std::string path = "/" + application;
+    std::replace(path.begin(), path.end(), '.', '/');
+    std::replace(path.begin(), path.end(), '-', '_');
     try
     {
-        application->callMethod("AppControl").onInterface(APPLICATION_INTERFACE).withArguments(values);
+        auto target = sdbus::createProxy(*m_bus, application, path);
+        target->callMethod("AppControl").onInterface(APPLICATION_INTERFACE).withArguments(values);
         return "";
     }
     catch (const sdbus::Error& error)

@@ -34,7 +34,7 @@ protected:
 
     void Press(const std::vector<std::string>& keys);
 
-    /** What the application's keys are at the compositor: name and mode. */
+    /** What the application holds at the compositor: key and mode. */
     std::map<std::string, std::string> Grabs();
 
     Picture Shot();
@@ -54,7 +54,8 @@ protected:
     int CountInLog(const std::string& text) const;
 
     /** The middleware's call itself, for what the tool would not send; the error's name, or nothing. */
-    std::string SendRaw(const std::map<std::string, sdbus::Variant>& values);
+    std::string SendRaw(const std::map<std::string, sdbus::Variant>& values,
+                        const std::string& application = "org.tizen.veskar-app");
 
     std::unique_ptr<sdbus::IConnection> m_bus;
 

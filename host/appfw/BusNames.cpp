@@ -1,0 +1,79 @@
+#include "BusNames.h"
+
+#include "Log.h"
+
+namespace veskar
+{
+namespace
+{
+
+constexpr const char* Daemon = "org.freedesktop.DBus";
+constexpr const char* DaemonPath = "/org/freedesktop/DBus";
+
+} // namespace
+
+BusNames::BusNames(Eldbus_Connection* connection) : m_connection(connection)
+{
+    // The changes first, so that none falls between the list and them.
+    m_ownerChanges =
+        eldbus_signal_handler_add(m_connection, Daemon, DaemonPath, Daemon, "NameOwnerChanged", s_OnOwnerChanged, this);
+    m_Ask("ListNames", m_owned);
+    m_Ask("ListActivatableNames", m_activatable);
+}
+
+BusNames::~BusNames()
+{
+    for (const Question* question : {&m_owned, &m_activatable})
+    {
+        if (question->pending != nullptr)
+        {
+            eldbus_pending_cancel(question->pending); // answers it with an error, here and now
+        }
+    }
+    eldbus_signal_handler_del(m_ownerChanges);
+}
+
+void BusNames::m_Ask(const char* method, Question& question)
+{
+    auto* call = eldbus_message_method_call_new(Daemon, DaemonPath, Daemon, method);
+    question.pending = eldbus_connection_send(m_connection, call, s_OnNames, &question, -1);
+}
+
+void BusNames::s_OnNames(void* data, const Eldbus_Message* reply, Eldbus_Pending*)
+{
+    auto* question = static_cast<Question*>(data);
+    question->pending = nullptr;
+    Eldbus_Message_Iter* list = nullptr;
+    if (eldbus_message_error_get(reply, nullptr, nullptr) || !eldbus_message_arguments_get(reply, "as", &list))
+    {
+        APPFW_ERROR("the bus daemon does not tell its names");
+        return;
+    }
+    const char* name = nullptr;
+    while (eldbus_message_iter_get_and_next(list, 's', &name))
+    {
+        question->names.insert(name);
+    }
+}
+
+void BusNames::s_OnOwnerChanged(void* data, const Eldbus_Message* message)
+{
+    const char* name = nullptr;
+    const char* before = nullptr;
+    const char* now = nullptr;
+    if (!eldbus_message_arguments_get(message, "sss", &name, &before, &now))
+    {
+        return;
+    }
+    auto& owned = static_cast<BusNames*>(data)->m_owned.names;
+    if (*now != '\0')
+    {
+        owned.insert(name);
+    }
+    else
+    {
+        owned.erase(name);
+    }
+}
+
+} // namespace veskar

@@ -1,0 +1,49 @@
+/** Who is on the bus, as the application last heard: questions about it never wait for the bus daemon. */
+#pragma once
+
+#include <set>
+#include <string>
+
+#include "Bus.h"
+
+namespace veskar
+{
+
+/**
+ * Keeps the names that have an owner, and those for which the bus can start one. The lists are asked for when this is
+ * made; they are there before the answer to any question asked later over the same connection. Main thread.
+ */
+class BusNames
+{
+public:
+    explicit BusNames(Eldbus_Connection* connection);
+    ~BusNames();
+
+    BusNames(const BusNames&) = delete;
+    BusNames& operator=(const BusNames&) = delete;
+
+    bool HasOwner(const std::string& name) const { return m_owned.names.count(name) != 0; }
+
+    /** True when a message to the name reaches somebody: the name has an owner, or the bus can start one. */
+    bool IsReachable(const std::string& name) const { return HasOwner(name) || m_activatable.names.count(name) != 0; }
+
+private:
+    /** Names that are asked for; `pending` until the answer has come. */
+    struct Question
+    {
+        std::set<std::string> names;
+        Eldbus_Pending* pending = nullptr;
+    };
+
+    void m_Ask(const char* method, Question& question);
+
+    static void s_OnNames(void* data, const Eldbus_Message* reply, Eldbus_Pending* pending);
+    static void s_OnOwnerChanged(void* data, const Eldbus_Message* message);
+
+    Eldbus_Connection* m_connection;
+    Eldbus_Signal_Handler* m_ownerChanges;
+    Question m_owned;
+    Question m_activatable;
+};
+
+} // namespace veskar
