@@ -2,6 +2,16 @@
 # own warnings out of a build that treats warnings as errors.
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(EFL REQUIRED IMPORTED_TARGET elementary evas ecore ecore-evas ecore-wl2 ecore-input edje eina)
+
+# Debian's files name a folder that no package has; CMake refuses a target that does.
+get_target_property(directories PkgConfig::EFL INTERFACE_INCLUDE_DIRECTORIES)
+foreach(directory IN LISTS directories)
+    if(NOT EXISTS ${directory})
+        list(REMOVE_ITEM directories ${directory})
+    endif()
+endforeach()
+set_target_properties(PkgConfig::EFL PROPERTIES INTERFACE_INCLUDE_DIRECTORIES "${directories}")
+
 find_program(EDJE_CC edje_cc REQUIRED)
 
 # Compiles SOURCE (an .edc file) to OUTPUT; further arguments are its images' and fonts' folders and its DEPENDS.
