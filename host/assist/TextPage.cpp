@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace veskar
@@ -25,6 +26,56 @@ struct FreeStyle
 };
 
 using StyleHandle = std::unique_ptr<Evas_Textblock_Style, FreeStyle>;
+
+/** A tab, wrapped in a text of both directions, can keep the toolkit busy for ever; a wide space does as well. */
+std::string WithoutTabs(std::string markup)
+{
+    constexpr std::string_view tab = "<tab/>";
+    constexpr std::string_view wideSpace = "\u2003";
+    for (auto at = markup.find(tab); at != std::string::npos; at = markup.find(tab, at))
+    {
+        markup.replace(at, tab.size(), wideSpace);
+    }
+    return markup;
+}
+
+/** The lines of a textblock, top to bottom. Asking for a line by its number counts the lines above it each time. */
+class LineWalk
+{
+public:
+    explicit LineWalk(const Evas_Object* textblock) : m_cursor(evas_object_textblock_cursor_new(textblock)) {}
+
+    /** False after the last line; `top` and `height` are in pixels. */
+    bool Next(int& top, int& height)
+    {
+        if (m_done)
+        {
+            return false;
+        }
+        auto* cursor = m_cursor.get();
+        const int line = evas_textblock_cursor_line_geometry_get(cursor, nullptr, &top, nullptr, &height);
+        m_done = line < 0 || !m_Advance(line);
+        return line >= 0;
+    }
+
+private:
+    struct FreeCursor
+    {
+        void operator()(Evas_Textblock_Cursor* cursor) const { evas_textblock_cursor_free(cursor); }
+    };
+
+    /** The end of a line that was wrapped is the beginning of the next one already; a line break ends its own line. */
+    bool m_Advance(int line)
+    {
+        auto* cursor = m_cursor.get();
+        evas_textblock_cursor_line_char_last(cursor);
+        return evas_textblock_cursor_line_geometry_get(cursor, nullptr, nullptr, nullptr, nullptr) > line ||
+               evas_textblock_cursor_char_next(cursor);
+    }
+
+    std::unique_ptr<Evas_Textblock_Cursor, FreeCursor> m_cursor;
+    bool m_done = false;
+};
 
 /** A plain container that moves, shows and clips what is in it; the toolkit has none that leaves sizes alone. */
 Evas_Object* AddCanvas(Evas* evas)
@@ -122,7 +173,7 @@ TextPage::~TextPage()
 
 void TextPage::SetText(const char* markup)
 {
-    evas_object_textblock_text_markup_set(m_text, markup);
+    evas_object_textblock_text_markup_set(m_text, WithoutTabs(markup).c_str());
     m_current = 0;
     m_Update();
 }
@@ -168,8 +219,7 @@ std::vector<TextPage::Page> TextPage::m_BreakIntoPages() const
     std::vector<Page> pages;
     int top = 0;
     int height = 0;
-    for (int line = 0; evas_object_textblock_line_number_geometry_get(m_text, line, nullptr, &top, nullptr, &height);
-         ++line)
+    for (LineWalk walk(m_text); walk.Next(top, height);)
     {
         const int bottom = top + height;
         if (pages.empty() || bottom - pages.back().top > m_viewHeight)
@@ -242,7 +292,7 @@ void ea_textpage_text_set(Evas_Object* page, char* text)
     const std::unique_ptr<char, veskar::FreeText> owned(text);
     if (TextPage* self = TextPage::Of(page))
     {
-        self->SetText(text);
+        self->SetText(text ? text : "");
     }
 }
 
