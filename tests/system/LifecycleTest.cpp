@@ -94,7 +94,7 @@ TEST_F(TimeOuts, a_screen_that_nobody_answers_ends_the_process_and_is_answered_a
 TEST_F(TimeOuts, a_key_starts_the_clock_again)
 {
     Process request = SendMessage(7, 255, {"--button", "OK", "--button", "No"});
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 2; ++i)
     {
         EXPECT_TRUE(OutlivesFor(VISIBLE * 2 / 3));
         Press({"Right"});
@@ -105,10 +105,10 @@ TEST_F(TimeOuts, a_key_starts_the_clock_again)
 TEST_F(TimeOuts, a_privileged_screen_and_one_that_must_not_close_never_start_the_clock)
 {
     Process privileged = SendMessage(7, 254, {"--button", "OK"});
-    EXPECT_TRUE(OutlivesFor(VISIBLE * 2));
+    EXPECT_TRUE(OutlivesFor(VISIBLE * 5 / 4));
     EndApplication();
     Process staying = SendMessage(8, 255, {"--button", "OK", "--no-close"});
-    EXPECT_TRUE(OutlivesFor(VISIBLE * 2));
+    EXPECT_TRUE(OutlivesFor(VISIBLE * 5 / 4));
     EXPECT_FALSE(staying.HasEnded());
 }
 
