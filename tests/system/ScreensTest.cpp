@@ -140,6 +140,29 @@ TEST_F(Screens, select_takes_the_first_key_also_when_it_replaces_another_list)
     EXPECT_EQ(first.Status(), 2);
 }
 
+TEST_F(Screens, select_begins_on_its_first_row_whatever_the_rows_and_the_screen_before)
+{
+    const std::vector<std::string> rows{"--format", "L",    "--entry", "one", "--entry", std::string(240, 'x'),
+                                        "--entry",  "three"};
+    Process message = SendMessage(8, 255, {"--button", "OK"});
+    StillShot();
+    ExpectKeysAnswer("select", rows, {"Return"}, Answer(7, 255, 0, 0, 1));
+    EXPECT_EQ(message.Status(), 2);
+    Process another = SendMessage(8, 255, {"--button", "OK"});
+    StillShot();
+    ExpectKeysAnswer("select", rows, {"Down", "Return"}, Answer(7, 255, 0, 0, 2));
+    EXPECT_EQ(another.Status(), 2);
+}
+
+TEST_F(Screens, select_loses_no_key_of_a_viewer_who_runs_down_its_rows)
+{
+    Process request = SendKind("select", Rows(40));
+    StillShot();
+    RunCommand(std::vector<std::string>{"veskar-remote", "press", "--gap", "0"} + std::vector<std::string>(30, "Down") +
+               std::vector<std::string>(5, "Up") + std::vector<std::string>{"Return"});
+    ExpectAnswer(request, Answer(7, 255, 0, 0, 26));
+}
+
 TEST_F(Screens, list_says_nothing_of_a_pressed_row)
 {
     Process request = SendKind("list", Rows(5));

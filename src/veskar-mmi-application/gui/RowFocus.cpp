@@ -10,8 +10,6 @@ namespace VESKAR_APP
 namespace
 {
 
-constexpr std::string_view KEY_DOWN = "Down";
-
 /** Lights or dims the row with the signal that the toolkit itself uses. */
 void SignalFocusedRow(Evas_Object* list, const char* signal)
 {
@@ -22,46 +20,71 @@ void SignalFocusedRow(Evas_Object* list, const char* signal)
     }
 }
 
+Elm_Object_Item* Neighbour(Elm_Object_Item* row, std::string_view key)
+{
+    if (key == "Up")
+    {
+        return elm_genlist_item_prev_get(row);
+    }
+    return key == "Down" ? elm_genlist_item_next_get(row) : nullptr;
+}
+
+/** Keys by which the list goes to a row of its own choice. */
+bool IsJump(std::string_view key)
+{
+    return key == "Home" || key == "End" || key == "Prior" || key == "Next";
+}
+
 } // namespace
 
-RowFocus::RowFocus(Evas_Object* window, Evas_Object* list) : m_window(window), m_list(list), m_below(nullptr)
+RowFocus::RowFocus(Evas_Object* window, Evas_Object* list)
+    : m_window(window), m_list(list), m_below(nullptr), m_row(nullptr), m_restoring(nullptr)
 {
     const MainLoopSection section;
-    elm_object_item_focus_set(elm_genlist_first_item_get(m_list), EINA_TRUE);
+    m_row = elm_genlist_first_item_get(m_list);
+    elm_object_item_focus_set(m_row, EINA_TRUE);
     evas_object_smart_callback_add(m_window, "focused", s_OnWindowFocused, this);
-    evas_object_smart_callback_add(m_list, "focused", s_OnListFocused, nullptr);
-    evas_object_smart_callback_add(m_list, "unfocused", s_OnListUnfocused, nullptr);
+    evas_object_smart_callback_add(m_list, "focused", s_OnListFocused, this);
+    evas_object_smart_callback_add(m_list, "unfocused", s_OnListUnfocused, this);
+    evas_object_smart_callback_add(m_list, "item,focused", s_OnRowFocused, this);
+    evas_object_smart_callback_add(m_list, "selected", s_OnRowPressed, this);
+    evas_object_smart_callback_add(m_list, "unselected", s_OnRowPressed, this);
+    elm_object_event_callback_add(m_list, s_OnKey, this);
 }
 
 RowFocus::~RowFocus()
 {
-    EFL_GUARD(evas_object_smart_callback_del_full, m_window, "focused", s_OnWindowFocused, this);
+    const MainLoopSection section;
+    evas_object_smart_callback_del_full(m_window, "focused", s_OnWindowFocused, this);
+    // The rows go before the list does, and each that had the focus leaves it to another.
+    evas_object_smart_callback_del_full(m_list, "focused", s_OnListFocused, this);
+    evas_object_smart_callback_del_full(m_list, "unfocused", s_OnListUnfocused, this);
+    evas_object_smart_callback_del_full(m_list, "item,focused", s_OnRowFocused, this);
+    evas_object_smart_callback_del_full(m_list, "selected", s_OnRowPressed, this);
+    evas_object_smart_callback_del_full(m_list, "unselected", s_OnRowPressed, this);
+    elm_object_event_callback_del(m_list, s_OnKey, this);
+    if (m_restoring != nullptr)
+    {
+        ecore_job_del(m_restoring);
+    }
 }
 
 void RowFocus::LeadDownTo(Evas_Object* button)
 {
-    if (m_below == nullptr)
-    {
-        EFL_GUARD(elm_object_event_callback_add, m_list, s_OnKey, this);
-    }
     m_below = button;
 }
 
-void RowFocus::s_OnWindowFocused(void* data, Evas_Object* window, void* /*eventInfo*/)
+void RowFocus::s_OnWindowFocused(void* data, Evas_Object* /*window*/, void* /*eventInfo*/)
 {
     // A list that was given the focus before the window had it has remembered the row and not focused it.
-    Evas_Object* list = static_cast<RowFocus*>(data)->m_list;
-    const MainLoopSection section;
-    if (elm_object_focused_object_get(window) == list && elm_object_focused_item_get(list) == nullptr)
-    {
-        elm_object_item_focus_set(elm_genlist_first_item_get(list), EINA_TRUE);
-    }
+    static_cast<RowFocus*>(data)->m_Restore();
 }
 
-void RowFocus::s_OnListFocused(void* /*data*/, Evas_Object* list, void* /*eventInfo*/)
+void RowFocus::s_OnListFocused(void* data, Evas_Object* list, void* /*eventInfo*/)
 {
     const MainLoopSection section;
     SignalFocusedRow(list, "elm,state,focused");
+    static_cast<RowFocus*>(data)->m_RestoreSoon();
 }
 
 void RowFocus::s_OnListUnfocused(void* /*data*/, Evas_Object* list, void* /*eventInfo*/)
@@ -70,21 +93,80 @@ void RowFocus::s_OnListUnfocused(void* /*data*/, Evas_Object* list, void* /*even
     SignalFocusedRow(list, "elm,state,unfocused");
 }
 
-Eina_Bool RowFocus::s_OnKey(void* data, Evas_Object* list, Evas_Object* /*source*/, Evas_Callback_Type type,
+void RowFocus::s_OnRowFocused(void* data, Evas_Object* /*list*/, void* row)
+{
+    auto* focus = static_cast<RowFocus*>(data);
+    if (row != focus->m_row)
+    {
+        focus->m_RestoreSoon();
+    }
+}
+
+void RowFocus::s_OnRowPressed(void* data, Evas_Object* /*list*/, void* row)
+{
+    static_cast<RowFocus*>(data)->m_row = static_cast<Elm_Object_Item*>(row);
+}
+
+void RowFocus::s_OnMoved(void* data)
+{
+    auto* focus = static_cast<RowFocus*>(data);
+    focus->m_restoring = nullptr;
+    focus->m_Restore();
+}
+
+Eina_Bool RowFocus::s_OnKey(void* data, Evas_Object* /*list*/, Evas_Object* /*source*/, Evas_Callback_Type type,
                             void* eventInfo)
 {
-    if (type != EVAS_CALLBACK_KEY_DOWN || static_cast<Evas_Event_Key_Down*>(eventInfo)->key != KEY_DOWN)
+    // This comes before the list's own handling.
+    if (type != EVAS_CALLBACK_KEY_DOWN)
     {
         return EINA_FALSE;
     }
-    // This comes before the list's own handling, which has a row to go to from every row but the last.
+    const bool used = static_cast<RowFocus*>(data)->m_TakeKey(static_cast<Evas_Event_Key_Down*>(eventInfo)->key);
+    return used ? EINA_TRUE : EINA_FALSE;
+}
+
+bool RowFocus::m_TakeKey(const char* key)
+{
     const MainLoopSection section;
-    if (elm_object_focused_item_get(list) != elm_genlist_last_item_get(list))
+    m_Restore();
+    Elm_Object_Item* row = m_row != nullptr ? m_row : elm_object_focused_item_get(m_list);
+    Elm_Object_Item* next = row != nullptr ? Neighbour(row, key) : nullptr;
+    if (next != nullptr)
     {
-        return EINA_FALSE;
+        m_row = next;
+        m_Restore();
+        return true;
     }
-    elm_object_focus_set(static_cast<RowFocus*>(data)->m_below, EINA_TRUE);
-    return EINA_TRUE;
+    if (m_below != nullptr && std::string_view(key) == "Down")
+    {
+        elm_object_focus_set(m_below, EINA_TRUE);
+        return true;
+    }
+    if (IsJump(key))
+    {
+        m_row = nullptr;
+    }
+    return false;
+}
+
+void RowFocus::m_Restore()
+{
+    const MainLoopSection section;
+    if (m_row != nullptr && elm_object_focus_get(m_list) && elm_object_focused_item_get(m_list) != m_row)
+    {
+        elm_object_item_focus_set(m_row, EINA_TRUE);
+    }
+}
+
+void RowFocus::m_RestoreSoon()
+{
+    // Not at once: the toolkit is in the middle of moving the focus.
+    const MainLoopSection section;
+    if (m_restoring == nullptr)
+    {
+        m_restoring = ecore_job_add(s_OnMoved, this);
+    }
 }
 
 } // namespace VESKAR_APP

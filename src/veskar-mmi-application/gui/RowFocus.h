@@ -6,12 +6,14 @@ namespace VESKAR_APP
 {
 
 /**
- * Sees to it that a list which has the focus has it on a row, and that no row shows it otherwise: the toolkit focuses a
- * list and none of its rows, so that the viewer's first key would be lost on finding one, and leaves the row lit when
- * the focus goes to a button.
+ * Sees to it that a list which has the focus has it on the viewer's row, and that no row shows it otherwise. The
+ * toolkit focuses a list and none of its rows, or whichever row is there first, so that the viewer's first key would be
+ * lost or land elsewhere; it moves the focus back to a row that can be seen when keys come faster than rows are drawn;
+ * and it leaves the row lit when the focus goes to a button.
  *
- * Belongs to the list's screen. The window outlives that, so the destructor takes its callback back; those of the list
- * go with the list.
+ * The viewer's row is the first one until a key or a press moves it. What the toolkit moves by itself is undone.
+ *
+ * Belongs to the list's screen and goes before the list; the destructor takes every callback back.
  */
 class RowFocus
 {
@@ -33,13 +35,24 @@ private:
     static void s_OnWindowFocused(void* data, Evas_Object* window, void* eventInfo);
     static void s_OnListFocused(void* data, Evas_Object* list, void* eventInfo);
     static void s_OnListUnfocused(void* data, Evas_Object* list, void* eventInfo);
+    static void s_OnRowFocused(void* data, Evas_Object* list, void* row);
+    static void s_OnRowPressed(void* data, Evas_Object* list, void* row);
+    static void s_OnMoved(void* data);
 
     static Eina_Bool s_OnKey(void* data, Evas_Object* list, Evas_Object* source, Evas_Callback_Type type,
                              void* eventInfo);
 
+    /** Whether the key is used up. */
+    bool m_TakeKey(const char* key);
+    /** Puts the focus of a list that has it on the viewer's row. */
+    void m_Restore();
+    void m_RestoreSoon();
+
     Evas_Object* m_window;
     Evas_Object* m_list;
     Evas_Object* m_below;
+    Elm_Object_Item* m_row; // the viewer's; null: the one that the list goes to by itself
+    Ecore_Job* m_restoring;
 };
 
 } // namespace VESKAR_APP
