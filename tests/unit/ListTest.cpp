@@ -54,11 +54,20 @@ struct ListScreenTest : ScreenTest
         }
         return items;
     }
-    /** Return on a row; the list's own use of the key comes first, then the screen hears it. */
-    void PressRow(std::size_t row)
+    /** Return on a row; the list's own use of the key comes first, then the screen hears it. The way there is left out.
+     */
+    void PressRow(int row)
     {
+        const Texts before = answers;
         Focused(window);
-        elm_object_item_focus_set(Items().at(row), EINA_TRUE);
+        elm_object_focus_set(list->m_menuList, EINA_TRUE);
+        Settle();
+        const int way = row + 1 - elm_genlist_item_index_get(elm_object_focused_item_get(list->m_menuList));
+        for (int step = 0; step < std::abs(way); ++step)
+        {
+            Press(list->m_menuList, way < 0 ? "Up" : "Down");
+        }
+        answers = before;
         Press(list->m_menuList, "Return");
     }
 
@@ -146,6 +155,15 @@ TEST_F(ListWindowTest, TheColumnsShareTheWidthBetweenOneAndEight)
     EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "Scaled max label width: 609, Number of columns: 8"));
 }
 
+TEST_F(ListWindowTest, CellsKeepToTheirColumnsInRowsOfFewerCells)
+{
+    Show("LLL", false, {"1\t2\t3", "1", "1\t2"});
+    for (const std::size_t row : {1, 2})
+    {
+        EXPECT_EQ(MinimumSize(Row(row)), MinimumSize(Row(0)));
+    }
+}
+
 TEST_F(ListWindowTest, AHeaderStandsAboveTheRowsAndIsNotOneOfThem)
 {
     Show("RL", true, {"h1\th2", "a\tb"});
@@ -218,7 +236,7 @@ TEST_F(MultipleListWindowTest, TheFirstButtonReportsTheMarkedRowsByTheirDigits)
     EXPECT_EQ(
         Look(),
         "C_Scrollbar_White C_TextItem_WhiteSingleline01 text content multi homogeneous select 1 mode 1 scroll 21");
-    for (const std::size_t row : {2, 11})
+    for (const int row : {2, 11})
     {
         PressRow(row);
     }

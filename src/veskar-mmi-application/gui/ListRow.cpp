@@ -77,6 +77,20 @@ std::string CellMarkup(const std::string& cell, const char* alignment, bool head
     return "<color=" + colour + "><font=Sans:style=Regular font_size=" + fontSize + ">" + text + "</font></color>";
 }
 
+/** Rows stand centred: one of fewer cells than columns takes the room of all, so that its cells keep to theirs. */
+void PadRow(Evas_Object* row, int width)
+{
+    if (width <= 0)
+    {
+        return;
+    }
+    const MainLoopSection section;
+    Evas_Object* spacer = elm_box_add(row);
+    evas_object_size_hint_min_set(spacer, width, 0);
+    evas_object_size_hint_max_set(spacer, width, -1);
+    elm_box_pack_end(row, spacer);
+}
+
 } // namespace
 
 std::string RowData(const std::string& format, const std::string& entry)
@@ -131,6 +145,7 @@ Evas_Object* CreateRow(const char* rowData, Evas_Object* parent, const char* par
         evas_object_size_hint_align_set(label, EVAS_HINT_FILL, 0.5);
         evas_object_show(label);
     }
+    PadRow(box, cellWidth * (numColumns - static_cast<int>(row.cells.size())));
     EFL_GUARD(elm_box_recalculate, box);
     EFL_GUARD(evas_object_size_hint_weight_set, box, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
     EFL_GUARD(evas_object_show, box);
