@@ -2,6 +2,7 @@
 
 #include <Ecore.h>
 #include <algorithm>
+#include <climits>
 #include <cstdlib>
 #include <memory>
 #include <string>
@@ -39,23 +40,33 @@ std::string WithoutTabs(std::string markup)
     return markup;
 }
 
-/** The lines of a textblock, top to bottom. Asking for a line by its number counts the lines above it each time. */
+/**
+ * The lines of a textblock, top to bottom. Asking for a line by its number counts the paragraphs above it each time, so
+ * the first line of each paragraph, most lines of a text that is nothing but line breaks, comes from a cursor.
+ */
 class LineWalk
 {
 public:
-    explicit LineWalk(const Evas_Object* textblock) : m_cursor(evas_object_textblock_cursor_new(textblock)) {}
+    explicit LineWalk(const Evas_Object* text)
+        : m_text(text), m_cursor(evas_object_textblock_cursor_new(text)), m_head(m_ReadHead())
+    {
+    }
 
     /** False after the last line; `top` and `height` are in pixels. */
     bool Next(int& top, int& height)
     {
-        if (m_done)
+        const int line = m_line++;
+        if (line > m_head)
         {
-            return false;
+            m_head = evas_textblock_cursor_paragraph_next(m_cursor.get()) ? m_ReadHead() : INT_MAX;
         }
-        auto* cursor = m_cursor.get();
-        const int line = evas_textblock_cursor_line_geometry_get(cursor, nullptr, &top, nullptr, &height);
-        m_done = line < 0 || !m_Advance(line);
-        return line >= 0;
+        if (line != m_head)
+        {
+            return evas_object_textblock_line_number_geometry_get(m_text, line, nullptr, &top, nullptr, &height);
+        }
+        top = m_top;
+        height = m_height;
+        return true;
     }
 
 private:
@@ -64,17 +75,17 @@ private:
         void operator()(Evas_Textblock_Cursor* cursor) const { evas_textblock_cursor_free(cursor); }
     };
 
-    /** The end of a line that was wrapped is the beginning of the next one already; a line break ends its own line. */
-    bool m_Advance(int line)
+    int m_ReadHead()
     {
-        auto* cursor = m_cursor.get();
-        evas_textblock_cursor_line_char_last(cursor);
-        return evas_textblock_cursor_line_geometry_get(cursor, nullptr, nullptr, nullptr, nullptr) > line ||
-               evas_textblock_cursor_char_next(cursor);
+        return evas_textblock_cursor_line_geometry_get(m_cursor.get(), nullptr, &m_top, nullptr, &m_height);
     }
 
+    const Evas_Object* m_text;
     std::unique_ptr<Evas_Textblock_Cursor, FreeCursor> m_cursor;
-    bool m_done = false;
+    int m_top = 0;
+    int m_height = 0;
+    int m_line = 0;
+    int m_head; // the number of the line that the cursor is on
 };
 
 /** A plain container that moves, shows and clips what is in it; the toolkit has none that leaves sizes alone. */
