@@ -4,7 +4,8 @@
 #include "SettingsStore.h"
 #include "vconf.h"
 
-#include <Elementary.h>
+#include <Ecore_Evas.h>
+#include <cstring>
 
 namespace veskar
 {
@@ -36,6 +37,59 @@ std::filesystem::path ThemeFor(const std::filesystem::path& plain, bool enlarged
     return plain.parent_path() / (name + plain.extension().string());
 }
 
+/** Null before the program has made one. */
+Evas_Object* FirstWindow()
+{
+    void* window = nullptr;
+    void* canvas = nullptr;
+    Eina_List* canvases = ecore_evas_ecore_evas_list_get();
+    EINA_LIST_FREE(canvases, canvas)
+    {
+        if (!window)
+        {
+            // The toolkit notes the window on each canvas that belongs to one.
+            window = ecore_evas_data_get(static_cast<Ecore_Evas*>(canvas), "elm_win");
+        }
+    }
+    return static_cast<Evas_Object*>(window);
+}
+
+bool ContainsShownPopup(const Evas_Object* object)
+{
+    const char* type = evas_object_type_get(object);
+    if (type && std::strcmp(type, "elm_popup") == 0 && evas_object_visible_get(object))
+    {
+        return true;
+    }
+    bool found = false;
+    void* member = nullptr;
+    Eina_List* members = evas_object_smart_members_get(object);
+    EINA_LIST_FREE(members, member)
+    {
+        found = found || ContainsShownPopup(static_cast<Evas_Object*>(member));
+    }
+    return found;
+}
+
+/** A screen is a popup on the window; the window itself may be shown without one. */
+bool IsScreenShown()
+{
+    const Evas_Object* window = FirstWindow();
+    if (!window || !evas_object_visible_get(window))
+    {
+        return false;
+    }
+    for (auto* object = evas_object_bottom_get(evas_object_evas_get(window)); object;
+         object = evas_object_above_get(object))
+    {
+        if (ContainsShownPopup(object))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 DisplayModes::DisplayModes() : m_plainTheme(LoadedTheme()), m_theme(m_plainTheme)
@@ -47,6 +101,7 @@ DisplayModes::DisplayModes() : m_plainTheme(LoadedTheme()), m_theme(m_plainTheme
         return;
     }
     m_Watch();
+    m_WatchWindow();
     m_Apply();
 }
 
@@ -77,7 +132,24 @@ void DisplayModes::m_Watch()
     }
 }
 
+/** The window is hidden between two screens, also where one takes the other's place. */
+void DisplayModes::m_WatchWindow()
+{
+    if (Evas_Object* window = FirstWindow())
+    {
+        evas_object_event_callback_add(window, EVAS_CALLBACK_HIDE, s_OnWindowHidden, this);
+    }
+}
+
 void DisplayModes::s_OnChange(void* data, Ecore_File_Monitor*, Ecore_File_Event, const char*)
+{
+    if (!IsScreenShown())
+    {
+        static_cast<DisplayModes*>(data)->m_Apply();
+    }
+}
+
+void DisplayModes::s_OnWindowHidden(void* data, Evas*, Evas_Object*, void*)
 {
     static_cast<DisplayModes*>(data)->m_Apply();
 }

@@ -2,13 +2,15 @@
 #pragma once
 
 #include <Ecore_File.h>
+#include <Elementary.h>
 #include <filesystem>
 
 namespace veskar
 {
 
 /**
- * Exchanges the TV's theme for the one made for the modes that are set, at once and with each change of the settings.
+ * Exchanges the TV's theme for the one made for the modes that are set, at once and with each change of the settings;
+ * a screen that is shown keeps its theme, because its widgets would lose the focus, and the exchange waits for its end.
  * The themes lie beside each other: veskar-theme.edj, -large, -contrast, -large-contrast. Main loop only, while the
  * toolkit is initialised.
  */
@@ -22,7 +24,9 @@ public:
 
 private:
     static void s_OnChange(void* data, Ecore_File_Monitor* monitor, Ecore_File_Event event, const char* path);
+    static void s_OnWindowHidden(void* data, Evas* evas, Evas_Object* window, void* event);
     void m_Watch();
+    void m_WatchWindow();
     void m_Apply();
 
     std::filesystem::path m_plainTheme;
