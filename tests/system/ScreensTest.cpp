@@ -142,7 +142,7 @@ TEST_F(Screens, select_takes_the_first_key_also_when_it_replaces_another_list)
 
 TEST_F(Screens, select_begins_on_its_first_row_whatever_the_rows_and_the_screen_before)
 {
-    const std::vector<std::string> rows{"--format", "L",    "--entry", "one", "--entry", std::string(240, 'x'),
+    const std::vector<std::string> rows{"--format", "L",    "--entry", "one", "--entry", std::string(240, 'n'),
                                         "--entry",  "three"};
     Process message = SendMessage(8, 255, {"--button", "OK"});
     StillShot();
