@@ -31,6 +31,7 @@ public:
 
 private:
     static void s_OnKey(void* data, Evas* evas, Evas_Object* object, void* event);
+    static void s_OnHide(void* data, Evas* evas, Evas_Object* object, void* event);
     static void s_OnDeletion(void* data, Evas* evas, Evas_Object* object, void* event);
     static void s_OnFocus(void* data, Evas_Object* object, const char* emission, const char* source);
     static void s_OnUnfocus(void* data, Evas_Object* object, const char* emission, const char* source);
@@ -59,6 +60,7 @@ PinField::PinField(Evas_Object* object, int length, Ea_Pin_Entered_Cb entered)
     }
 
     evas_object_event_callback_add(m_object, EVAS_CALLBACK_KEY_DOWN, s_OnKey, this);
+    evas_object_event_callback_add(m_object, EVAS_CALLBACK_HIDE, s_OnHide, this);
     evas_object_event_callback_add(m_object, EVAS_CALLBACK_DEL, s_OnDeletion, this);
     // A plain layout tells of its focus in no other way.
     elm_layout_signal_callback_add(m_object, "elm,action,focus", "elm", s_OnFocus, this);
@@ -123,6 +125,12 @@ void PinField::m_Draw() const
 void PinField::s_OnKey(void* data, Evas*, Evas_Object*, void* event)
 {
     static_cast<PinField*>(data)->m_OnKey(static_cast<Evas_Event_Key_Down*>(event)->key);
+}
+
+/** A field that has gone from the screen may live on for long; its digits must not. */
+void PinField::s_OnHide(void* data, Evas*, Evas_Object*, void*)
+{
+    static_cast<PinField*>(data)->Reset();
 }
 
 void PinField::s_OnDeletion(void* data, Evas*, Evas_Object*, void*)

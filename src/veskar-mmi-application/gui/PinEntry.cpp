@@ -83,7 +83,19 @@ bool PinEntry::t_Hide()
         EFL_GUARD(evas_object_hide, m_pinWidget);
     }
     t_HideNumPad();
-    return BaseDisplay::t_Hide();
+    const bool hidden = BaseDisplay::t_Hide();
+    m_ForgetPin();
+    return hidden;
+}
+
+void PinEntry::m_ForgetPin()
+{
+    Wipe(m_digits);
+    m_digits.clear();
+    if (m_pinWidget != nullptr)
+    {
+        EFL_GUARD(ea_pin_reset, m_pinWidget);
+    }
 }
 
 void PinEntry::t_OnButtonClicked(unsigned char /*button*/)
@@ -115,6 +127,7 @@ void PinEntry::m_ContentEntered(void* eventInfo)
     else if (key == KEY_BACKSPACE && !m_digits.empty())
     {
         LOG_INFO("Backspace pressed. Removing the last digit.");
+        explicit_bzero(&m_digits.back(), 1);
         m_digits.pop_back();
     }
     else if (key == KEY_MORE_123)

@@ -29,6 +29,9 @@ protected:
     static void s_OnContentEntered(void* data, Evas* evas, Evas_Object* object, void* eventInfo);
     void m_ContentEntered(void* eventInfo);
 
+    /** A hidden screen is kept until the next one comes; the digits, its own and the widget's, go at once. */
+    void m_ForgetPin();
+
 private:
     static const std::string KEY_BACKSPACE;
     static const std::string KEY_MORE_123;

@@ -12,8 +12,9 @@
 namespace VESKAR_APP
 {
 
-/** Overwrites the characters of a string that held a secret; unlike a plain fill it is never optimised away. */
-inline void Wipe(std::string& text)
+/** Overwrites the characters of a text that held a secret; unlike a plain fill it is never optimised away. */
+template <typename Text>
+void Wipe(Text& text)
 {
     explicit_bzero(text.data(), text.size());
 }
