@@ -1,8 +1,8 @@
 #include "MessagePopup.h"
 
 #include "EflGuard.h"
-#include "Handles.h"
 #include "Log.h"
+#include "Markup.h"
 #include "ScaledSize.h"
 
 #include <cstring>
@@ -57,10 +57,10 @@ MessagePopup::MessagePopup(IUserInteraction& userInteraction, const std::string&
 Evas_Object* MessagePopup::m_CreateWindowContent(Evas_Object* layout, Evas_Object* /*box*/)
 {
     LOG_ENTRY();
-    const CString markup(EFL_GUARD(elm_entry_utf8_to_markup, m_text.c_str()));
-    Evas_Object* content = m_text.size() <= MAX_LABEL_BYTES ? m_CreateTextLabel(markup.get(), layout)
-                                                            : m_CreateTextPage(markup.get(), layout);
-    t_SetTTSText(markup.get(), nullptr);
+    const std::string markup = ToMarkup(m_text);
+    Evas_Object* content = m_text.size() <= MAX_LABEL_BYTES ? m_CreateTextLabel(markup.c_str(), layout)
+                                                            : m_CreateTextPage(markup.c_str(), layout);
+    t_SetTTSText(markup, nullptr);
     return content;
 }
 
