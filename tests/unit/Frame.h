@@ -27,10 +27,11 @@ struct Frame : TvTest
     static void Terminate() { tv.application.terminate(tv.applicationData); }
     static void ShowMessage(const char* uiId, const char* sourceId = "255")
     {
-        const Request request({{"signal_type_key", "signal_tvservice"},
+        app_control_s request{"",
+                              {{"signal_type_key", "signal_tvservice"},
                                {"signal_tvservice_key", "ui_type_message"},
                                {"ui_param_ui_id", uiId},
-                               {"ui_param_source_id", sourceId}});
-        tv.application.app_control(request.Handle(), tv.applicationData);
+                               {"ui_param_source_id", sourceId}}};
+        tv.application.app_control(&request, tv.applicationData);
     }
 };

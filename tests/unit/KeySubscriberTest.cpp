@@ -32,7 +32,7 @@ Texts OneByOne(const std::string& verb, const std::string& names, const std::str
     Texts deeds;
     for (std::string name; words >> name;)
     {
-        deeds.push_back(verb + ' ' + prefix + name + ":4");
+        deeds.emplace_back(verb).append(" ").append(prefix).append(name).append(":4");
     }
     return deeds;
 }

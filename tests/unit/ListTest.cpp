@@ -80,7 +80,7 @@ struct ListScreenTest : ScreenTest
     {
         const Elm_Genlist_Item_Class* itemClass = elm_genlist_item_item_class_get(Items().at(row));
         char* text = itemClass->func.text_get(elm_object_item_data_get(Items().at(row)), list->m_menuList, "elm.text");
-        const std::string copy(text);
+        std::string copy(text);
         std::free(text);
         return copy;
     }
@@ -283,7 +283,7 @@ struct ImageListPopupTest : ListScreenTest<VESKAR_APP::ImageListPopup>
 
     static std::string WritePicture(const char* name)
     {
-        const std::string path = testing::TempDir() + name;
+        std::string path = testing::TempDir() + name;
         std::ofstream(path) << "P6 1 1 255\nabc";
         return path;
     }

@@ -9,7 +9,6 @@
 namespace
 {
 
-using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

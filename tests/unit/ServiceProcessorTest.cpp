@@ -49,44 +49,38 @@ struct ServiceProcessorTest : TvTest
     StrictMock<WindowManagerMock> screens;
     VESKAR_APP::ServiceProcessor processor{screens};
 
-    bool Handle(std::initializer_list<std::pair<const char*, Request::Value>> values)
+    using Values = std::vector<std::pair<std::string, Value>>;
+
+    bool Handle(const Values& values)
     {
         tv.Forget();
-        const Request request(values);
-        return processor.HandleService(request.Handle());
+        app_control_s request{"", values};
+        return processor.HandleService(&request);
     }
-
-    /** A request for a screen with the ids 7 and 254 that carries every display key. */
-    void Ask(const char* uiType)
+    void Ask(const char* uiType, Values displayKeys, const char* uiId = "7", const char* sourceId = "254")
     {
-        EXPECT_TRUE(Handle({{"signal_type_key", "signal_tvservice"},
-                            {"signal_tvservice_key", uiType},
-                            {"ui_param_ui_id", "7"},
-                            {"ui_param_source_id", "254"},
-                            {"ui_param_title", "T"},
-                            {"ui_param_sub", ""},
-                            {"ui_param_bottom", "B"},
-                            {"ui_param_txt", "X"},
-                            {"ui_param_buttons", Texts{"Cancel", "OK"}},
-                            {"ui_param_entries", Texts{"1\tone"}},
-                            {"ui_param_format", "LR"},
-                            {"ui_param_header", "1"},
-                            {"ui_param_noclose", "2"},
-                            {"ui_param_image_location", "/i.png"},
-                            {"ui_param_image_width", "401"},
-                            {"ui_param_image_height", "300"},
-                            {"ui_param_multiple_image_locations", Texts{"/1.png", "/2.png"}},
-                            {"ui_param_selectable", "1"},
-                            {"ui_param_percent", "300"},
-                            {"ui_param_pin_length", "260"}}));
+        displayKeys.insert(displayKeys.end(), {{"signal_type_key", "signal_tvservice"},
+                                               {"signal_tvservice_key", uiType},
+                                               {"ui_param_ui_id", uiId},
+                                               {"ui_param_source_id", sourceId}});
+        EXPECT_TRUE(Handle(displayKeys));
     }
-    void AskWithoutKeys(const char* uiType)
-    {
-        EXPECT_TRUE(Handle({{"signal_type_key", "signal_tvservice"},
-                            {"signal_tvservice_key", uiType},
-                            {"ui_param_ui_id", "7"},
-                            {"ui_param_source_id", "254"}}));
-    }
+    const Values everyKey{{"ui_param_title", "T"},
+                          {"ui_param_sub", ""},
+                          {"ui_param_bottom", "B"},
+                          {"ui_param_txt", "X"},
+                          {"ui_param_buttons", Texts{"Cancel", "OK"}},
+                          {"ui_param_entries", Texts{"1\tone"}},
+                          {"ui_param_format", "LR"},
+                          {"ui_param_header", "1"},
+                          {"ui_param_noclose", "2"},
+                          {"ui_param_image_location", "/i.png"},
+                          {"ui_param_image_width", "401"},
+                          {"ui_param_image_height", "300"},
+                          {"ui_param_multiple_image_locations", Texts{"/1.png", "/2.png"}},
+                          {"ui_param_selectable", "1"},
+                          {"ui_param_percent", "300"},
+                          {"ui_param_pin_length", "260"}};
 
     /** The lines that name what was found, in order and in one text; elements of lists are left out. */
     static std::string Found()
@@ -108,41 +102,42 @@ TEST_F(ServiceProcessorTest, EachKindOfScreenReadsItsKeysInOrderAndMakesOneShowC
         "title:true sub:true bottom:true buttons:true entries:true formatting:true firstRowHeader:true ";
 
     EXPECT_CALL(screens, ShowMessage(7, 254, "T", "", "B", "X", buttons, true));
-    Ask("ui_type_message");
+    Ask("ui_type_message", everyKey);
     EXPECT_EQ(Found(), "title:true subtitle:true bottom:true buttons:true text:true noclose:true complete ");
+    EXPECT_TRUE(tv.Logged(DLOG_INFO, "lines[0]=Cancel") && tv.Logged(DLOG_INFO, "lines[1]=OK"));
 
     EXPECT_CALL(screens, ShowImage(7, 254, "T", "", "B", "/i.png", 401, 300, buttons, true));
-    Ask("ui_type_image");
+    Ask("ui_type_image", everyKey);
     EXPECT_EQ(Found(), "title:true subtitle:true bottom:true buttons:true imageLocation:true width:true height:true "
                        "noclose:true complete ");
 
     EXPECT_CALL(screens, ShowList(7, 254, "T", "", "B", entries, "LR", true, buttons, false));
-    Ask("ui_type_list");
+    Ask("ui_type_list", everyKey);
     EXPECT_EQ(Found(), listKeys + "complete ");
 
     EXPECT_CALL(screens, ShowList(7, 254, "T", "", "B", entries, "LR", true, buttons, true));
-    Ask("ui_type_select");
+    Ask("ui_type_select", everyKey);
     EXPECT_EQ(Found(), listKeys + "complete ");
 
     EXPECT_CALL(screens, ShowMultipleList(7, 254, "T", "", "B", entries, "LR", true, buttons, true));
-    Ask("ui_type_multiple_list");
+    Ask("ui_type_multiple_list", everyKey);
     EXPECT_EQ(Found(), listKeys + "complete ");
 
     EXPECT_CALL(screens, ShowMultipleImageList(7, 254, "T", "", "B", entries, "LR", true, buttons,
                                                ElementsAre("/1.png", "/2.png"), 401, 300, true));
-    Ask("ui_type_multiple_image_list");
+    Ask("ui_type_multiple_image_list", everyKey);
     EXPECT_EQ(Found(), listKeys + "image locations:true width:true height:true selectable:true complete ");
 
     EXPECT_CALL(screens, ShowProgress(7, 254, "T", "X", "Cancel", 44));
-    Ask("ui_type_progress");
+    Ask("ui_type_progress", everyKey);
     EXPECT_EQ(Found(), "title:true text:true percent:true buttons:true complete ");
 
     EXPECT_CALL(screens, ShowLoading(7, 254, "X", buttons, 300));
-    Ask("ui_type_loading");
+    Ask("ui_type_loading", everyKey);
     EXPECT_EQ(Found(), "title:true percent:true buttons:true complete ");
 
     EXPECT_CALL(screens, ShowPinManager(7, 254, "T", "", "X", 4, "B"));
-    Ask("ui_type_pin_entry");
+    Ask("ui_type_pin_entry", everyKey);
     EXPECT_EQ(Found(), "title:true subtitle:true text:true length:true bottom:true complete ");
     EXPECT_THAT(tv.Log(DLOG_ERROR), IsEmpty());
 }
@@ -151,67 +146,56 @@ TEST_F(ServiceProcessorTest, AMissingKeyLeavesItsDefaultAndAnErrorLine)
 {
     const Texts none;
     EXPECT_CALL(screens, ShowMessage(7, 254, "", "", "", "", none, false));
-    AskWithoutKeys("ui_type_message");
+    Ask("ui_type_message", {});
     EXPECT_EQ(Found(), "title:false subtitle:false bottom:false buttons:false text:false noclose:false complete ");
     EXPECT_EQ(tv.Log(DLOG_ERROR), Texts(6, "app_control_get_extra_data returned error -126"));
     tv.failing = {"ui_param_title"}; // a key without a value is missing too
     EXPECT_CALL(screens, ShowPinManager(7, 254, "", "", "X", 4, "B"));
-    Ask("ui_type_pin_entry");
+    Ask("ui_type_pin_entry", everyKey);
     EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("app_control_get_extra_data returned error 0"));
 
     EXPECT_CALL(screens, ShowImage(7, 254, "", "", "", "", 0, 0, none, false));
-    AskWithoutKeys("ui_type_image");
+    Ask("ui_type_image", {});
     EXPECT_CALL(screens, ShowList(7, 254, "", "", "", none, "", false, none, false));
-    AskWithoutKeys("ui_type_list");
+    Ask("ui_type_list", {});
     EXPECT_CALL(screens, ShowMultipleList(7, 254, "", "", "", none, "", false, none, true));
-    AskWithoutKeys("ui_type_multiple_list");
+    Ask("ui_type_multiple_list", {});
     EXPECT_CALL(screens, ShowMultipleImageList(7, 254, "", "", "", none, "", false, none, none, 0, 0, false));
-    AskWithoutKeys("ui_type_multiple_image_list");
+    Ask("ui_type_multiple_image_list", {});
     EXPECT_CALL(screens, ShowProgress(7, 254, "", "", "", 0));
-    AskWithoutKeys("ui_type_progress");
+    Ask("ui_type_progress", {});
     EXPECT_CALL(screens, ShowLoading(7, 254, "", none, 0));
-    AskWithoutKeys("ui_type_loading");
+    Ask("ui_type_loading", {});
     EXPECT_CALL(screens, ShowPinManager(7, 254, "", "", "", 0, ""));
-    AskWithoutKeys("ui_type_pin_entry");
+    Ask("ui_type_pin_entry", {});
 }
 
-TEST_F(ServiceProcessorTest, AScreenWithoutARoutingKeyIsNotShown)
+TEST_F(ServiceProcessorTest, AScreenNeedsItsRoutingKeysAndAnUnknownKindIsNoError)
 {
-    EXPECT_TRUE(Handle({{"signal_type_key", "signal_tvservice"}}));
-    const std::string reader = "app_control_get_extra_data returned error -126";
-    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre(reader, "SIGNAL_TVSERVICE_KEY missing"));
-    EXPECT_TRUE(Handle({{"signal_type_key", "signal_tvservice"}, {"signal_tvservice_key", "ui_type_message"}}));
-    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre(reader, "UI_PARAM_UI_ID missing"));
-    EXPECT_TRUE(Handle({{"signal_type_key", "signal_tvservice"},
-                        {"signal_tvservice_key", "ui_type_message"},
-                        {"ui_param_ui_id", "7"}}));
-    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre(reader, "UI_PARAM_SOURCE_ID missing"));
-    EXPECT_THAT(tv.Log(DLOG_INFO), IsEmpty()); // not "complete" either
+    Values values{{"signal_type_key", "signal_tvservice"}};
+    const Values routingKeys{{"signal_tvservice_key", "ui_type_Message"}, {"ui_param_ui_id", "7"}};
+    const char* missing[] = {"SIGNAL_TVSERVICE_KEY missing", "UI_PARAM_UI_ID missing", "UI_PARAM_SOURCE_ID missing"};
+    for (std::size_t known = 0; known < std::size(missing); ++known)
+    {
+        EXPECT_TRUE(Handle(values));
+        EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("app_control_get_extra_data returned error -126", missing[known]));
+        EXPECT_THAT(tv.Log(DLOG_INFO), IsEmpty()); // not "complete" either
+        values.push_back(routingKeys[known % routingKeys.size()]);
+    }
+    Ask("ui_type_Message", {});
+    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("complete"));
+    EXPECT_THAT(tv.Log(DLOG_ERROR), IsEmpty());
 }
 
 TEST_F(ServiceProcessorTest, IdsAreDecimalNumbersOfWhichASourceKeepsItsLowEightBits)
 {
-    const auto close = [this](const char* uiId, const char* sourceId)
-    {
-        Handle({{"signal_type_key", "signal_tvservice"},
-                {"signal_tvservice_key", "ui_type_close"},
-                {"ui_param_ui_id", uiId},
-                {"ui_param_source_id", sourceId}});
-    };
     EXPECT_CALL(screens, Close(42, 254));
-    close(" 42abc", "510");
+    Ask("ui_type_close", {}, " 42abc", "510");
     EXPECT_CALL(screens, Close(0, 255));
-    close("x", "-1");
+    Ask("ui_type_close", {}, "x", "-1");
     EXPECT_CALL(screens, Close(-3, 0));
-    close("-3", "0x10");
+    Ask("ui_type_close", {}, "-3", "0x10");
     EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("complete"));
-}
-
-TEST_F(ServiceProcessorTest, AnUnknownKindOfScreenIsNoError)
-{
-    AskWithoutKeys("ui_type_Message");
-    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("complete"));
-    EXPECT_THAT(tv.Log(DLOG_ERROR), IsEmpty());
 }
 
 TEST_F(ServiceProcessorTest, ASignalTypeIsNeededAndASequenceDoesNothing)
@@ -268,34 +252,19 @@ TEST_F(ServiceProcessorTest, AMenuPositionStopsTheMenuAndReachesTheController)
     EXPECT_THAT(tv.deeds, IsEmpty());
 }
 
-TEST_F(ServiceProcessorTest, EachElementOfAListIsLoggedWithItsIndex)
-{
-    EXPECT_CALL(screens, ShowLoading(7, 1, "", ElementsAre("a", "", "c"), 0));
-    Handle({{"signal_type_key", "signal_tvservice"},
-            {"signal_tvservice_key", "ui_type_loading"},
-            {"ui_param_ui_id", "7"},
-            {"ui_param_source_id", "1"},
-            {"ui_param_txt", Texts{"not a text"}},
-            {"ui_param_percent", "x"},
-            {"ui_param_buttons", Texts{"a", "", "c"}}});
-    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("title:false", "percent:true", "lines[0]=a", "lines[1]=", "lines[2]=c",
-                                               "buttons:true", "complete"));
-    EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("app_control_get_extra_data returned error -17825756"));
-}
-
 // The reader of bytes and the writer serve no request yet. They are private, which an explicit instantiation may pass.
-bool ReadBytes(VESKAR_APP::ServiceProcessor& processor, const Request& request, std::vector<Byte>& bytes);
-bool Write(VESKAR_APP::ServiceProcessor& processor, const Request& request, int value);
+bool ReadBytes(VESKAR_APP::ServiceProcessor& processor, app_control_h request, std::vector<Byte>& bytes);
+bool Write(VESKAR_APP::ServiceProcessor& processor, app_control_h request, int value);
 template <auto reader, auto writer>
 struct Open
 {
-    friend bool ReadBytes(VESKAR_APP::ServiceProcessor& processor, const Request& request, std::vector<Byte>& bytes)
+    friend bool ReadBytes(VESKAR_APP::ServiceProcessor& processor, app_control_h request, std::vector<Byte>& bytes)
     {
-        return (processor.*reader)(request.Handle(), "bytes", bytes);
+        return (processor.*reader)(request, "bytes", bytes);
     }
-    friend bool Write(VESKAR_APP::ServiceProcessor& processor, const Request& request, int value)
+    friend bool Write(VESKAR_APP::ServiceProcessor& processor, app_control_h request, int value)
     {
-        return (processor.*writer)(request.Handle(), "number", value);
+        return (processor.*writer)(request, "number", value);
     }
 };
 template struct Open<&VESKAR_APP::ServiceProcessor::m_GetDataArray, &VESKAR_APP::ServiceProcessor::m_AddParameter>;
@@ -303,19 +272,20 @@ template struct Open<&VESKAR_APP::ServiceProcessor::m_GetDataArray, &VESKAR_APP:
 TEST_F(ServiceProcessorTest, BytesAreReadFromAListAndNumbersAreWrittenAsText)
 {
     std::vector<Byte> bytes;
-    EXPECT_TRUE(ReadBytes(processor, Request({{"bytes", Texts{"A", "", "zoo"}}}), bytes));
+    app_control_s request{"", {{"bytes", Texts{"A", "", "zoo"}}}};
+    EXPECT_TRUE(ReadBytes(processor, &request, bytes));
     EXPECT_THAT(bytes, ElementsAre(0x41, 0, 0x7a));
     EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("MMI message received %s41 00 7a "));
-    EXPECT_FALSE(ReadBytes(processor, Request({{"bytes", "A"}}), bytes));
-    EXPECT_EQ(bytes.size(), 3U);
 
+    app_control_s reply;
+    EXPECT_FALSE(ReadBytes(processor, &reply, bytes));
+    EXPECT_EQ(bytes.size(), 3U);
     tv.Forget();
-    const Request reply({});
-    EXPECT_TRUE(Write(processor, reply, -12));
-    EXPECT_EQ(reply.Text("number"), "-12");
+    EXPECT_TRUE(Write(processor, &reply, -12));
+    EXPECT_EQ(reply.values.at(0), (std::pair<std::string, Value>("number", "-12")));
     EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("Adding parameters: number -12"));
     tv.failing = {"app_control_add_extra_data"};
-    EXPECT_FALSE(Write(processor, reply, 3));
+    EXPECT_FALSE(Write(processor, &reply, 3));
     EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("app_control_add_extra_data failed"));
 }
 

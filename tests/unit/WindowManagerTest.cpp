@@ -60,45 +60,36 @@ struct WindowManagerTest : TvTest
     }
 };
 
-TEST_F(WindowManagerTest, AScreenIsBuiltBeforeKeysAndWindowAreTaken)
+TEST_F(WindowManagerTest, AScreenIsBuiltBeforeKeysAndWindowAreTakenAndTheOldOneGoesFirst)
 {
-    EXPECT_THAT(
-        Do([this] { Show(7, 255); }),
-        Joined({{"say T, S, text, B, "}, RELEASED, {"release navigation", "grab navigation", "activate", "restore"}}));
-    EXPECT_TRUE(evas_object_visible_get(tv.window));
-    EXPECT_TRUE(evas_object_visible_get(Popup()));
+    const Texts built{"say T, S, text, B, "};
+    EXPECT_THAT(Do([this] { Show(7, 255); }),
+                Joined({built, RELEASED, {"release navigation", "grab navigation", "activate", "restore"}}));
+    EXPECT_TRUE(evas_object_visible_get(tv.window) && evas_object_visible_get(Popup()));
     EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "uiId = 7 sourceId =255"));
-}
-
-TEST_F(WindowManagerTest, AReplacedScreenIsAnsweredAsClosedAndDeletedFirst)
-{
-    Show(7, 255);
-    EXPECT_THAT(Do([this] { Show(8, 254); }), Joined({{"iconify", CLOSED_7},
-                                                      RELEASED,
-                                                      {"say T, S, text, B, "},
-                                                      RELEASED,
-                                                      {"grab channel", "activate", "restore"}}));
-    EXPECT_TRUE(evas_object_visible_get(Popup()));
-    EXPECT_TRUE(evas_object_visible_get(tv.window));
+    const Texts closed = Joined({{"iconify", CLOSED_7}, RELEASED});
+    EXPECT_THAT(Do([this] { Show(8, 254); }),
+                Joined({closed, built, RELEASED, {"grab channel", "activate", "restore"}}));
+    EXPECT_TRUE(evas_object_visible_get(tv.window) && evas_object_visible_get(Popup()));
 }
 
 TEST_F(WindowManagerTest, TheSourceDecidesOnKeysAndClock)
 {
     struct
     {
-        unsigned char source;
-        bool noClose;
         const char* mode;
         const char* heldKey;
         std::size_t held;
+        unsigned char source;
+        bool noClose;
         bool clock;
     } const screens[] = {
-        {254, false, "Privileged mode", "XF86ChannelList", 72, false},
-        {254, true, "Privileged mode", "XF86Home", 72, false},
-        {255, false, "Normal mode", "Return", 7, true},
-        {255, true, "Normal mode", "Up", 7, false},
-        {253, false, "Dongle MMI", "XF86Exit", 7, true},
-        {0, true, "Dongle MMI", "XF86Back", 7, false},
+        {"Privileged mode", "XF86ChannelList", 72, 254, false, false},
+        {"Privileged mode", "XF86Home", 72, 254, true, false},
+        {"Normal mode", "Return", 7, 255, false, true},
+        {"Normal mode", "Up", 7, 255, true, false},
+        {"Dongle MMI", "XF86Exit", 7, 253, false, true},
+        {"Dongle MMI", "XF86Back", 7, 0, true, false},
     };
     for (const auto& screen : screens)
     {

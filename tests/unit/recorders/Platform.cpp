@@ -6,6 +6,7 @@
 #include <cstdarg>
 #include <cstring>
 #include <mutex>
+#include <sstream>
 
 #include <IVesKarController.h>
 #include <app_context_manager.h>
@@ -37,7 +38,15 @@ int Read(const std::map<std::string, Value>& values, const char* key, Value* val
     return 0;
 }
 
-class Controller : public VESKAR_API::IVesKarController
+const Value* Find(app_control_h request, const char* key)
+{
+    const auto found = std::find_if(request->values.begin(), request->values.end(),
+                                    [&](const auto& value) { return value.first == key; });
+    return found == request->values.end() ? nullptr : &found->second;
+}
+
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): never deleted.
+class Controller final : public VESKAR_API::IVesKarController
 {
     void Reserved1() override { Did("reserved", "1"); }
     void Reserved2() override { Did("reserved", "2"); }
@@ -53,13 +62,9 @@ class Controller : public VESKAR_API::IVesKarController
     bool SendResponse(int uiId, unsigned char sourceId, int kind, unsigned char button, unsigned char item,
                       std::string data) override
     {
-        std::string answer;
-        for (const int number :
-             {uiId, static_cast<int>(sourceId), kind, static_cast<int>(button), static_cast<int>(item)})
-        {
-            answer += std::to_string(number) + ' ';
-        }
-        Did("answer", answer + '"' + data + '"');
+        std::ostringstream answer;
+        answer << uiId << ' ' << +sourceId << ' ' << kind << ' ' << +button << ' ' << +item << " \"" << data << '"';
+        Did("answer", answer.str());
         return false; // nobody looks at it
     }
 };
@@ -77,6 +82,7 @@ int __dlog_print(log_id_t /*id*/, int priority, const char* /*tag*/, const char*
     va_list arguments;
     va_start(arguments, format);
     char line[4096];
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): it is started above.
     const int length = std::vsnprintf(line, sizeof line, format, arguments);
     va_end(arguments);
     const std::lock_guard<std::mutex> lock(Tv::logMutex);
@@ -98,19 +104,6 @@ int ui_app_add_event_handler(app_event_handler_h* /*handler*/, app_event_type_e 
     tv.languageChanged = callback;
     return APP_ERROR_NONE;
 }
-
-struct app_control_s
-{
-    std::string appId;
-    std::vector<std::pair<std::string, Request::Value>> values;
-
-    const Request::Value* Find(const char* key) const
-    {
-        const auto found =
-            std::find_if(values.begin(), values.end(), [&](const auto& value) { return value.first == key; });
-        return found == values.end() ? nullptr : &found->second;
-    }
-};
 
 int app_control_create(app_control_h* request)
 {
@@ -142,55 +135,31 @@ int app_control_set_app_id(app_control_h request, const char* appId)
 
 int app_control_add_extra_data(app_control_h request, const char* key, const char* value)
 {
-    if (tv.Fails("app_control_add_extra_data"))
-    {
-        return APP_CONTROL_ERROR_INVALID_PARAMETER;
-    }
     request->values.emplace_back(key, value);
-    return APP_CONTROL_ERROR_NONE;
-}
-
-int app_control_add_extra_data_array(app_control_h request, const char* key, const char* values[], int length)
-{
-    request->values.emplace_back(key, Texts(values, values + length));
-    return APP_CONTROL_ERROR_NONE;
+    return tv.Fails("app_control_add_extra_data") ? APP_CONTROL_ERROR_INVALID_PARAMETER : APP_CONTROL_ERROR_NONE;
 }
 
 int app_control_get_extra_data(app_control_h request, const char* key, char** value)
 {
-    if (tv.Fails(key))
-    {
-        return APP_CONTROL_ERROR_NONE; // and no value
-    }
-    const Request::Value* found = request->Find(key);
+    const Value* found = Find(request, key);
     if (found == nullptr)
     {
         return APP_CONTROL_ERROR_KEY_NOT_FOUND;
     }
-    const auto* text = std::get_if<std::string>(found);
-    if (text == nullptr)
-    {
-        return APP_CONTROL_ERROR_INVALID_DATA_TYPE;
-    }
-    *value = strdup(text->c_str());
+    *value = tv.Fails(key) ? nullptr : strdup(found->front().c_str());
     return APP_CONTROL_ERROR_NONE;
 }
 
 int app_control_get_extra_data_array(app_control_h request, const char* key, char*** values, int* length)
 {
-    const Request::Value* found = request->Find(key);
+    const Value* found = Find(request, key);
     if (found == nullptr)
     {
         return APP_CONTROL_ERROR_KEY_NOT_FOUND;
     }
-    const auto* texts = std::get_if<Texts>(found);
-    if (texts == nullptr)
-    {
-        return APP_CONTROL_ERROR_INVALID_DATA_TYPE;
-    }
-    *length = static_cast<int>(texts->size());
-    *values = static_cast<char**>(std::malloc(sizeof(char*) * (texts->size() + 1)));
-    std::transform(texts->begin(), texts->end(), *values, [](const std::string& text) { return strdup(text.c_str()); });
+    *length = static_cast<int>(found->size());
+    *values = static_cast<char**>(std::malloc(sizeof(char*) * (found->size() + 1)));
+    std::transform(found->begin(), found->end(), *values, [](const std::string& text) { return strdup(text.c_str()); });
     return APP_CONTROL_ERROR_NONE;
 }
 
@@ -203,7 +172,7 @@ int app_control_send_launch_request(app_control_h request, app_control_reply_cb 
     std::string launch = request->appId;
     for (const auto& [key, value] : request->values)
     {
-        launch += ' ' + key + '=' + std::get<std::string>(value);
+        launch += ' ' + key + '=' + value.front();
     }
     Did("launch", launch + (callback != nullptr || userData != nullptr ? " with reply" : ""));
     return tv.Fails("app_control_send_launch_request") ? APP_CONTROL_ERROR_APP_NOT_FOUND : APP_CONTROL_ERROR_NONE;
@@ -307,32 +276,30 @@ std::string ListText(const _KeyList* list)
 int KeyRouter_Set_KeyList(wl_surface*, const _KeyList* list)
 {
     Did("grab", ListText(list));
-    int result = tv.Fails("KeyRouter_Set_KeyList") ? 0 : 1;
     for (const KeyRouter_Key* key = list->keys; key != list->keys + list->count; ++key)
     {
-        if (result == 0 || tv.refusedKeys.count({key->name, key->mode}) != 0)
+        if (tv.Fails("KeyRouter_Set_KeyList") || tv.refusedKeys.count({key->name, key->mode}) != 0)
         {
-            result = 0;
-            continue;
+            return 0;
         }
         tv.heldKeys.erase({key->name, OtherStrength(key->mode)});
         tv.heldKeys.emplace(key->name, key->mode);
     }
-    return result;
+    return 1;
 }
 
 int KeyRouter_UnSet_KeyList(wl_surface*, const _KeyList* list)
 {
     Did("release", ListText(list));
-    int result = tv.Fails("KeyRouter_UnSet_KeyList") ? 0 : 1;
-    for (const KeyRouter_Key* key = list->keys; result != 0 && key != list->keys + list->count; ++key)
+    for (const KeyRouter_Key* key = list->keys; key != list->keys + list->count; ++key)
     {
-        if (tv.heldKeys.erase({key->name, key->mode}) == 0)
+        if (tv.Fails("KeyRouter_UnSet_KeyList") || tv.heldKeys.count({key->name, OtherStrength(key->mode)}) != 0)
         {
-            result = tv.heldKeys.count({key->name, OtherStrength(key->mode)}) == 0 ? 1 : 0;
+            return 0;
         }
+        tv.heldKeys.erase({key->name, key->mode});
     }
-    return result;
+    return 1;
 }
 
 // The toolkit assistant, on plain widgets.
@@ -349,25 +316,9 @@ Evas_Object* ea_textpage_add(Evas_Object* parent)
         return nullptr;
     }
     Evas_Object* page = elm_scroller_add(parent);
-    evas_object_name_set(page, "textpage");
-    evas_object_event_callback_add(
-        page, EVAS_CALLBACK_DEL,
-        [](void*, Evas*, Evas_Object* object, void*)
-        { evas_textblock_style_free(static_cast<Evas_Textblock_Style*>(evas_object_data_get(object, "style"))); },
-        nullptr);
+    tv.currentPages[page] = 0;
     return page;
 }
-
-namespace
-{
-
-bool IsTextPage(const Evas_Object* object)
-{
-    const char* name = evas_object_name_get(object);
-    return name != nullptr && std::strcmp(name, "textpage") == 0;
-}
-
-} // namespace
 
 void ea_textpage_text_set(Evas_Object*, char* text)
 {
@@ -378,23 +329,24 @@ void ea_textpage_text_set(Evas_Object*, char* text)
 void ea_textpage_page_show(Evas_Object* page, int number)
 {
     Did("page", std::to_string(number));
-    evas_object_data_set(page, "current", reinterpret_cast<void*>(static_cast<intptr_t>(number)));
+    tv.currentPages.at(page) = number;
 }
 
 int ea_textpage_current_page_get(const Evas_Object* page)
 {
-    return static_cast<int>(reinterpret_cast<intptr_t>(evas_object_data_get(page, "current")));
+    const auto found = tv.currentPages.find(page);
+    return found == tv.currentPages.end() ? 0 : found->second;
 }
 
 int ea_textpage_total_page_get(const Evas_Object* page)
 {
-    return IsTextPage(page) ? tv.textPages : 0;
+    return tv.currentPages.count(page) != 0 ? 3 : 0;
 }
 
-void ea_textpage_textblock_style_set(Evas_Object* page, Evas_Textblock_Style* style)
+void ea_textpage_textblock_style_set(Evas_Object*, Evas_Textblock_Style* style)
 {
     tv.pageStyle = evas_textblock_style_get(style);
-    evas_object_data_set(page, "style", style);
+    evas_textblock_style_free(style); // the page's, and nothing is drawn
 }
 
 Evas_Object* ea_pin_add(Evas_Object* parent, int length, Ea_Pin_Entered_Cb callback, void*)
@@ -405,7 +357,6 @@ Evas_Object* ea_pin_add(Evas_Object* parent, int length, Ea_Pin_Entered_Cb callb
     }
     Did("pin", std::to_string(length));
     Evas_Object* pin = elm_button_add(parent);
-    evas_object_name_set(pin, "pin");
     evas_object_data_set(pin, "entered", reinterpret_cast<void*>(callback));
     return pin;
 }

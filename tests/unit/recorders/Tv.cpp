@@ -1,8 +1,6 @@
 #include "Tv.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
 
 Tv tv;
 
@@ -16,26 +14,24 @@ Texts Tv::Did(const std::string& verb) const
 
 Texts Tv::DeedsByKeyGroup() const
 {
+    constexpr std::pair<const char*, const char*> groups[] = {{" XF86Exit:5", " navigation"},
+                                                              {" XF86AudioRewind:5", " PVR"},
+                                                              {" XF86Exit", " exit"},
+                                                              {" XF86", " channel"},
+                                                              {" ", " number"}};
     Texts found;
-    for (const std::string& deed : deeds)
+    for (std::string deed : deeds)
     {
-        const std::size_t blank = deed.find(' ');
-        const std::string verb = deed.substr(0, blank);
-        std::string group = deed;
+        const std::string verb = deed.substr(0, deed.find(' '));
+        const auto* group = std::find_if(std::begin(groups), std::end(groups),
+                                         [&](const auto& keys) { return deed.rfind(verb + keys.first, 0) == 0; });
         if (verb == "grab" || verb == "release")
         {
-            const std::string keys = deed.substr(blank + 1);
-            const bool list = keys.find(' ') != std::string::npos;
-            const char* name = list && keys.find("Return") != std::string::npos ? "navigation"
-                               : list                                           ? "PVR"
-                               : keys.rfind("XF86Exit:", 0) == 0                ? "exit"
-                               : keys.rfind("XF86", 0) == 0                     ? "channel"
-                                                                                : "number";
-            group = verb + ' ' + name;
+            deed = verb + group->second;
         }
-        if (found.empty() || found.back() != group)
+        if (found.empty() || found.back() != deed)
         {
-            found.push_back(group);
+            found.push_back(deed);
         }
     }
     return found;
@@ -58,7 +54,7 @@ Texts Tv::Log(int priority) const
 {
     const std::map<int, std::string> colours{
         {DLOG_DEBUG, ""}, {DLOG_INFO, "\x1b[32m"}, {DLOG_WARN, "\x1b[33m"}, {DLOG_ERROR, "\x1b[31m"}};
-    const std::string before = colours.at(priority);
+    const std::string& before = colours.at(priority);
     const std::string after = before.empty() ? "" : "\x1b[0m";
     Texts found;
     const std::lock_guard<std::mutex> lock(logMutex);
@@ -73,31 +69,4 @@ Texts Tv::Log(int priority) const
         }
     }
     return found;
-}
-
-Request::Request(std::initializer_list<std::pair<const char*, Value>> values)
-{
-    app_control_create(&m_handle);
-    for (const auto& [key, value] : values)
-    {
-        if (const auto* text = std::get_if<std::string>(&value))
-        {
-            app_control_add_extra_data(m_handle, key, text->c_str());
-            continue;
-        }
-        std::vector<const char*> elements;
-        for (const std::string& element : std::get<Texts>(value))
-        {
-            elements.push_back(element.c_str());
-        }
-        app_control_add_extra_data_array(m_handle, key, elements.data(), static_cast<int>(elements.size()));
-    }
-}
-
-std::string Request::Text(const char* key) const
-{
-    char* value = nullptr;
-    app_control_get_extra_data(m_handle, key, &value);
-    const std::unique_ptr<char, decltype(&std::free)> owner(value, std::free);
-    return value == nullptr ? "(unset)" : value;
 }

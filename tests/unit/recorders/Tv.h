@@ -10,7 +10,6 @@
 #include <set>
 #include <string>
 #include <utility>
-#include <variant>
 #include <vector>
 
 #include <Elementary.h>
@@ -19,6 +18,20 @@
 #include <ecore_wayland.h>
 
 using Texts = std::vector<std::string>;
+
+/** A request's value: one text, or a list of them. */
+struct Value : Texts
+{
+    Value(const char* text) : Texts{text} {}
+    Value(Texts texts) : Texts(std::move(texts)) {}
+};
+
+/** A request, which a test may also make itself. */
+struct app_control_s
+{
+    std::string appId;
+    std::vector<std::pair<std::string, Value>> values;
+};
 
 struct LogLine
 {
@@ -39,7 +52,6 @@ struct Tv
     bool hasController = true;
     bool hasWaylandDisplay = true;
     std::vector<Ecore_Wl2_Global> globals{{"wl_seat", 3, 7, nullptr}, {"tizen_keyrouter", 42, 1, nullptr}};
-    int textPages = 3;
     int loopResult = APP_ERROR_NONE;
     std::function<void()> whileTheLoopRuns = [] {
     };
@@ -54,6 +66,7 @@ struct Tv
     ui_app_lifecycle_callback_s application{};
     void* applicationData = nullptr;
     app_event_cb languageChanged = nullptr;
+    std::map<const Evas_Object*, int> currentPages; // of the text pages; each has three
     std::string pageText;
     std::string pageStyle;
 
@@ -73,18 +86,3 @@ struct Tv
 
 /** A new TV for each test. */
 extern Tv tv;
-
-/** A request as the platform delivers it; destroyed with it. */
-class Request
-{
-public:
-    using Value = std::variant<std::string, Texts>;
-    Request(std::initializer_list<std::pair<const char*, Value>> values);
-    ~Request() { app_control_destroy(m_handle); }
-
-    app_control_h const& Handle() const { return m_handle; }
-    std::string Text(const char* key) const;
-
-private:
-    app_control_h m_handle = nullptr;
-};
