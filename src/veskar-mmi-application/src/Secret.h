@@ -16,7 +16,10 @@ namespace VESKAR_APP
 template <typename Text>
 void Wipe(Text& text)
 {
-    explicit_bzero(text.data(), text.size());
+    if (!text.empty()) // an empty vector has no memory at all
+    {
+        explicit_bzero(text.data(), text.size());
+    }
 }
 
 /** Overwrites each block as it frees it, those that a growing container leaves behind included. */
