@@ -79,7 +79,7 @@ TEST_F(PinEntryTest, MoreOpensTheNumberPadWhichGoesWithTheScreen)
     tv.features["com.brelmon/featureconf/bt_profile_bt_smart_control"] = true;
     tv.numbers["memory/function-osd/number_pad_show"] = 0;
     Show();
-    Type({"XF86More"});
+    Type({"1", "2", "XF86More"});
     EXPECT_THAT(tv.Did("launch"), ElementsAre("launch org.tizen.function-osd type=number_zip cmd=show tts=skip"));
     tv.numbers["memory/function-osd/number_pad_show"] = 1;
     Evas_Object* field = Field();
@@ -87,6 +87,11 @@ TEST_F(PinEntryTest, MoreOpensTheNumberPadWhichGoesWithTheScreen)
     EXPECT_EQ(tv.Did("launch").back(), "launch org.tizen.function-osd cmd=hide");
     EXPECT_FALSE(evas_object_visible_get(field));
     EXPECT_FALSE(evas_object_visible_get(entry->t_popup));
+
+    answers.clear();
+    entry->Show(); // the digits went with the screen
+    Type({"5", "6", "7", "8"});
+    EXPECT_THAT(answers, ElementsAre("key", "key", "key", "pin 5678", "key"));
 }
 
 TEST_F(PinEntryTest, WithoutItsFieldTheScreenIsStillShown)
