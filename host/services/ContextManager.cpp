@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 ContextManager::ContextManager(sdbus::IConnection& connection, TaskRequested taskRequested)
     : m_object(sdbus::createObject(connection, Manager::path))
@@ -20,4 +20,4 @@ ContextManager::ContextManager(sdbus::IConnection& connection, TaskRequested tas
             });
     m_object->finishRegistration();
 }
-} // namespace VESKAR_DESK
+} // namespace veskar

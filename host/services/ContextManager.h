@@ -6,7 +6,7 @@
 #include <functional>
 #include <memory>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 class ContextManager
 {
@@ -18,4 +18,4 @@ public:
 private:
     std::unique_ptr<sdbus::IObject> m_object;
 };
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 /** A service request as it travels: each value one string or one array of strings. */
 using RequestData = std::map<std::string, sdbus::Variant>;
@@ -83,4 +83,4 @@ inline const std::string noApplication = "org.tizen.VesKarDesk1.Error.NoApplicat
 /** The application went away without an answer. */
 inline const std::string gone = "org.tizen.VesKarDesk1.Error.Gone";
 } // namespace Desk
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 void MenuCallers::Add(const std::string& client)
 {
@@ -34,4 +34,4 @@ std::string MenuCallers::EndTurn()
 {
     return std::exchange(m_turn, {});
 }
-} // namespace VESKAR_DESK
+} // namespace veskar

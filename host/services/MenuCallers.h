@@ -4,7 +4,7 @@
 #include <deque>
 #include <string>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 /**
  * The application handles one menu request after the other, and each makes it ask for a task first and then, where it
@@ -26,4 +26,4 @@ private:
     std::deque<std::string> m_waiting;
     std::string m_turn;
 };
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -5,7 +5,7 @@
 #include <sstream>
 #include <utility>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 namespace
 {
@@ -270,4 +270,4 @@ void Middleware::m_Signal(const std::string& client, const std::string& name, co
     (signal << ... << args);
     m_object->emitSignal(signal);
 }
-} // namespace VESKAR_DESK
+} // namespace veskar

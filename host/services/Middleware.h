@@ -10,7 +10,7 @@
 #include <memory>
 #include <string>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 /** Everything happens on the thread that serves the connection. */
 class Middleware
@@ -53,4 +53,4 @@ private:
     MenuCallers m_menuCallers;
     Clock::time_point m_deadline = never;
 };
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 void Print(const std::string& line)
 {
@@ -26,4 +26,4 @@ std::string Secret(const std::string& text)
     }
     return std::to_string(text.size()) + " bytes";
 }
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 void Print(const std::string& line);
 
@@ -12,4 +12,4 @@ std::string Quoted(const std::string& text);
 
 /** What may be told of an answer's text, which may be a PIN: its length, or all of it with VESKAR_LOG_SECRETS=1. */
 std::string Secret(const std::string& text);
-} // namespace VESKAR_DESK
+} // namespace veskar

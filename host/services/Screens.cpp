@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 std::weak_ptr<Waiter> Screens::Add(std::string client, ScreenIds screen, Waiter::Result result)
 {
@@ -57,4 +57,4 @@ void Screens::RemoveClient(const std::string& client)
 {
     m_waiters.remove_if([&client](const std::shared_ptr<Waiter>& waiter) { return waiter->client == client; });
 }
-} // namespace VESKAR_DESK
+} // namespace veskar

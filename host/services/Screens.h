@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 struct ScreenIds
 {
@@ -71,4 +71,4 @@ public:
 private:
     std::list<std::shared_ptr<Waiter>> m_waiters;
 };
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 namespace
 {
@@ -46,4 +46,4 @@ bool ServeOnce(sdbus::IConnection& connection, Clock::time_point deadline)
     ::poll(&descriptor, 1, Shorter(bus.getPollTimeout(), MillisecondsUntil(deadline)));
     return true;
 }
-} // namespace VESKAR_DESK
+} // namespace veskar

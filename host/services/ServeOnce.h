@@ -5,7 +5,7 @@
 
 #include <chrono>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 using Clock = std::chrono::steady_clock;
 inline constexpr Clock::time_point never = Clock::time_point::max();
@@ -15,4 +15,4 @@ inline constexpr Clock::time_point never = Clock::time_point::max();
  * one. Throws sdbus::Error when the bus is gone.
  */
 bool ServeOnce(sdbus::IConnection& connection, Clock::time_point deadline);
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 namespace
 {
@@ -73,4 +73,4 @@ void StandIn::m_Say(const std::string& what) const
 {
     Print(m_appId + " " + what);
 }
-} // namespace VESKAR_DESK
+} // namespace veskar

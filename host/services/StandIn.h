@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 class StandIn
 {
@@ -27,4 +27,4 @@ private:
     std::function<void()> m_terminated;
     std::unique_ptr<sdbus::IObject> m_object;
 };
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -8,7 +8,7 @@
 
 #include <list>
 
-using namespace VESKAR_DESK;
+using namespace veskar;
 
 namespace
 {

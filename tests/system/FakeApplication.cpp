@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <utility>
 
-using namespace VESKAR_DESK;
+using namespace veskar;
 
 FakeApplication::FakeApplication()
     : m_bus(sdbus::createSessionBusConnection()),

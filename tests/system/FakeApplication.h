@@ -17,7 +17,7 @@ public:
     FakeApplication();
 
     /** Handles requests until one more was taken, and returns it: the sender has its reply then. */
-    VESKAR_DESK::RequestData Take();
+    veskar::RequestData Take();
     /** The next request runs this before its reply; an sdbus::Error that it throws is the reply. */
     void WhileHandling(std::function<void()> action) { m_whileHandling = std::move(action); }
 
@@ -26,16 +26,16 @@ public:
     void OpenMenuPosition(int position);
 
     /** Has the name only in between. */
-    void Arrive() { m_bus->requestName(VESKAR_DESK::Application::id); }
-    void Leave() { m_bus->releaseName(VESKAR_DESK::Application::id); }
+    void Arrive() { m_bus->requestName(veskar::Application::id); }
+    void Leave() { m_bus->releaseName(veskar::Application::id); }
 
 private:
-    void m_Handle(const VESKAR_DESK::RequestData& request);
+    void m_Handle(const veskar::RequestData& request);
 
     std::unique_ptr<sdbus::IConnection> m_bus;
     std::unique_ptr<sdbus::IProxy> m_middleware;
     std::unique_ptr<sdbus::IProxy> m_contextManager;
     std::unique_ptr<sdbus::IObject> m_object;
     std::function<void()> m_whileHandling;
-    std::deque<VESKAR_DESK::RequestData> m_taken;
+    std::deque<veskar::RequestData> m_taken;
 };

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace VESKAR_DESK;
+using namespace veskar;
 
 namespace
 {

@@ -2,7 +2,7 @@
 #include "FakeApplication.h"
 #include "Tv.h"
 
-using namespace VESKAR_DESK;
+using namespace veskar;
 
 namespace
 {

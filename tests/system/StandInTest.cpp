@@ -2,7 +2,7 @@
 #include "DeskBus.h"
 #include "Tv.h"
 
-using namespace VESKAR_DESK;
+using namespace veskar;
 
 class StandInTest : public TvTest
 {

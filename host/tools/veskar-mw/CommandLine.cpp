@@ -10,7 +10,7 @@
 #include <map>
 #include <stdexcept>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 namespace
 {
@@ -214,4 +214,4 @@ std::variant<Command, int> ParseCommandLine(int argc, char** argv)
         std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::duration<double>{general.timeout});
     return Command{request, timeout, !general.noWait};
 }
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -6,7 +6,7 @@
 #include <chrono>
 #include <variant>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 struct Command
 {
@@ -18,4 +18,4 @@ struct Command
 
 /** The command, or the process's exit status where help was asked for or the usage is wrong (said on stderr). */
 std::variant<Command, int> ParseCommandLine(int argc, char** argv);
-} // namespace VESKAR_DESK
+} // namespace veskar

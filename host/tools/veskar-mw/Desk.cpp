@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <optional>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 namespace
 {
@@ -100,4 +100,4 @@ Failure FailureOf(const sdbus::Error& error)
     }
     return {ExitStatus::unavailable, error.getMessage().empty() ? error.getName() : error.getMessage()};
 }
-} // namespace VESKAR_DESK
+} // namespace veskar

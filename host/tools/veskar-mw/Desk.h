@@ -10,7 +10,7 @@
 #include <functional>
 #include <memory>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 /**
  * Every operation waits at most the time given with the construction, all of them together; each throws sdbus::Error
@@ -45,4 +45,4 @@ struct Failure
     std::string text;
 };
 Failure FailureOf(const sdbus::Error& error);
-} // namespace VESKAR_DESK
+} // namespace veskar

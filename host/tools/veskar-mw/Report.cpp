@@ -4,7 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 namespace
 {
@@ -55,4 +55,4 @@ int StatusOf(const ScreenAnswer& answer)
 {
     return ResultOf(answer.kind).status;
 }
-} // namespace VESKAR_DESK
+} // namespace veskar

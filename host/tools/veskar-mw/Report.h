@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 namespace ExitStatus
 {
@@ -34,4 +34,4 @@ std::string TaskToJson(const std::string& task, const std::string& action);
 std::string MenuPositionToJson(int position);
 
 int StatusOf(const ScreenAnswer& answer);
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -3,7 +3,7 @@
 #include <sstream>
 #include <stdexcept>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 namespace
 {
@@ -150,4 +150,4 @@ int Request::m_Number(const char* key) const
     }
     return value;
 }
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 using Texts = std::vector<std::string>;
 
@@ -52,4 +52,4 @@ private:
 
     std::map<std::string, Value> m_values;
 };
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -1,6 +1,6 @@
 #include "ScreenKinds.h"
 
-namespace VESKAR_DESK
+namespace veskar
 {
 namespace
 {
@@ -57,4 +57,4 @@ const std::vector<ScreenKind>& ScreenKinds()
     };
     return s_kinds;
 }
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace VESKAR_DESK
+namespace veskar
 {
 /** How an option's value is carried. */
 enum class Encoding
@@ -37,4 +37,4 @@ struct ScreenKind
 };
 
 const std::vector<ScreenKind>& ScreenKinds();
-} // namespace VESKAR_DESK
+} // namespace veskar

@@ -4,7 +4,7 @@
 
 #include <iostream>
 
-using namespace VESKAR_DESK;
+using namespace veskar;
 
 namespace
 {
