@@ -131,8 +131,10 @@ TEST_F(MwTest, RequestThatGoesNowhereHasItsOwnStatus)
 TEST_F(MwTest, BadUsageIsRefusedWithoutARequest)
 {
     for (const std::string usage :
-         {"", "bogus", "menu", "raw a", "raw a=1 a[]=2", "--source-id 256 message", "--timeout 0 message",
-          "message --title $(printf '\\377')", "list --entries-from /nowhere"})
+         {"", "bogus", "menu", "menu nowhere", "raw a", "raw a=1 a[]=2", "--source-id 256 message",
+          "--ui-id 010 message", "--timeout 0 message", "--timeout nan message", "image --width 0x10",
+          "image --height -1", "progress --percent 101", "message --title $(printf '\\377')",
+          "list --entries-from /nowhere"})
     {
         Process mw({"sh", "-c", "veskar-mw " + usage});
         EXPECT_EQ(mw.Status(), 64) << usage;
@@ -153,7 +155,7 @@ TEST_F(MwTest, RawWaitsForTheScreenWithTheIdsAmongItsValues)
 
 TEST_F(MwTest, MenuTellsTheTaskAndThePositionOfItsOwnRequest)
 {
-    Process unknown = Mw({"--timeout", "0.5", "menu", "nowhere"});
+    Process unknown = Mw({"--timeout", "0.5", "raw", "signal_type_key=signal_menu_pos", "menu_pos_key=nowhere"});
     EXPECT_EQ(m_application.Take().at("menu_pos_key").get<std::string>(), "nowhere");
     m_application.AskForTask("name:menu ", "stop");
     Process known = Mw({"menu", "veskar_info"});

@@ -51,6 +51,16 @@ Texts Lines(const std::string& fileName)
     return lines;
 }
 
+/** Keeps out what the library would take as well: nan, and numbers that it reads to another base than ten. */
+std::string CheckDecimal(const std::string& text)
+{
+    const std::size_t digits = text.find_first_not_of("+-");
+    const bool otherBase =
+        digits != std::string::npos && text[digits] == '0' && text.size() > digits + 1 && text[digits + 1] != '.';
+    const bool decimal = !otherBase && text.find_first_not_of("+-.0123456789") == std::string::npos;
+    return decimal ? "" : "\"" + text + "\" is not a decimal number";
+}
+
 /** Gives the request its default for the field and lets the option, where it is given, replace it. */
 void AddField(CLI::App& kind, const Field& field, Request& request)
 {
@@ -66,7 +76,9 @@ void AddField(CLI::App& kind, const Field& field, Request& request)
         request.SetNumber(key, field.defaultNumber);
         kind.add_option_function<int>(
                 field.option, [&request, key](int number) { request.SetNumber(key, number); }, field.help)
-            ->default_str(std::to_string(field.defaultNumber));
+            ->default_str(std::to_string(field.defaultNumber))
+            ->check(CheckDecimal)
+            ->check(CLI::Range(0, field.highestNumber));
         break;
     case Encoding::flag:
         request.SetFlag(key, false);
@@ -103,12 +115,14 @@ void AddGeneral(CLI::App& app, General& general)
 {
     constexpr double shortest = 1e-3;
     constexpr double longest = 1e9;
-    app.add_option("--ui-id", general.uiId, "The screen's id")->capture_default_str();
+    app.add_option("--ui-id", general.uiId, "The screen's id")->capture_default_str()->check(CheckDecimal);
     app.add_option("--source-id", general.sourceId, "Who asks: 254 privileged, 255 normal, else the access module")
         ->capture_default_str()
+        ->check(CheckDecimal)
         ->check(CLI::Range(0, 255));
     app.add_option("--timeout", general.timeout, "Seconds to wait for the answer")
         ->capture_default_str()
+        ->check(CheckDecimal)
         ->check(CLI::Range(shortest, longest));
     app.add_flag("--no-wait", general.noWait, "Do not wait for the answer");
 }
@@ -141,8 +155,8 @@ void AddOthers(CLI::App& app, Requests& requests)
     Request& menu = requests["menu"];
     app.add_subcommand("menu", "Open a menu; prints what is asked of the context manager and the middleware for it")
         ->add_option_function<std::string>(
-            "POSITION", [&menu](const std::string& position) { menu = Request::Menu(position); },
-            "veskar_menu, veskar_info, veskar_add_op or veskar_delete_op")
+            "POSITION", [&menu](const std::string& position) { menu = Request::Menu(position); }, "Which one")
+        ->check(CLI::IsMember({"veskar_menu", "veskar_info", "veskar_add_op", "veskar_delete_op"}))
         ->required();
 
     Request& raw = requests[s_raw];

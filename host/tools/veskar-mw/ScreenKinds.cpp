@@ -19,7 +19,7 @@ const Field s_format{"ui_param_format", "--format", Encoding::text, "L, R or C f
 const Field s_header{"ui_param_header", "--header", Encoding::flag, "The first row is a header"};
 const Field s_width{"ui_param_image_width", "--width", Encoding::number, "The image's width in design pixels"};
 const Field s_height{"ui_param_image_height", "--height", Encoding::number, "The image's height in design pixels"};
-const Field s_percent{"ui_param_percent", "--percent", Encoding::number, "How far it is"};
+const Field s_percent{"ui_param_percent", "--percent", Encoding::number, "How far it is, up to 100", 0, 100};
 const Field s_image{"ui_param_image_location", "--image", Encoding::text, "The image's file"};
 const Field s_images{"ui_param_multiple_image_locations", "--image", Encoding::texts,
                      "The image of a row, in the rows' order (repeatable)"};

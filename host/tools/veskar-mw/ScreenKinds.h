@@ -1,6 +1,7 @@
 /** The screens that can be asked for, and which option of the command line becomes which value of the request. */
 #pragma once
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,8 @@ struct Field
     Encoding encoding;
     std::string help;
     int defaultNumber = 0;
+    /** What is over it, or under 0, can only be a slip; `raw` sends it all the same. */
+    int highestNumber = std::numeric_limits<int>::max();
 };
 
 struct ScreenKind

@@ -81,16 +81,16 @@ Evas_Object* ImageListPopup::m_CreateWindowContent(Evas_Object* parent, Evas_Obj
         return nullptr;
     }
     ListDisplay::m_CreateWindowContent(parent, box);
+    Evas_Object* spacer = EFL_GUARD(elm_box_add, m_contentBox);
     {
         const MainLoopSection section;
         evas_object_size_hint_weight_set(m_menuList, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
         evas_object_size_hint_align_set(m_menuList, EVAS_HINT_FILL, EVAS_HINT_FILL);
         elm_box_pack_end(m_contentBox, m_menuList);
-
-        Evas_Object* spacer = elm_box_add(m_contentBox);
-        evas_object_size_hint_min_set(spacer, SPACER_WIDTH, m_imageHeight);
         elm_box_pack_end(m_contentBox, spacer);
     }
+    m_size.emplace(t_mainWindow);
+    m_size->Ask(spacer, SPACER_WIDTH, m_imageHeight);
     m_imageBox = EFL_GUARD(elm_box_add, m_contentBox);
     if (m_imageBox == nullptr)
     {
@@ -200,9 +200,9 @@ void ImageListPopup::m_UpdateImage()
     }
     const int width = ScaledSize(m_imageWidth);
     const int height = ScaledSize(m_imageHeight);
+    m_size->Ask(m_image, width, height);
     {
         const MainLoopSection section;
-        evas_object_size_hint_min_set(m_image, width, height);
         evas_object_size_hint_max_set(m_image, ELM_SCALE_SIZE(MAX_IMAGE_WIDTH), height);
         evas_object_size_hint_weight_set(m_image, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
         evas_object_size_hint_align_set(m_image, EVAS_HINT_FILL, EVAS_HINT_FILL);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ListDisplay.h"
+#include "YieldingSize.h"
 
 namespace VESKAR_APP
 {
@@ -60,6 +61,7 @@ private:
     int m_imageWidth;
     int m_imageHeight;
     unsigned int m_currentIndex;
+    std::optional<YieldingSize> m_size;
 };
 
 } // namespace VESKAR_APP

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "BaseDisplay.h"
+#include "YieldingSize.h"
+
+#include <optional>
 
 namespace VESKAR_APP
 {
@@ -25,6 +28,7 @@ private:
     int m_width;
     int m_height;
     bool m_noClose;
+    std::optional<YieldingSize> m_size;
 };
 
 } // namespace VESKAR_APP

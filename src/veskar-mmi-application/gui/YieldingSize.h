@@ -1,0 +1,50 @@
+#pragma once
+
+#include <vector>
+
+#include <Elementary.h>
+
+namespace VESKAR_APP
+{
+
+/**
+ * The sizes that a screen's image and what stands beside it ask for. The toolkit never makes anything smaller than it
+ * asks to be, so an image too large for the window would push the texts around it out of view. Where that happens these
+ * objects ask for less, until the whole screen fits.
+ *
+ * Belongs to the screen and goes before its widgets; the destructor takes every callback back.
+ */
+class YieldingSize
+{
+public:
+    explicit YieldingSize(Evas_Object* window);
+    ~YieldingSize();
+
+    YieldingSize(const YieldingSize&) = delete;
+    YieldingSize& operator=(const YieldingSize&) = delete;
+
+    /** The least size in pixels that `object` shall have if it can; asked again, it replaces what was asked before. */
+    void Ask(Evas_Object* object, int width, int height);
+
+private:
+    struct Wish
+    {
+        Evas_Object* object;
+        int width;
+        int height;
+    };
+
+    static void s_OnRender(void* data, Evas* evas, void* eventInfo);
+    static void s_OnWindowResized(void* data, Evas* evas, Evas_Object* window, void* eventInfo);
+
+    /** Lowers the limits by as much as the screen is too large; false when it fits, or nothing is left to lower. */
+    bool m_Yield();
+    void m_Apply() const;
+
+    Evas_Object* m_window;
+    std::vector<Wish> m_wishes;
+    int m_maxWidth;
+    int m_maxHeight;
+};
+
+} // namespace VESKAR_APP
