@@ -1,5 +1,7 @@
-/** The names on the desk's bus, as the daemon owns them and the tools call them. */
+/** The desk's own names on the TV's bus, as the daemon owns them and the tools call them. */
 #pragma once
+
+#include "TvBus.h"
 
 #include <sdbus-c++/sdbus-c++.h>
 
@@ -10,51 +12,6 @@ namespace veskar
 {
 /** A service request as it travels: each value one string or one array of strings. */
 using RequestData = std::map<std::string, sdbus::Variant>;
-
-/** What every application of the TV has on the bus, under its own id. */
-namespace Application
-{
-inline const std::string id = "org.tizen.veskar-app";
-inline const std::string interface = "org.tizen.Application1";
-inline const std::string appControl = "AppControl";
-
-/** An application's object path: its id with slashes for dots, and underscores for what a path cannot hold. */
-inline std::string PathOf(const std::string& appId)
-{
-    std::string path = "/" + appId;
-    for (char& letter : path)
-    {
-        letter = letter == '.' ? '/' : letter == '-' ? '_' : letter;
-    }
-    return path;
-}
-} // namespace Application
-
-/** Where the application's answers and menu positions go. */
-namespace Controller
-{
-inline const std::string busName = "org.tizen.veskar-middleware";
-inline const std::string path = "/org/tizen/veskar_middleware";
-inline const std::string interface = "org.tizen.VesKarController1";
-inline const std::string sendResponse = "SendResponse";
-inline const std::string openMenuPosition = "OpenMenuPosition";
-
-/** The kinds of an answer. */
-enum Kind : int
-{
-    answered = 0,
-    closed = 2,
-    back = 3
-};
-} // namespace Controller
-
-namespace Manager
-{
-inline const std::string busName = "org.tizen.context-manager";
-inline const std::string path = "/org/tizen/context_manager";
-inline const std::string interface = "org.tizen.ContextManager1";
-inline const std::string requestTask = "RequestTask";
-} // namespace Manager
 
 /**
  * The desk's own interface on the middleware's object: whoever sits at the desk plays the middleware through it. The

@@ -76,7 +76,8 @@ void Reply(const sdbus::Result<>& result, const sdbus::Error* refusal)
 
 Middleware::Middleware(sdbus::IConnection& connection)
     : m_object(sdbus::createObject(connection, Controller::path)),
-      m_application(sdbus::createProxy(connection, Application::id, Application::PathOf(Application::id))),
+      m_application(
+          sdbus::createProxy(connection, Applications::dialogues, Applications::PathOf(Applications::dialogues))),
       m_bus(sdbus::createProxy(connection, "org.freedesktop.DBus", "/org/freedesktop/DBus"))
 {
     m_RegisterController();
@@ -220,7 +221,7 @@ void Middleware::m_OpenMenuPosition(std::int32_t position)
 
 void Middleware::m_OwnerChanged(const std::string& name, const std::string& oldOwner, const std::string& newOwner)
 {
-    if (name == Application::id)
+    if (name == Applications::dialogues)
     {
         Print(name + (newOwner.empty() ? " left the bus" : " is on the bus"));
         m_deadline = never;
@@ -240,8 +241,8 @@ void Middleware::m_OwnerChanged(const std::string& name, const std::string& oldO
 
 void Middleware::m_Forward(const RequestData& request, Delivered delivered)
 {
-    m_application->callMethodAsync(Application::appControl)
-        .onInterface(Application::interface)
+    m_application->callMethodAsync(Applications::appControl)
+        .onInterface(Applications::interface)
         .withArguments(request)
         .uponReplyInvoke(
             [delivered = std::move(delivered)](const sdbus::Error* error)

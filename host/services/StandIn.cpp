@@ -39,7 +39,7 @@ std::string TextOf(const RequestData& request)
 
 StandIn::StandIn(sdbus::IConnection& connection, const std::string& appId, std::function<void()> terminated)
     : m_appId(appId), m_terminated(std::move(terminated)),
-      m_object(sdbus::createObject(connection, Application::PathOf(appId)))
+      m_object(sdbus::createObject(connection, Applications::PathOf(appId)))
 {
     m_RegisterMethods();
     connection.requestName(m_appId);
@@ -48,18 +48,18 @@ StandIn::StandIn(sdbus::IConnection& connection, const std::string& appId, std::
 
 void StandIn::m_RegisterMethods()
 {
-    m_object->registerMethod(Application::appControl)
-        .onInterface(Application::interface)
+    m_object->registerMethod(Applications::appControl)
+        .onInterface(Applications::interface)
         .withInputParamNames("request")
-        .implementedAs([this](const RequestData& request) { m_Say(Application::appControl + TextOf(request)); });
+        .implementedAs([this](const RequestData& request) { m_Say(Applications::appControl + TextOf(request)); });
     for (const char* method : {"Pause", "Resume"})
     {
         m_object->registerMethod(method)
-            .onInterface(Application::interface)
+            .onInterface(Applications::interface)
             .implementedAs([this, method] { m_Say(method); });
     }
     m_object->registerMethod("Terminate")
-        .onInterface(Application::interface)
+        .onInterface(Applications::interface)
         .implementedAs(
             [this]
             {

@@ -11,10 +11,10 @@ FakeApplication::FakeApplication()
     : m_bus(sdbus::createSessionBusConnection()),
       m_middleware(sdbus::createProxy(*m_bus, Controller::busName, Controller::path)),
       m_contextManager(sdbus::createProxy(*m_bus, Manager::busName, Manager::path)),
-      m_object(sdbus::createObject(*m_bus, Application::PathOf(Application::id)))
+      m_object(sdbus::createObject(*m_bus, Applications::PathOf(Applications::dialogues)))
 {
-    m_object->registerMethod(Application::appControl)
-        .onInterface(Application::interface)
+    m_object->registerMethod(Applications::appControl)
+        .onInterface(Applications::interface)
         .implementedAs([this](const RequestData& request) { m_Handle(request); });
     m_object->finishRegistration();
 }

@@ -26,8 +26,8 @@ public:
     void OpenMenuPosition(int position);
 
     /** Has the name only in between. */
-    void Arrive() { m_bus->requestName(veskar::Application::id); }
-    void Leave() { m_bus->releaseName(veskar::Application::id); }
+    void Arrive() { m_bus->requestName(veskar::Applications::dialogues); }
+    void Leave() { m_bus->releaseName(veskar::Applications::dialogues); }
 
 private:
     void m_Handle(const veskar::RequestData& request);

@@ -10,7 +10,7 @@ protected:
     static Process StandFor(const std::string& appIds)
     {
         return Process(
-            {"sh", "-c", "exec \"$VESKAR_BUILD_DIR/host/services/veskar-services\" --own " + appIds + " 2>&1"});
+            {"sh", "-c", "exec veskar-services --own " + appIds + " 2>&1"});
     }
 
     static bool Says(const Process& process, const std::string& text)
@@ -20,9 +20,9 @@ protected:
 
     void Call(const std::string& appId, const std::string& method)
     {
-        sdbus::createProxy(*m_bus, appId, Application::PathOf(appId))
+        sdbus::createProxy(*m_bus, appId, Applications::PathOf(appId))
             ->callMethod(method)
-            .onInterface(Application::interface);
+            .onInterface(Applications::interface);
     }
 };
 
@@ -34,8 +34,8 @@ TEST_F(StandInTest, SaysWhatItIsAskedAndEndsWithTheLastOfItsApplications)
     const RequestData request{{"cmd", sdbus::Variant{"show\n"}},
                               {"rows", sdbus::Variant{std::vector<std::string>{"a"}}}};
     sdbus::createProxy(*m_bus, "org.tizen.ep-hotel-factory", "/org/tizen/ep_hotel_factory")
-        ->callMethod(Application::appControl)
-        .onInterface(Application::interface)
+        ->callMethod(Applications::appControl)
+        .onInterface(Applications::interface)
         .withArguments(request);
     EXPECT_TRUE(Says(standIn, R"(org.tizen.ep-hotel-factory AppControl "cmd"="show\n" "rows"=["a"])"));
 
