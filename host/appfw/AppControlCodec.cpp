@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "BusName.h"
+#include "TvBus.h"
 
 namespace veskar
 {
@@ -53,12 +54,8 @@ public:
             return "the arguments are not a{sv}";
         }
         Eldbus_Message_Iter* entry = nullptr;
-        for (size_t count = 0; eldbus_message_iter_get_and_next(entries, 'e', &entry); ++count)
+        while (eldbus_message_iter_get_and_next(entries, 'e', &entry))
         {
-            if (count == MostElements)
-            {
-                return "more than " + std::to_string(MostElements) + " keys";
-            }
             if (auto refusal = ReadEntry(entry))
             {
                 return refusal;
@@ -79,6 +76,14 @@ private:
         if (strlen(key) > LongestText)
         {
             return "the key " + Quoted(key) + " is too long";
+        }
+        if (++m_keys > MostElements)
+        {
+            return "the key " + Quoted(key) + " comes after " + std::to_string(MostElements) + " others";
+        }
+        if (auto refusal = Count(key, key))
+        {
+            return refusal;
         }
         const std::unique_ptr<char, Free> type(eldbus_message_iter_signature_get(value));
         if (strcmp(type.get(), "s") == 0)
@@ -140,30 +145,27 @@ private:
             return Refuse(key, "holds a string of " + std::to_string(length) + " bytes, more than " +
                                    std::to_string(LongestText));
         }
-        m_bytes += length;
+        m_bytes += std::max(length, SmallestText);
         if (m_bytes > LargestRequest)
         {
-            return Refuse(key, "brings the request over " + std::to_string(LargestRequest) + " bytes");
+            return Quoted(key) + " brings the request over " + std::to_string(LargestRequest) + " bytes";
         }
         return std::nullopt;
     }
 
     app_control_s& m_request;
+    size_t m_keys = 0;
     size_t m_bytes = 0;
 };
 
 bool IsFit(const app_control_s::Value& value)
 {
-    const auto fit = [](const std::string& text)
-    {
-        return IsBusText(text.c_str());
-    };
     if (const auto* text = std::get_if<std::string>(&value))
     {
-        return fit(*text);
+        return IsBusText(*text);
     }
     const auto& array = std::get<app_control_s::Array>(value);
-    return std::all_of(array.begin(), array.end(), fit);
+    return std::all_of(array.begin(), array.end(), IsBusText);
 }
 
 void AppendText(Eldbus_Message_Iter* entry, const std::string& text)
@@ -210,15 +212,13 @@ std::optional<std::string> DecodeAppControl(const Eldbus_Message* call, app_cont
 
 BusMessage EncodeAppControl(const std::string& appId, const app_control_s& request)
 {
-    const bool fit =
-        std::all_of(request.data.begin(), request.data.end(),
-                    [](const auto& entry) { return IsBusText(entry.first.c_str()) && IsFit(entry.second); });
+    const bool fit = std::all_of(request.data.begin(), request.data.end(),
+                                 [](const auto& entry) { return IsBusText(entry.first) && IsFit(entry.second); });
     if (!fit || !IsApplicationId(appId.c_str()))
     {
         return nullptr;
     }
-    BusMessage call(
-        eldbus_message_method_call_new(appId.c_str(), ObjectPath(appId).c_str(), ApplicationInterface, "AppControl"));
+    auto call = NewCall(appId, Applications::PathOf(appId), Applications::interface, Applications::appControl);
     auto* arguments = eldbus_message_iter_get(call.get());
     auto* entries = eldbus_message_iter_container_new(arguments, 'a', "{sv}");
     for (const auto& [key, value] : request.data)

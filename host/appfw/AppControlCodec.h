@@ -10,10 +10,14 @@
 namespace veskar
 {
 
-/** What a request may hold at most, so that a faulty sender cannot stop the screen: bytes, elements, bytes. */
+/**
+ * What a request may hold at most, so that a faulty sender cannot stop the screen: bytes of a text, elements of an
+ * array and keys, and bytes of all keys and values together. A short text counts for what it takes in memory.
+ */
 constexpr size_t LongestText = 256UL * 1024;
 constexpr size_t MostElements = 20'000;
 constexpr size_t LargestRequest = 8UL * 1024 * 1024;
+constexpr size_t SmallestText = sizeof(std::string);
 
 constexpr const char* RefusedError = "org.tizen.Application1.Error.Refused";
 

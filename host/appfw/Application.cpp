@@ -18,6 +18,9 @@ namespace veskar
 namespace
 {
 
+/** Seconds in which a busy TV starts any program that a last message goes to; no hung one keeps the process longer. */
+constexpr double LongestFarewell = 10;
+
 bool StartToolkit(int argc, char** argv)
 {
     // Its drawing thread is waited for 0.2 s at most before a window's memory goes: on a busy machine that is too
@@ -58,7 +61,7 @@ app_event_handler_h Application::AddEventHandler(const app_event_handler& handle
 
 bool Application::Send(BusMessage call, OutgoingCalls::Done done)
 {
-    return m_outgoing && !m_busIsDead && m_outgoing->Send(m_connection.get(), std::move(call), std::move(done));
+    return HasBus() && m_outgoing->Send(m_connection.get(), std::move(call), std::move(done));
 }
 
 int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& callbacks, void* userData)
@@ -116,7 +119,7 @@ int Application::m_RunOwner(int argc, char** argv)
     {
         m_RefuseCalls("the application could not be created");
     }
-    TurnMainLoopUntil([this] { return m_outgoing->Empty(); });
+    m_AwaitOutgoing();
     elm_shutdown();
     return created ? APP_ERROR_NONE : APP_ERROR_INVALID_CONTEXT;
 }
@@ -271,6 +274,14 @@ void Application::m_RefuseCalls(const char* why)
         {
             m_ReplyError(event->call.get(), RefusedError, why);
         }
+    }
+}
+
+void Application::m_AwaitOutgoing()
+{
+    if (!TurnMainLoopUntil([this] { return m_outgoing->Empty(); }, LongestFarewell))
+    {
+        APPFW_WARN("not everybody has replied: what was sent to a program that did not start is lost");
     }
 }
 

@@ -41,7 +41,10 @@ public:
     /** The handler lives as long as the application. */
     app_event_handler_h AddEventHandler(const app_event_handler& handler);
 
-    /** Sends a call without waiting; the process does not end before the other side has it. False: no bus. */
+    /** True from the start of Run to its end, unless the bus ends before. */
+    bool HasBus() const { return m_outgoing && !m_busIsDead; }
+
+    /** Sends a call without waiting; at its end the process stays until the other side has it. False: no bus. */
     bool Send(BusMessage call, OutgoingCalls::Done done);
 
     /** Both answer from what the bus has told; false without a bus. */
@@ -68,6 +71,7 @@ private:
     void m_PassOnCalls();
     void m_PassOn(const LifecycleEvent& event);
     void m_RefuseCalls(const char* why);
+    void m_AwaitOutgoing();
 
     static void s_OnDisconnected(void* data, Eldbus_Connection* connection, void* event);
 

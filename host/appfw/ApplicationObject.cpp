@@ -1,8 +1,8 @@
 #include "ApplicationObject.h"
 
 #include "AppControlCodec.h"
-#include "BusName.h"
 #include "Log.h"
+#include "TvBus.h"
 
 namespace veskar
 {
@@ -24,15 +24,15 @@ ApplicationObject::ApplicationObject(Eldbus_Connection* connection, const std::s
     // The library keeps pointers to these.
     static const Eldbus_Arg_Info requestArguments[] = {{"a{sv}", "data"}, {nullptr, nullptr}};
     static const Eldbus_Method methods[] = {
-        {"AppControl", requestArguments, nullptr, s_OnAppControl, 0},
+        {Applications::appControl.c_str(), requestArguments, nullptr, s_OnAppControl, 0},
         {"Pause", nullptr, nullptr, s_OnCall<LifecycleKind::Pause>, 0},
         {"Resume", nullptr, nullptr, s_OnCall<LifecycleKind::Resume>, 0},
         {"Terminate", nullptr, nullptr, s_OnCall<LifecycleKind::Terminate>, 0},
         {},
     };
     static const Eldbus_Service_Interface_Desc description = {
-        ApplicationInterface, methods, nullptr, nullptr, nullptr, nullptr};
-    m_object.reset(eldbus_service_interface_register(connection, ObjectPath(appId).c_str(), &description));
+        Applications::interface.c_str(), methods, nullptr, nullptr, nullptr, nullptr};
+    m_object.reset(eldbus_service_interface_register(connection, Applications::PathOf(appId).c_str(), &description));
     if (m_object)
     {
         eldbus_service_object_data_set(m_object.get(), OwnerKey, this);

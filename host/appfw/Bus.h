@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include <Ecore.h>
 #include <Eldbus.h>
@@ -44,6 +45,13 @@ struct BusDeleter
 using BusConnection = std::unique_ptr<Eldbus_Connection, BusDeleter>;
 using BusMessage = std::unique_ptr<Eldbus_Message, BusDeleter>;
 using BusObject = std::unique_ptr<Eldbus_Service_Interface, BusDeleter>;
+
+/** A method call without its arguments. */
+inline BusMessage NewCall(const std::string& busName, const std::string& path, const std::string& interface,
+                          const std::string& method)
+{
+    return BusMessage(eldbus_message_method_call_new(busName.c_str(), path.c_str(), interface.c_str(), method.c_str()));
+}
 
 /** One more owner of a message that the library lends to a callback. */
 inline BusMessage ShareMessage(const Eldbus_Message* message)

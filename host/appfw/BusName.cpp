@@ -1,9 +1,10 @@
 #include "BusName.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 #include <dbus/dbus.h>
+
+#include "TvBus.h"
 
 namespace veskar
 {
@@ -13,23 +14,15 @@ bool IsApplicationId(const char* id)
     return id != nullptr && id[0] != ':' && dbus_validate_bus_name(id, nullptr);
 }
 
-std::string ObjectPath(const std::string& id)
-{
-    auto path = "/" + id;
-    std::replace(path.begin(), path.end(), '.', '/');
-    std::replace(path.begin(), path.end(), '-', '_');
-    return path;
-}
-
 std::string OwnApplicationId()
 {
     const char* id = getenv("VESKAR_APP_ID");
-    return id != nullptr && *id != '\0' ? id : "org.tizen.veskar-app";
+    return id != nullptr && *id != '\0' ? id : Applications::dialogues;
 }
 
-bool IsBusText(const char* text)
+bool IsBusText(const std::string& text)
 {
-    return dbus_validate_utf8(text, nullptr);
+    return text.find('\0') == std::string::npos && dbus_validate_utf8(text.c_str(), nullptr);
 }
 
 } // namespace veskar

@@ -7,7 +7,6 @@
 #include "AppControlCodec.h"
 #include "Application.h"
 #include "BusName.h"
-#include "Log.h"
 
 namespace
 {
@@ -15,13 +14,7 @@ namespace
 /** Tells the sender, if it wants to know, how its request ended. */
 void Report(const std::string& appId, const Eldbus_Message* reply, app_control_reply_cb callback, void* userData)
 {
-    const char* name = nullptr;
-    const char* text = nullptr;
-    const bool failed = eldbus_message_error_get(reply, &name, &text);
-    if (failed)
-    {
-        APPFW_ERROR("%s did not take the request: %s", appId.c_str(), text);
-    }
+    const bool failed = veskar::LogRefusal(reply, appId);
     if (callback != nullptr)
     {
         app_control_s request = {appId, {}};

@@ -25,4 +25,23 @@ void TurnMainLoopUntil(Done done)
     }
 }
 
+/** The same, for so many seconds at most; whether it was done then. */
+template <typename Done>
+bool TurnMainLoopUntil(Done done, double seconds)
+{
+    bool expired = false;
+    const auto expire = [](void* data) -> Eina_Bool
+    {
+        *static_cast<bool*>(data) = true;
+        return ECORE_CALLBACK_CANCEL;
+    };
+    auto* timer = ecore_timer_add(seconds, expire, &expired);
+    TurnMainLoopUntil([&] { return done() || expired; });
+    if (!expired)
+    {
+        ecore_timer_del(timer);
+    }
+    return done();
+}
+
 } // namespace veskar

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "Log.h"
 #include "MainLoop.h"
 
 namespace veskar
@@ -47,6 +48,18 @@ void OutgoingCalls::s_OnReply(void* data, const Eldbus_Message* reply, Eldbus_Pe
     {
         done(reply);
     }
+}
+
+bool LogRefusal(const Eldbus_Message* reply, const std::string& callee)
+{
+    const char* name = nullptr;
+    const char* text = nullptr;
+    const bool refused = eldbus_message_error_get(reply, &name, &text);
+    if (refused)
+    {
+        APPFW_ERROR("%s did not take the call: %s (%s)", callee.c_str(), text, name);
+    }
+    return refused;
 }
 
 } // namespace veskar

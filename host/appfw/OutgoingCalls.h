@@ -1,9 +1,10 @@
-/** Calls to other applications that nobody waits for, and that must still get there when the process is about to end.
+/** Calls to the TV's other sides that nobody waits for, and that must still get there when the process is about to end.
  */
 #pragma once
 
 #include <functional>
 #include <list>
+#include <string>
 
 #include "Bus.h"
 
@@ -11,8 +12,8 @@ namespace veskar
 {
 
 /**
- * A message to an application that the bus has to start first is dropped when its sender leaves meanwhile. So each call
- * is kept until its reply, and the process stays until none is left. Main thread.
+ * A message to a name that the bus has to start a program for is dropped when its sender leaves meanwhile. So each call
+ * is kept until its reply, and the process stays a while for those that are left. Main thread.
  */
 class OutgoingCalls
 {
@@ -43,5 +44,8 @@ private:
 
     std::list<Call> m_calls;
 };
+
+/** Says in the log what came instead of the callee's reply; false where it is a reply. */
+bool LogRefusal(const Eldbus_Message* reply, const std::string& callee);
 
 } // namespace veskar

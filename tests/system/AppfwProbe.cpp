@@ -5,6 +5,7 @@
 #include <vconf.h>
 
 #include <Elementary.h>
+#include <IVesKarController.h>
 
 #include <chrono>
 #include <cstdlib>
@@ -22,7 +23,7 @@ struct Free
 };
 
 Evas_Object* s_window = nullptr;
-bool s_launchAtTheEnd = false;
+bool s_sendAtTheEnd = false;
 
 template <typename... Args>
 void Tell(const char* format, Args... args)
@@ -78,10 +79,10 @@ const std::map<std::string, void (*)()> s_actions = {
      {
          Launch("org.tizen.nobody");
      }},
-    {"launch at the end",
+    {"send at the end",
      []
      {
-         s_launchAtTheEnd = true;
+         s_sendAtTheEnd = true;
      }},
 };
 
@@ -100,9 +101,13 @@ void Terminate(void*)
     // The window's own doings are not told any more.
     evas_object_hide(s_window);
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    if (s_launchAtTheEnd)
+    if (s_sendAtTheEnd)
     {
         Launch("org.tizen.slow");
+        auto* controller = VESKAR_API::IVesKarController::Instance();
+        Tell("answer %d", controller->SendResponse(-7, 254, 3, 1, 255, "Ünï\n"));
+        Tell("no text %d", controller->SendResponse(8, 255, 0, 0, 0, "\xff\xfe") ||
+                               controller->SendResponse(8, 255, 0, 0, 0, std::string("1\0002", 3)));
     }
 }
 
