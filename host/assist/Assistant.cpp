@@ -1,4 +1,5 @@
 #include "DisplayModes.h"
+#include "VoiceGuide.h"
 #include "ea.h"
 
 #include <Edje.h>
@@ -29,4 +30,5 @@ void ea_init(void)
     // Never destroyed: it lives as long as the toolkit, which has no moment of its own to end it.
     static const auto* const modes = new veskar::DisplayModes;
     static_cast<void>(modes);
+    veskar::VoiceGuide::TheOne().FollowFocus();
 }

@@ -2,9 +2,9 @@
 
 #include "Log.h"
 #include "SettingsStore.h"
+#include "Window.h"
 #include "vconf.h"
 
-#include <Ecore_Evas.h>
 #include <cstring>
 
 namespace veskar
@@ -35,23 +35,6 @@ std::filesystem::path ThemeFor(const std::filesystem::path& plain, bool enlarged
     name += enlarged ? "-large" : "";
     name += highContrast ? "-contrast" : "";
     return plain.parent_path() / (name + plain.extension().string());
-}
-
-/** Null before the program has made one. */
-Evas_Object* FirstWindow()
-{
-    void* window = nullptr;
-    void* canvas = nullptr;
-    Eina_List* canvases = ecore_evas_ecore_evas_list_get();
-    EINA_LIST_FREE(canvases, canvas)
-    {
-        if (!window)
-        {
-            // The toolkit notes the window on each canvas that belongs to one.
-            window = ecore_evas_data_get(static_cast<Ecore_Evas*>(canvas), "elm_win");
-        }
-    }
-    return static_cast<Evas_Object*>(window);
 }
 
 bool ContainsShownPopup(const Evas_Object* object)

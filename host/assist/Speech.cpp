@@ -3,10 +3,11 @@
 #include "Log.h"
 
 #include <condition_variable>
+#include <csignal>
+#include <deque>
 #include <libspeechd.h>
 #include <memory>
 #include <mutex>
-#include <optional>
 #include <thread>
 
 namespace veskar
@@ -18,6 +19,7 @@ struct Sentence
 {
     std::string text;
     std::string language;
+    Turn turn;
 };
 
 struct CloseConnection
@@ -48,11 +50,22 @@ bool Speak(SPDConnection* connection, const Sentence& sentence)
         const std::string language = sentence.language.substr(0, sentence.language.find('_'));
         spd_set_language(connection, language.c_str());
     }
-    spd_cancel(connection);
+    if (sentence.turn == Turn::AtOnce)
+    {
+        spd_cancel(connection);
+    }
     return spd_say(connection, SPD_MESSAGE, sentence.text.c_str()) >= 0;
 }
 
-/** Holds the next sentence for the thread that speaks. */
+/** Signals are the main thread's, but for one of its own: that of a dispatcher gone in the middle of a sentence. */
+void BlockSignals()
+{
+    sigset_t all;
+    sigfillset(&all);
+    pthread_sigmask(SIG_BLOCK, &all, nullptr);
+}
+
+/** Holds the next sentences for the thread that speaks. */
 class Voice
 {
 public:
@@ -64,7 +77,11 @@ public:
     void Say(Sentence sentence)
     {
         const std::lock_guard lock(m_mutex);
-        m_next = std::move(sentence);
+        if (sentence.turn == Turn::AtOnce)
+        {
+            m_waiting.clear();
+        }
+        m_waiting.push_back(std::move(sentence));
         m_arrived.notify_one();
     }
 
@@ -72,46 +89,44 @@ private:
     Sentence m_Next()
     {
         std::unique_lock lock(m_mutex);
-        m_arrived.wait(lock, [this] { return m_next.has_value(); });
-        Sentence sentence = std::move(*m_next);
-        m_next.reset();
+        m_arrived.wait(lock, [this] { return !m_waiting.empty(); });
+        Sentence sentence = std::move(m_waiting.front());
+        m_waiting.pop_front();
         return sentence;
     }
 
     [[noreturn]] void m_SpeakForEver()
     {
+        BlockSignals();
         Connection connection;
         for (;;)
         {
             const Sentence sentence = m_Next();
-            if (!connection)
+            if (connection && Speak(connection.get(), sentence))
             {
-                connection = Connect();
+                continue;
             }
-            // A dispatcher that has gone may be back by now.
-            if (connection && !Speak(connection.get(), sentence))
+            // None yet, or it has gone and may be back by now.
+            connection = Connect();
+            if (connection)
             {
-                connection = Connect();
-                if (connection)
-                {
-                    Speak(connection.get(), sentence);
-                }
+                Speak(connection.get(), sentence);
             }
         }
     }
 
     std::mutex m_mutex;
     std::condition_variable m_arrived;
-    std::optional<Sentence> m_next;
+    std::deque<Sentence> m_waiting;
 };
 
 } // namespace
 
-void Say(std::string text, std::string language)
+void Say(std::string text, std::string language, Turn turn)
 {
     // Never destroyed, and its thread never joined: a dispatcher that hangs must not hold up the end of the process.
     static auto* const voice = new Voice;
-    voice->Say({std::move(text), std::move(language)});
+    voice->Say({std::move(text), std::move(language), turn});
 }
 
 } // namespace veskar

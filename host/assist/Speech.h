@@ -6,11 +6,18 @@
 namespace veskar
 {
 
+enum class Turn
+{
+    /** Cuts short what is being said and drops what waits. */
+    AtOnce,
+    /** After everything that waits. */
+    Next
+};
+
 /**
- * Says `text` in `language` ("el_GR"; empty: the voice's own), cutting short what is being said. Never waits for
- * the voice: a thread of its own talks to it, and of sentences that come faster than that thread the last is said. Any
- * thread.
+ * Says `text` in `language` ("el_GR"; empty: the voice's own). Never waits for the voice: a thread of its own talks to
+ * it. Any thread.
  */
-void Say(std::string text, std::string language);
+void Say(std::string text, std::string language, Turn turn);
 
 } // namespace veskar

@@ -1,27 +1,29 @@
-#include "voice_guide.h"
+#include "VoiceGuide.h"
 
 #include "Log.h"
 #include "SettingKeys.h"
 #include "Speech.h"
+#include "Window.h"
 #include "vconf.h"
+#include "voice_guide.h"
 
-#include <Elementary.h>
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
 #include <fstream>
 #include <memory>
-#include <string>
 
+namespace veskar
+{
 namespace
 {
 
 using Text = std::unique_ptr<char, decltype(&std::free)>;
 
 /** What is to be heard: no markup, one line. */
-std::string Spoken(const char* text)
+std::string Plain(const std::string& markup)
 {
-    const Text plain(elm_entry_markup_to_utf8(text), std::free);
+    const Text plain(elm_entry_markup_to_utf8(markup.c_str()), std::free);
     std::string sentence = plain ? plain.get() : "";
     const auto isControl = [](unsigned char character)
     {
@@ -31,9 +33,16 @@ std::string Spoken(const char* text)
     return sentence;
 }
 
+/** Unset is off. */
+bool IsOn()
+{
+    int value = 0;
+    return vconf_get_int(VoiceGuideKey, &value) == 0 && value != 0;
+}
+
 std::string Language()
 {
-    const Text language(vconf_get_str(veskar::LanguageKey), std::free);
+    const Text language(vconf_get_str(LanguageKey), std::free);
     return language ? language.get() : "";
 }
 
@@ -53,16 +62,85 @@ void Record(const std::string& sentence)
     }
 }
 
-} // namespace
-
-void elm_access_force_say(const char* text)
+void Speak(const std::string& markup, Turn turn)
 {
-    if (!text)
+    if (!IsOn())
     {
         return;
     }
-    const std::string sentence = Spoken(text);
+    const std::string sentence = Plain(markup);
     ASSIST_INFO("Speaking: %s", sentence.c_str());
     Record(sentence);
-    veskar::Say(sentence, Language());
+    Say(sentence, Language(), turn);
+}
+
+} // namespace
+
+VoiceGuide& VoiceGuide::TheOne()
+{
+    static auto* const guide = new VoiceGuide;
+    return *guide;
+}
+
+void VoiceGuide::SpeakScreen(const char* markup)
+{
+    m_spoken = {};
+    m_viewerMoved = false;
+    Speak(markup, Turn::AtOnce);
+}
+
+void VoiceGuide::FollowFocus()
+{
+    m_window = FirstWindow();
+    if (m_window)
+    {
+        ecore_event_handler_add(ECORE_EVENT_KEY_DOWN, s_OnKey, this);
+        ecore_idle_enterer_add(s_OnIdle, this);
+    }
+}
+
+Eina_Bool VoiceGuide::s_OnKey(void* data, int, void*)
+{
+    static_cast<VoiceGuide*>(data)->m_viewerMoved = true;
+    return ECORE_CALLBACK_PASS_ON;
+}
+
+/**
+ * Looked at when everything at hand is done, instead of listening to the widgets: while a screen opens and while a list
+ * moves, the focus passes elements on which it does not stay.
+ */
+Eina_Bool VoiceGuide::s_OnIdle(void* data)
+{
+    static_cast<VoiceGuide*>(data)->m_LookAtFocus();
+    return ECORE_CALLBACK_RENEW;
+}
+
+void VoiceGuide::m_LookAtFocus()
+{
+    const Focused focused = FindFocused(m_window);
+    const bool sameElement = focused.SameElement(m_spoken);
+    if (!focused.object || (sameElement && focused.ticked == m_spoken.ticked))
+    {
+        return;
+    }
+    const std::string text = TextOf(focused);
+    if (text.empty())
+    {
+        return;
+    }
+    m_spoken = focused;
+    const std::string tick = TickOf(focused, Language());
+    const std::string sentence = sameElement ? tick : text + (tick.empty() ? "" : ", " + tick);
+    // What the viewer has not asked for waits until the screen is read out.
+    Speak(sentence, m_viewerMoved ? Turn::AtOnce : Turn::Next);
+}
+
+} // namespace veskar
+
+void elm_access_force_say(const char* text)
+{
+    if (text)
+    {
+        veskar::VoiceGuide::TheOne().SpeakScreen(text);
+    }
 }

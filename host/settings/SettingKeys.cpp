@@ -15,6 +15,7 @@ constexpr SettingKey Keys[] = {
     {OrientationKey, SettingType::Integer, "direction of the user interface: 1 right-to-left, 0 left-to-right"},
     {"db/menu/system/accessibility/focuszoom", SettingType::Integer, "enlarged text: 1 on, 0 off"},
     {"db/menu/system/accessibility/highcontrast", SettingType::Integer, "high contrast: 1 on, 0 off"},
+    {VoiceGuideKey, SettingType::Integer, "voice guide: 1 on, 0 off"},
     {"memory/function-osd/number_pad_show", SettingType::Integer, "1 while the number pad is on the screen"},
     {"memory/ephotel/hotelmenu/hotelfactorymode", SettingType::Switch, "the hotel factory menu started the dialogue"},
     {"com.brelmon/featureconf/bt_profile_bt_smart_control", SettingType::Switch,

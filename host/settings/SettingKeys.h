@@ -33,6 +33,7 @@ struct SettingKeyRange
 
 constexpr const char* LanguageKey = "db/menu_widget/language";
 constexpr const char* OrientationKey = "db/menu_widget/orientation";
+constexpr const char* VoiceGuideKey = "db/menu/system/accessibility/voiceguide";
 
 SettingKeyRange KnownSettings();
 

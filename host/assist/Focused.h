@@ -1,0 +1,30 @@
+/** What has the focus, and how the voice guide says it. */
+#pragma once
+
+#include <Elementary.h>
+#include <string>
+
+namespace veskar
+{
+
+/** A widget, and in a list the row. To be compared only: what it names may be gone by the next look. */
+struct Focused
+{
+    Evas_Object* object = nullptr;
+    Elm_Object_Item* row = nullptr;
+    /** Of rows that can be ticked. */
+    bool ticked = false;
+
+    bool SameElement(const Focused& other) const { return object == other.object && row == other.row; }
+};
+
+/** All null where the window or everything in it is without the focus. */
+Focused FindFocused(const Evas_Object* window);
+
+/** A button's label or a row's cells, as markup; empty where there is nothing to say, or not yet. */
+std::string TextOf(const Focused& focused);
+
+/** "ticked" or "not ticked", in the language of a locale ("el_GR.UTF-8"); empty for what cannot be ticked. */
+std::string TickOf(const Focused& focused, const std::string& locale);
+
+} // namespace veskar
