@@ -7,10 +7,11 @@
 
 #include "AppControlCodec.h"
 #include "BusName.h"
-#include "LanguageWatch.h"
 #include "Log.h"
 #include "MainLoop.h"
 #include "OwnName.h"
+#include "SettingKeys.h"
+#include "SettingsWatch.h"
 #include "WindowWatch.h"
 
 namespace veskar
@@ -144,7 +145,7 @@ void Application::m_RunLoop()
 {
     WindowWatch window([this](bool shown)
                        { m_queue->AddWindowEvent(shown ? LifecycleKind::Resume : LifecycleKind::Pause); });
-    const LanguageWatch language([this] { m_LanguageFileChanged(); });
+    const SettingsWatch language({LanguageKey, OrientationKey}, [this] { m_LanguageFileChanged(); });
     window.Find();
     m_queue->Start();
     elm_run();

@@ -1,7 +1,7 @@
 #include "DisplayModes.h"
 
 #include "Log.h"
-#include "SettingsStore.h"
+#include "SettingKeys.h"
 #include "Window.h"
 #include "vconf.h"
 
@@ -11,9 +11,6 @@ namespace veskar
 {
 namespace
 {
-
-constexpr char enlargedKey[] = "db/menu/system/accessibility/focuszoom";
-constexpr char highContrastKey[] = "db/menu/system/accessibility/highcontrast";
 
 /** Unset is off. */
 bool IsSet(const char* key)
@@ -77,42 +74,14 @@ bool IsScreenShown()
 
 DisplayModes::DisplayModes() : m_plainTheme(LoadedTheme()), m_theme(m_plainTheme)
 {
-    ecore_file_init();
     if (m_plainTheme.empty())
     {
         ASSIST_WARN("no theme of the TV is loaded: enlarged text and high contrast show in texts alone");
         return;
     }
-    m_Watch();
+    m_settings.emplace(std::initializer_list{EnlargedTextKey, HighContrastKey}, [this] { m_SettingsChanged(); });
     m_WatchWindow();
     m_Apply();
-}
-
-DisplayModes::~DisplayModes()
-{
-    if (m_monitor)
-    {
-        ecore_file_monitor_del(m_monitor);
-    }
-    ecore_file_shutdown();
-}
-
-void DisplayModes::m_Watch()
-{
-    const auto file = SettingFile(enlargedKey);
-    if (!file)
-    {
-        return;
-    }
-    // Both settings are files of this folder. It has to exist to be watched.
-    const auto folder = file->parent_path();
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    m_monitor = error ? nullptr : ecore_file_monitor_add(folder.c_str(), s_OnChange, this);
-    if (!m_monitor)
-    {
-        ASSIST_WARN("%s cannot be watched: changes of the display modes are not noticed", folder.c_str());
-    }
 }
 
 /** The window is hidden between two screens, also where one takes the other's place. */
@@ -124,11 +93,11 @@ void DisplayModes::m_WatchWindow()
     }
 }
 
-void DisplayModes::s_OnChange(void* data, Ecore_File_Monitor*, Ecore_File_Event, const char*)
+void DisplayModes::m_SettingsChanged()
 {
     if (!IsScreenShown())
     {
-        static_cast<DisplayModes*>(data)->m_Apply();
+        m_Apply();
     }
 }
 
@@ -139,7 +108,7 @@ void DisplayModes::s_OnWindowHidden(void* data, Evas*, Evas_Object*, void*)
 
 void DisplayModes::m_Apply()
 {
-    const auto theme = ThemeFor(m_plainTheme, IsSet(enlargedKey), IsSet(highContrastKey));
+    const auto theme = ThemeFor(m_plainTheme, IsSet(EnlargedTextKey), IsSet(HighContrastKey));
     if (theme == m_theme)
     {
         return;

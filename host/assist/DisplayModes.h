@@ -1,9 +1,11 @@
 /** The viewer's display modes, enlarged text and high contrast, as the theme shows them. */
 #pragma once
 
-#include <Ecore_File.h>
+#include "SettingsWatch.h"
+
 #include <Elementary.h>
 #include <filesystem>
+#include <optional>
 
 namespace veskar
 {
@@ -20,18 +22,17 @@ public:
     DisplayModes();
     DisplayModes(const DisplayModes&) = delete;
     DisplayModes& operator=(const DisplayModes&) = delete;
-    ~DisplayModes();
+    ~DisplayModes() = default;
 
 private:
-    static void s_OnChange(void* data, Ecore_File_Monitor* monitor, Ecore_File_Event event, const char* path);
     static void s_OnWindowHidden(void* data, Evas* evas, Evas_Object* window, void* event);
-    void m_Watch();
+    void m_SettingsChanged();
     void m_WatchWindow();
     void m_Apply();
 
     std::filesystem::path m_plainTheme;
     std::filesystem::path m_theme;
-    Ecore_File_Monitor* m_monitor = nullptr;
+    std::optional<SettingsWatch> m_settings;
 };
 
 } // namespace veskar

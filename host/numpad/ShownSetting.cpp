@@ -1,6 +1,7 @@
 #include "ShownSetting.h"
 
 #include "Log.h"
+#include "SettingKeys.h"
 #include "SettingsStore.h"
 
 #include <cerrno>
@@ -17,13 +18,11 @@ namespace veskar
 namespace
 {
 
-constexpr const char* KEY = "memory/function-osd/number_pad_show";
-
 void Write(bool shown)
 {
-    if (const auto error = WriteSetting(KEY, shown ? "1" : "0"))
+    if (const auto error = WriteSetting(NumberPadShownKey, shown ? "1" : "0"))
     {
-        NUMPAD_ERROR("%s cannot be set: %s", KEY, error.message().c_str());
+        NUMPAD_ERROR("%s cannot be set: %s", NumberPadShownKey, error.message().c_str());
     }
 }
 
@@ -77,7 +76,7 @@ ShownSetting::ShownSetting() : m_guard(StartGuard())
 {
     if (m_guard < 0)
     {
-        NUMPAD_WARN("no process to guard %s: %s", KEY, std::strerror(errno));
+        NUMPAD_WARN("no process to guard %s: %s", NumberPadShownKey, std::strerror(errno));
     }
 }
 
@@ -110,7 +109,7 @@ void ShownSetting::m_TellGuard() const
 {
     if (send(m_guard, &m_shown, sizeof m_shown, MSG_NOSIGNAL) < 0)
     {
-        NUMPAD_WARN("%s is not guarded: %s", KEY, std::strerror(errno));
+        NUMPAD_WARN("%s is not guarded: %s", NumberPadShownKey, std::strerror(errno));
     }
 }
 

@@ -5,6 +5,7 @@
 #include "AppId.h"
 #include "Log.h"
 #include "PadApplication.h"
+#include "SettingKeys.h"
 
 #include <app.h>
 #include <cstdlib>
@@ -15,8 +16,6 @@
 
 namespace
 {
-
-constexpr int RIGHT_TO_LEFT = 1;
 
 /** Empty where the request has no such text. */
 std::string TextOf(app_control_h request, const char* key)
@@ -32,7 +31,7 @@ std::string TextOf(app_control_h request, const char* key)
 
 bool OnCreate(void* data)
 {
-    elm_config_mirrored_set(ua_UI_orientation_get() == RIGHT_TO_LEFT ? EINA_TRUE : EINA_FALSE);
+    elm_config_mirrored_set(ua_UI_orientation_get() == veskar::RightToLeft ? EINA_TRUE : EINA_FALSE);
     ea_init(); // the theme for the viewer's display modes
     static_cast<veskar::PadApplication*>(data)->Create();
     return true;

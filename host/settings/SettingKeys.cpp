@@ -13,10 +13,10 @@ namespace
 constexpr SettingKey Keys[] = {
     {LanguageKey, SettingType::Text, "language of the toolkit's own texts, as a locale (ko_KR.utf8)"},
     {OrientationKey, SettingType::Integer, "direction of the user interface: 1 right-to-left, 0 left-to-right"},
-    {"db/menu/system/accessibility/focuszoom", SettingType::Integer, "enlarged text: 1 on, 0 off"},
-    {"db/menu/system/accessibility/highcontrast", SettingType::Integer, "high contrast: 1 on, 0 off"},
+    {EnlargedTextKey, SettingType::Integer, "enlarged text: 1 on, 0 off"},
+    {HighContrastKey, SettingType::Integer, "high contrast: 1 on, 0 off"},
     {VoiceGuideKey, SettingType::Integer, "voice guide: 1 on, 0 off"},
-    {"memory/function-osd/number_pad_show", SettingType::Integer, "1 while the number pad is on the screen"},
+    {NumberPadShownKey, SettingType::Integer, "1 while the number pad is on the screen"},
     {"memory/ephotel/hotelmenu/hotelfactorymode", SettingType::Switch, "the hotel factory menu started the dialogue"},
     {"com.brelmon/featureconf/bt_profile_bt_smart_control", SettingType::Switch,
      "the set has a smart remote without digit keys, so a PIN may ask for the number pad"},

@@ -33,7 +33,13 @@ struct SettingKeyRange
 
 constexpr const char* LanguageKey = "db/menu_widget/language";
 constexpr const char* OrientationKey = "db/menu_widget/orientation";
+constexpr const char* EnlargedTextKey = "db/menu/system/accessibility/focuszoom";
+constexpr const char* HighContrastKey = "db/menu/system/accessibility/highcontrast";
 constexpr const char* VoiceGuideKey = "db/menu/system/accessibility/voiceguide";
+constexpr const char* NumberPadShownKey = "memory/function-osd/number_pad_show";
+
+/** The orientation's value; every other is left-to-right. */
+constexpr int RightToLeft = 1;
 
 SettingKeyRange KnownSettings();
 

@@ -3,13 +3,13 @@
 #include "EflGuard.h"
 #include "Log.h"
 #include "Markup.h"
+#include "Orientation.h"
 #include "ScaledSize.h"
 
 #include <cstring>
 #include <string_view>
 
 #include <ea.h>
-#include <ui_orientation.h>
 
 namespace VESKAR_APP
 {
@@ -26,7 +26,6 @@ constexpr const char* LABEL_STYLE = "popup/c_popup_bottom";
 constexpr const char* TEXT_PAGE_STYLE = "C_Scrollbar_White";
 constexpr const char* TEXT_PAGE_FONT = "BrelmonFace_300";
 constexpr const char* PARAGRAPH_ALIGNMENT = "mixed";
-constexpr int RIGHT_TO_LEFT = 1;
 
 constexpr std::string_view KEY_UP = "Up";
 constexpr std::string_view KEY_DOWN = "Down";
@@ -83,7 +82,7 @@ Evas_Object* MessagePopup::m_CreateTextLabel(const char* markup, Evas_Object* pa
     else
     {
         EFL_GUARD(elm_label_line_wrap_set, m_content, ELM_WRAP_WORD);
-        const bool rightToLeft = ua_UI_orientation_get() == RIGHT_TO_LEFT;
+        const bool rightToLeft = IsRightToLeft();
         LOG_INFO((rightToLeft ? "Right" : "Left") << " aligned text");
         text = std::string(rightToLeft ? "<align=right>" : "<align=left>") + markup;
     }
