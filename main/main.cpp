@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 #include <mutex>
+#include <new>
 
 #include <Ecore.h>
 #include <Elementary.h>
@@ -112,7 +113,12 @@ bool _create(void* data)
         LOG_ERROR("Cannot initialize Ecore!");
         return false;
     }
-    windowManager = new WindowManager(_idle_timeout, _visible_timeout);
+    windowManager = new (std::nothrow) WindowManager(_idle_timeout, _visible_timeout);
+    if (windowManager == nullptr)
+    {
+        LOG_ERROR("failed to create windowManager");
+        return false;
+    }
     serviceProcessor = new ServiceProcessor(*windowManager);
     if (testCaseId != NO_TEST_CASE)
     {

@@ -14,11 +14,6 @@ namespace VESKAR_APP
 namespace
 {
 
-void LogReadError(int error)
-{
-    LOG_ERROR("app_control_get_extra_data returned error " << error);
-}
-
 std::optional<std::string> ReadText(app_control_h request, const char* key)
 {
     char* value = nullptr;
@@ -26,24 +21,25 @@ std::optional<std::string> ReadText(app_control_h request, const char* key)
     const CString owner(value);
     if (error != APP_CONTROL_ERROR_NONE || !owner)
     {
-        LogReadError(error);
+        LOG_ERROR("app_control_get_extra_data returned error " << error);
         return std::nullopt;
     }
     return std::string(owner.get());
 }
 
-std::optional<CStringArray> ReadArray(app_control_h request, const char* key)
+/** False as a condition when the key is not there. */
+CStringArray ReadArray(app_control_h request, const char* key)
 {
     char** values = nullptr;
     int length = 0;
     const int error = app_control_get_extra_data_array(request, key, &values, &length);
-    CStringArray owner(values, length);
-    if (error != APP_CONTROL_ERROR_NONE || values == nullptr)
+    CStringArray array(values, length);
+    if (error != APP_CONTROL_ERROR_NONE || !array)
     {
-        LogReadError(error);
-        return std::nullopt;
+        LOG_ERROR("app_control_get_extra_data returned error " << error);
+        return {nullptr, 0};
     }
-    return owner;
+    return array;
 }
 
 } // namespace
@@ -73,14 +69,14 @@ bool ServiceProcessor::m_GetParameter(app_control_h const& request, const char* 
 
 bool ServiceProcessor::m_GetStrings(app_control_h const& request, const char* key, std::vector<std::string>& values)
 {
-    const std::optional<CStringArray> array = ReadArray(request, key);
+    const CStringArray array = ReadArray(request, key);
     if (!array)
     {
         return false;
     }
-    for (int i = 0; i < array->Size(); ++i)
+    for (int i = 0; i < array.Size(); ++i)
     {
-        values.emplace_back((*array)[i]);
+        values.emplace_back(array[i]);
         LOG_INFO("lines[" << i << "]=" << values.back());
     }
     return true;
@@ -88,16 +84,16 @@ bool ServiceProcessor::m_GetStrings(app_control_h const& request, const char* ke
 
 bool ServiceProcessor::m_GetDataArray(app_control_h const& request, const char* key, std::vector<unsigned char>& data)
 {
-    const std::optional<CStringArray> array = ReadArray(request, key);
+    const CStringArray array = ReadArray(request, key);
     if (!array)
     {
         return false;
     }
     std::ostringstream dump;
     dump << std::hex << std::setfill('0');
-    for (int i = 0; i < array->Size(); ++i)
+    for (int i = 0; i < array.Size(); ++i)
     {
-        data.push_back(static_cast<unsigned char>((*array)[i][0]));
+        data.push_back(static_cast<unsigned char>(array[i][0]));
         dump << std::setw(2) << static_cast<int>(data.back()) << ' ';
     }
     // The text is streamed, so the "%s" appears as it stands; tools that read the log look for it.

@@ -90,7 +90,7 @@ Picture TvTest::Shot()
 {
     const std::string path = Setting("XDG_RUNTIME_DIR") + "/shot.png";
     RunCommand({"veskar-remote", "shot", path});
-    return ReadFile(path);
+    return {ReadFile(path)};
 }
 
 Picture TvTest::StillShot()

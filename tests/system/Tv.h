@@ -11,7 +11,19 @@
 #include <sdbus-c++/sdbus-c++.h>
 
 /** Images of the screen are compared byte by byte: the compositor's pictures are exact. */
-using Picture = std::string;
+struct Picture
+{
+    std::string png;
+
+    bool operator==(const Picture& other) const { return png == other.png; }
+    bool operator!=(const Picture& other) const { return png != other.png; }
+};
+
+/** A failed comparison tells no more of a picture than this. */
+inline std::ostream& operator<<(std::ostream& stream, const Picture& picture)
+{
+    return stream << "a picture of " << picture.png.size() << " bytes";
+}
 
 /**
  * The started TV in which these tests run, used as a person would: requests through the middleware's tool, keys and

@@ -42,6 +42,7 @@ public:
     }
     CStringArray& operator=(CStringArray&&) = delete;
 
+    explicit operator bool() const { return m_strings != nullptr; }
     int Size() const { return m_size; }
     const char* operator[](int index) const { return m_strings[index]; }
 

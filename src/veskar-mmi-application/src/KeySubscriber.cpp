@@ -59,8 +59,7 @@ void m_AddNavigationKeys(_KeyList& list)
 
 _KeyList NavigationKeyList()
 {
-    _KeyList list;
-    KeyRouter_Reset_KeyList(&list);
+    _KeyList list = RegisteredKeyList({});
     m_AddNavigationKeys(list);
     return list;
 }
