@@ -239,6 +239,8 @@ void ImageListPopup::t_OnKeyPressed(void* event)
     }
     LOG_INFO("KEY_UP/DOWN pressed. Current index update to " << m_currentIndex);
     m_UpdateImage();
+    // Into the list from a button, and up from past its end, the toolkit's row would be another than the image's.
+    m_MoveToRow(m_currentIndex);
 }
 
 } // namespace VESKAR_APP

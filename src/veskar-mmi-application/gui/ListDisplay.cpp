@@ -163,6 +163,15 @@ void ListDisplay<Screen>::SetFocusToList(bool firstElement)
 }
 
 template <class Screen>
+void ListDisplay<Screen>::m_MoveToRow(std::size_t index)
+{
+    if (index < m_menuItems.size())
+    {
+        m_rowFocus->MoveTo(m_menuItems[index].get());
+    }
+}
+
+template <class Screen>
 void ListDisplay<Screen>::s_OnItemRealized(void* data, Evas_Object* /*object*/, void* /*eventInfo*/)
 {
     LOG_ENTRY();

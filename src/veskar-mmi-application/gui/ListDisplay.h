@@ -53,6 +53,9 @@ protected:
     void m_CreateListHeader(std::string headerEntry, Evas_Object* box);
     void m_PopulateList(Evas_Object* genlist, Elm_Genlist_Item_Class* itemClass);
 
+    /** Makes the body row of this index the viewer's, if there is one. */
+    void m_MoveToRow(std::size_t index);
+
     static void s_OnItemRealized(void* data, Evas_Object* object, void* eventInfo);
 
     Evas_Object* m_menuList;

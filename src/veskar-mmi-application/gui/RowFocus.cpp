@@ -69,6 +69,12 @@ RowFocus::~RowFocus()
     }
 }
 
+void RowFocus::MoveTo(Elm_Object_Item* row)
+{
+    m_row = row;
+    m_Restore();
+}
+
 void RowFocus::LeadDownTo(Evas_Object* button)
 {
     m_below = button;
@@ -134,8 +140,7 @@ bool RowFocus::m_TakeKey(const char* key)
     Elm_Object_Item* next = row != nullptr ? Neighbour(row, key) : nullptr;
     if (next != nullptr)
     {
-        m_row = next;
-        m_Restore();
+        MoveTo(next);
         return true;
     }
     if (m_below != nullptr && std::string_view(key) == "Down")

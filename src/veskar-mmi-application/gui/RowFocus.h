@@ -28,6 +28,9 @@ public:
     RowFocus(const RowFocus&) = delete;
     RowFocus& operator=(const RowFocus&) = delete;
 
+    /** Makes this the viewer's row. */
+    void MoveTo(Elm_Object_Item* row);
+
     /** Where Down leads from the last row: of two buttons equally near below it the toolkit would take either. */
     void LeadDownTo(Evas_Object* button);
 
