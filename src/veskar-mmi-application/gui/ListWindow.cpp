@@ -43,6 +43,8 @@ Evas_Object* ListWindow::s_CreateMenuList(Evas_Object* parent)
     elm_genlist_select_mode_set(list, ELM_OBJECT_SELECT_MODE_ALWAYS); // a row pressed twice is reported twice
     elm_scroller_bounce_set(list, EINA_FALSE, EINA_TRUE);
     SwitchFocusHighlightOn();
+    // A list asks for no width by itself, and a row's cells do not give way: a panel at the side has to be wide enough.
+    evas_object_size_hint_min_set(parent, ELM_SCALE_SIZE(LIST_WIDTH), 0);
     return list;
 }
 

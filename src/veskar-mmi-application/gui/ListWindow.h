@@ -33,6 +33,7 @@ private:
     friend class ListDisplay<ListWindow>;
 
     static constexpr int HEADER_WIDTH = 1217;
+    static constexpr int LIST_WIDTH = 1280; // the cells, and the margins and the bar beside them
     static constexpr LogLevel TRACE = LOG_LEVEL_DEBUG;
     static constexpr LogLevel FAULT = LOG_LEVEL_ERROR;
 
