@@ -77,8 +77,7 @@ int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& c
         APPFW_ERROR("%s cannot reach the TV's bus", m_id.c_str());
         return APP_ERROR_INVALID_CONTEXT;
     }
-    eldbus_connection_event_callback_add(m_connection.get(), ELDBUS_CONNECTION_EVENT_DISCONNECTED, s_OnDisconnected,
-                                         this);
+    m_bus = std::make_unique<BusWatch>(m_connection.get());
     m_names = std::make_unique<BusNames>(m_connection.get());
     m_outgoing = std::make_unique<OutgoingCalls>();
     m_queue = std::make_unique<LifecycleQueue>([this](LifecycleEvent& event) { m_Deliver(event); });
@@ -92,18 +91,17 @@ int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& c
     m_queue.reset();
     m_outgoing.reset();
     m_names.reset();
-    eldbus_connection_event_callback_del(m_connection.get(), ELDBUS_CONNECTION_EVENT_DISCONNECTED, s_OnDisconnected,
-                                         this);
+    m_bus.reset();
     m_connection.reset();
     return result;
 }
 
 int Application::m_RunOwner(int argc, char** argv)
 {
-    OwnName name(m_connection.get(), m_id);
+    OwnName name(m_connection.get(), *m_bus, m_id);
     if (!name.Request())
     {
-        return m_busIsDead ? APP_ERROR_INVALID_CONTEXT : APP_ERROR_ALREADY_RUNNING;
+        return m_bus->IsGone() ? APP_ERROR_INVALID_CONTEXT : APP_ERROR_ALREADY_RUNNING;
     }
     if (!StartToolkit(argc, argv))
     {
@@ -215,7 +213,7 @@ void Application::m_LanguageFileChanged()
 
 void Application::m_Reply(const LifecycleEvent& event)
 {
-    if (event.call && !m_busIsDead)
+    if (event.call && HasBus())
     {
         eldbus_connection_send(m_connection.get(), eldbus_message_method_return_new(event.call.get()), nullptr, nullptr,
                                -1);
@@ -224,7 +222,7 @@ void Application::m_Reply(const LifecycleEvent& event)
 
 void Application::m_ReplyError(Eldbus_Message* call, const char* name, const char* text)
 {
-    if (!m_busIsDead)
+    if (HasBus())
     {
         eldbus_connection_send(m_connection.get(), eldbus_message_error_new(call, name, text), nullptr, nullptr, -1);
     }
@@ -280,17 +278,14 @@ void Application::m_RefuseCalls(const char* why)
 
 void Application::m_AwaitOutgoing()
 {
-    if (!TurnMainLoopUntil([this] { return m_outgoing->Empty(); }, LongestFarewell))
+    const auto done = [this]
+    {
+        return m_bus->IsGone() || m_outgoing->Empty();
+    };
+    if (!TurnMainLoopUntil(done, LongestFarewell))
     {
         APPFW_WARN("not everybody has replied: what was sent to a program that did not start is lost");
     }
-}
-
-void Application::s_OnDisconnected(void* data, Eldbus_Connection*, void*)
-{
-    // The library itself asks the main loop to end, as for a signal.
-    APPFW_ERROR("the TV's bus is gone: the application ends");
-    static_cast<Application*>(data)->m_busIsDead = true;
 }
 
 } // namespace veskar

@@ -10,6 +10,7 @@
 #include "ApplicationObject.h"
 #include "Bus.h"
 #include "BusNames.h"
+#include "BusWatch.h"
 #include "LifecycleQueue.h"
 #include "OutgoingCalls.h"
 
@@ -42,7 +43,7 @@ public:
     app_event_handler_h AddEventHandler(const app_event_handler& handler);
 
     /** True from the start of Run to its end, unless the bus ends before. */
-    bool HasBus() const { return m_outgoing && !m_busIsDead; }
+    bool HasBus() const { return m_outgoing && !m_bus->IsGone(); }
 
     /** Sends a call without waiting; at its end the process stays until the other side has it. False: no bus. */
     bool Send(BusMessage call, OutgoingCalls::Done done);
@@ -73,17 +74,15 @@ private:
     void m_RefuseCalls(const char* why);
     void m_AwaitOutgoing();
 
-    static void s_OnDisconnected(void* data, Eldbus_Connection* connection, void* event);
-
     const std::string m_id;
     ui_app_lifecycle_callback_s m_callbacks = {};
     void* m_userData = nullptr;
     std::vector<std::unique_ptr<app_event_handler>> m_eventHandlers;
     bool m_languageChangeQueued = false;
-    bool m_busIsDead = false;
 
     // There while Run runs, in the order in which they need each other.
     BusConnection m_connection;
+    std::unique_ptr<BusWatch> m_bus;
     std::unique_ptr<BusNames> m_names;
     std::unique_ptr<OutgoingCalls> m_outgoing;
     std::unique_ptr<LifecycleQueue> m_queue;

@@ -7,8 +7,8 @@ namespace veskar
 {
 
 /**
- * To be called by what makes the condition of a TurnMainLoopUntil true: messages of the bus are dispatched just before
- * the loop goes to sleep, and this keeps it from doing so.
+ * To be called by what makes the condition of a TurnMainLoopUntil true: timers and messages of the bus are dealt with
+ * just before the loop goes to sleep, and this keeps it from doing so.
  */
 inline void WakeMainLoop()
 {
@@ -33,6 +33,7 @@ bool TurnMainLoopUntil(Done done, double seconds)
     const auto expire = [](void* data) -> Eina_Bool
     {
         *static_cast<bool*>(data) = true;
+        WakeMainLoop();
         return ECORE_CALLBACK_CANCEL;
     };
     auto* timer = ecore_timer_add(seconds, expire, &expired);

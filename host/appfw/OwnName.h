@@ -1,18 +1,23 @@
 /** The application's name on the bus: who owns it is the running instance. */
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "Bus.h"
+#include "BusWatch.h"
 
 namespace veskar
 {
 
-/** Both operations wait for the bus daemon with the main loop going on; a call of the bus always ends. */
+/** Both operations wait for the bus daemon with the main loop going on, until the bus is gone. */
 class OwnName
 {
 public:
-    OwnName(Eldbus_Connection* connection, std::string name) : m_connection(connection), m_name(std::move(name)) {}
+    OwnName(Eldbus_Connection* connection, const BusWatch& bus, std::string name)
+        : m_connection(connection), m_bus(bus), m_name(std::move(name))
+    {
+    }
 
     /** False when another process owns it, or the bus refuses. */
     bool Request();
@@ -24,7 +29,14 @@ public:
     void Release();
 
 private:
+    /** 0 for an error. */
+    using Answer = std::optional<unsigned int>;
+
+    static void s_OnAnswer(void* data, const Eldbus_Message* reply, Eldbus_Pending* pending);
+    unsigned int m_Await(Answer& answer, Eldbus_Pending* sent) const;
+
     Eldbus_Connection* m_connection;
+    const BusWatch& m_bus;
     std::string m_name;
 };
 

@@ -238,14 +238,27 @@ TEST_F(Appfw, without_a_bus_or_when_create_fails_it_ends_with_an_error)
 
 TEST_F(Appfw, when_the_bus_dies_it_ends_through_terminate)
 {
-    auto bus = std::make_unique<Process>(Events{"dbus-daemon", "--session", "--nofork", "--print-address"});
-    WaitUntil([&] { return bus->Output().find('\n') != std::string::npos; });
-    const std::string address = bus->Output().substr(0, bus->Output().find('\n'));
-    Process application(InLog("DBUS_SESSION_BUS_ADDRESS=" + address));
-    ExpectTold({"create", "resume"});
-    bus.reset();
-    EXPECT_EQ(application.Status(), 0);
-    ExpectTold({"create", "resume", "terminate"});
+    Events expected;
+    for (const bool endsAlready : {false, true})
+    {
+        auto bus = std::make_unique<Process>(Events{"dbus-daemon", "--session", "--nofork", "--print-address"});
+        WaitUntil([&] { return bus->Output().find('\n') != std::string::npos; });
+        const std::string address = bus->Output().substr(0, bus->Output().find('\n'));
+        Process application(InLog("DBUS_SESSION_BUS_ADDRESS=" + address));
+        expected.insert(expected.end(), {"create", "resume"});
+        ExpectTold(expected);
+        expected.emplace_back("terminate");
+        if (endsAlready)
+        {
+            bus->Signal(SIGSTOP);
+            application.Signal(SIGTERM);
+            ExpectTold(expected);
+            std::this_thread::sleep_for(std::chrono::milliseconds(100)); // it waits for the bus by now
+        }
+        bus.reset();
+        EXPECT_EQ(application.Status(), 0);
+        ExpectTold(expected);
+    }
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include <csignal>
 #include <sys/types.h>
 
 /** How long anything may take before a test gives up on it; far above what a loaded machine needs. */
@@ -24,6 +25,7 @@ public:
     Process(Process&& other) noexcept;
     Process& operator=(Process&&) = delete;
 
+    void Signal(int number) const { kill(m_pid, number); }
     bool HasEnded();
 
     /** The exit status; -1 when the command did not end within the time. */
