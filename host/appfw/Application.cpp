@@ -141,10 +141,9 @@ bool Application::m_Live()
 
 void Application::m_RunLoop()
 {
-    WindowWatch window([this](bool shown)
-                       { m_queue->AddWindowEvent(shown ? LifecycleKind::Resume : LifecycleKind::Pause); });
+    const WindowWatch window([this](bool shown)
+                             { m_queue->AddWindowEvent(shown ? LifecycleKind::Resume : LifecycleKind::Pause); });
     const SettingsWatch language({LanguageKey, OrientationKey}, [this] { m_LanguageFileChanged(); });
-    window.Find();
     m_queue->Start();
     elm_run();
     m_queue->Stop();
@@ -153,7 +152,7 @@ void Application::m_RunLoop()
 void Application::m_Deliver(LifecycleEvent& event)
 {
     m_Tell(event);
-    m_Reply(event);
+    m_Reply(event.call.get());
 }
 
 void Application::m_Tell(const LifecycleEvent& event)
@@ -192,11 +191,13 @@ void Application::m_TellLanguageChanged()
 {
     m_languageChangeQueued = false;
     app_event_info info = {APP_EVENT_LANGUAGE_CHANGED};
-    for (const auto& handler : m_eventHandlers)
+    // By index: a callback may add a handler.
+    for (size_t i = 0; i < m_eventHandlers.size(); ++i)
     {
-        if (handler->type == info.type)
+        const auto& handler = *m_eventHandlers[i];
+        if (handler.type == info.type)
         {
-            handler->callback(&info, handler->userData);
+            handler.callback(&info, handler.userData);
         }
     }
 }
@@ -211,18 +212,17 @@ void Application::m_LanguageFileChanged()
     }
 }
 
-void Application::m_Reply(const LifecycleEvent& event)
+void Application::m_Reply(const Eldbus_Message* call)
 {
-    if (event.call && HasBus())
+    if (call != nullptr && HasBus())
     {
-        eldbus_connection_send(m_connection.get(), eldbus_message_method_return_new(event.call.get()), nullptr, nullptr,
-                               -1);
+        eldbus_connection_send(m_connection.get(), eldbus_message_method_return_new(call), nullptr, nullptr, -1);
     }
 }
 
-void Application::m_ReplyError(Eldbus_Message* call, const char* name, const char* text)
+void Application::m_ReplyError(const Eldbus_Message* call, const char* name, const char* text)
 {
-    if (HasBus())
+    if (call != nullptr && HasBus())
     {
         eldbus_connection_send(m_connection.get(), eldbus_message_error_new(call, name, text), nullptr, nullptr, -1);
     }
@@ -238,7 +238,7 @@ void Application::m_PassOnCalls()
         }
         else
         {
-            m_Reply(*event);
+            m_Reply(event->call.get());
         }
     }
 }
@@ -257,7 +257,7 @@ void Application::m_PassOn(const LifecycleEvent& event)
             m_ReplyError(asked.get(), name, text);
             return;
         }
-        eldbus_connection_send(m_connection.get(), eldbus_message_method_return_new(asked.get()), nullptr, nullptr, -1);
+        m_Reply(asked.get());
     };
     if (!Send(EncodeAppControl(m_id, *event.request), forward))
     {
@@ -269,10 +269,7 @@ void Application::m_RefuseCalls(const char* why)
 {
     while (const auto event = m_queue->TakeCall())
     {
-        if (event->call)
-        {
-            m_ReplyError(event->call.get(), RefusedError, why);
-        }
+        m_ReplyError(event->call.get(), RefusedError, why);
     }
 }
 

@@ -65,8 +65,9 @@ private:
     void m_TellLanguageChanged();
     void m_LanguageFileChanged();
 
-    void m_Reply(const LifecycleEvent& event);
-    void m_ReplyError(Eldbus_Message* call, const char* name, const char* text);
+    /** Null where nobody waits. */
+    void m_Reply(const Eldbus_Message* call);
+    void m_ReplyError(const Eldbus_Message* call, const char* name, const char* text);
 
     /** What reached a process on its way out goes to the next one, and the next one's reply to who asked. */
     void m_PassOnCalls();

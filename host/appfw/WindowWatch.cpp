@@ -7,7 +7,7 @@ namespace veskar
 namespace
 {
 
-/** Null before the application has made one. */
+/** Null where the application has made none. */
 Evas_Object* FirstWindow()
 {
     void* window = nullptr;
@@ -26,30 +26,21 @@ Evas_Object* FirstWindow()
 
 } // namespace
 
-WindowWatch::~WindowWatch()
+WindowWatch::WindowWatch(Changed changed) : m_changed(std::move(changed)), m_window(FirstWindow())
 {
-    m_Forget();
-}
-
-void WindowWatch::Find()
-{
-    if (m_window != nullptr)
+    if (m_window == nullptr)
     {
         return;
     }
-    if (auto* window = FirstWindow())
-    {
-        m_Watch(window);
-    }
+    evas_object_event_callback_add(m_window, EVAS_CALLBACK_SHOW, s_OnShow, this);
+    evas_object_event_callback_add(m_window, EVAS_CALLBACK_HIDE, s_OnHide, this);
+    evas_object_event_callback_add(m_window, EVAS_CALLBACK_DEL, s_OnDeleted, this);
+    m_SetShown(evas_object_visible_get(m_window));
 }
 
-void WindowWatch::m_Watch(Evas_Object* window)
+WindowWatch::~WindowWatch()
 {
-    m_window = window;
-    evas_object_event_callback_add(window, EVAS_CALLBACK_SHOW, s_OnShow, this);
-    evas_object_event_callback_add(window, EVAS_CALLBACK_HIDE, s_OnHide, this);
-    evas_object_event_callback_add(window, EVAS_CALLBACK_DEL, s_OnDeleted, this);
-    m_SetShown(evas_object_visible_get(window));
+    m_Forget();
 }
 
 void WindowWatch::m_Forget()

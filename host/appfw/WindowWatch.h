@@ -15,13 +15,12 @@ public:
     /** Called with true for each show and false for each hide, from within the toolkit call that causes it. */
     using Changed = std::function<void(bool shown)>;
 
-    explicit WindowWatch(Changed changed) : m_changed(std::move(changed)) {}
+    /** Watches the application's first window, where it has made one; one that is visible already counts as shown now.
+     */
+    explicit WindowWatch(Changed changed);
     WindowWatch(const WindowWatch&) = delete;
     WindowWatch& operator=(const WindowWatch&) = delete;
     ~WindowWatch();
-
-    /** Begins to watch the first window, where none is watched yet; one that is visible already counts as shown now. */
-    void Find();
 
 private:
     static void s_OnShow(void* data, Evas* canvas, Evas_Object* window, void* event);
@@ -29,7 +28,6 @@ private:
     static void s_OnDeleted(void* data, Evas* canvas, Evas_Object* window, void* event);
     static Eina_Bool s_OnRedraw(void* data);
 
-    void m_Watch(Evas_Object* window);
     void m_Forget();
     void m_SetShown(bool shown);
 

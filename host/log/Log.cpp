@@ -141,6 +141,18 @@ int WriteToStandardError(LogState& state, const std::string& line)
     return static_cast<int>(written);
 }
 
+/** Straight into the string: a typed digit's copy in some other buffer would outlive its masking. */
+std::string Format(const char* format, va_list arguments)
+{
+    va_list again;
+    va_copy(again, arguments);
+    const int length = vsnprintf(nullptr, 0, format, again);
+    va_end(again);
+    std::string text(static_cast<size_t>(std::max(length, 0)), '\0');
+    vsnprintf(text.data(), text.size() + 1, format, arguments);
+    return text;
+}
+
 int Print(LogState& state, int priority, const char* tag, std::string text)
 {
     if (!state.showSecrets)
@@ -166,15 +178,8 @@ int __dlog_print(log_id_t, int priority, const char* tag, const char* format, ..
     const int savedErrno = errno;
     va_list arguments;
     va_start(arguments, format);
-    const int length = vsnprintf(nullptr, 0, format, arguments);
+    const int result = Print(state, priority, tag, Format(format, arguments));
     va_end(arguments);
-
-    // Straight into the string: a typed digit's copy in some other buffer would outlive its masking.
-    std::string text(static_cast<size_t>(std::max(length, 0)), '\0');
-    va_start(arguments, format);
-    vsnprintf(text.data(), text.size() + 1, format, arguments);
-    va_end(arguments);
-    const int result = Print(state, priority, tag, std::move(text));
     errno = savedErrno;
     return result;
 }

@@ -41,10 +41,12 @@ void ServeTv(sdbus::IConnection& connection)
     ContextManager contextManager(connection, [&middleware](const std::string& task, const std::string& action)
                                   { middleware.TaskRequested(task, action); });
     // The objects are there by now: the message that started this process is delivered with the name.
-    if (!OwnName(connection, Controller::busName) || !OwnName(connection, Manager::busName))
+    if (!OwnName(connection, Controller::busName))
     {
         return;
     }
+    // Somebody may stand in for the context manager alone.
+    OwnName(connection, Manager::busName);
     while (true)
     {
         if (!ServeOnce(connection, middleware.Deadline()))

@@ -14,26 +14,17 @@ namespace
 constexpr int Failed = -1;
 constexpr int InvalidParameter = -22;
 
-bool IsSetting(const char* key)
-{
-    return key != nullptr && veskar::KindOf(key) != veskar::SettingKind::Feature;
-}
-
 bool IsFeature(const char* key)
 {
-    return key != nullptr && veskar::KindOf(key) == veskar::SettingKind::Feature;
+    return veskar::KindOf(key) == veskar::SettingKind::Feature;
 }
 
 } // namespace
 
 int vconf_get_int(const char* key, int* value)
 {
-    if (!IsSetting(key) || value == nullptr)
-    {
-        return Failed;
-    }
-    const auto number = veskar::ReadWholeNumber(key);
-    if (!number)
+    const auto number = key != nullptr && !IsFeature(key) ? veskar::ReadWholeNumber(key) : std::nullopt;
+    if (!number || value == nullptr)
     {
         return Failed;
     }
@@ -48,18 +39,14 @@ int vconf_get_bool(const char* key, int* value)
 
 char* vconf_get_str(const char* key)
 {
-    const auto text = IsSetting(key) ? veskar::ReadSetting(key) : std::nullopt;
+    const auto text = key != nullptr && !IsFeature(key) ? veskar::ReadSetting(key) : std::nullopt;
     return text ? strdup(text->c_str()) : nullptr;
 }
 
 int system_info_get_custom_bool(const char* key, bool* value)
 {
-    if (!IsFeature(key) || value == nullptr)
-    {
-        return InvalidParameter;
-    }
-    const auto number = veskar::ReadWholeNumber(key);
-    if (!number)
+    const auto number = key != nullptr && IsFeature(key) ? veskar::ReadWholeNumber(key) : std::nullopt;
+    if (!number || value == nullptr)
     {
         return InvalidParameter;
     }
