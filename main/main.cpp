@@ -3,6 +3,7 @@
 
 #include "Handles.h"
 #include "Log.h"
+#include "Orientation.h"
 #include "ServiceProcessor.h"
 #include "WindowManager.h"
 
@@ -13,7 +14,6 @@
 #include <Ecore.h>
 #include <Elementary.h>
 #include <app.h>
-#include <ui_orientation.h>
 #include <vconf.h>
 
 namespace VESKAR_APP
@@ -25,7 +25,6 @@ namespace
 constexpr const char* APP_NAME = "org.tizen.veskar-app";
 constexpr const char* LANGUAGE_SETTING = "db/menu_widget/language";
 constexpr int NO_TEST_CASE = -1;
-constexpr int RIGHT_TO_LEFT = 1;
 
 struct AppData
 {
@@ -52,7 +51,7 @@ void _languageChanged(app_event_info_h /*eventInfo*/, void* /*data*/)
         LOG_INFO("Setting lang set " << language.get());
         elm_language_set(language.get());
     }
-    const bool mirrored = ua_UI_orientation_get() == RIGHT_TO_LEFT;
+    const bool mirrored = IsRightToLeft();
     elm_config_mirrored_set(mirrored ? EINA_TRUE : EINA_FALSE);
     LOG_INFO("Config mirroring set to " << (mirrored ? "EINA_TRUE" : "EINA_FALSE"));
 }
