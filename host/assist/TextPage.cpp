@@ -28,16 +28,31 @@ struct FreeStyle
 
 using StyleHandle = std::unique_ptr<Evas_Textblock_Style, FreeStyle>;
 
+std::string Replaced(std::string text, std::string_view from, std::string_view to)
+{
+    for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+    {
+        text.replace(at, from.size(), to);
+    }
+    return text;
+}
+
 /** A tab, wrapped in a text of both directions, can keep the toolkit busy for ever; a wide space does as well. */
 std::string WithoutTabs(std::string markup)
 {
-    constexpr std::string_view tab = "<tab/>";
-    constexpr std::string_view wideSpace = "\u2003";
-    for (auto at = markup.find(tab); at != std::string::npos; at = markup.find(tab, at))
-    {
-        markup.replace(at, tab.size(), wideSpace);
-    }
-    return markup;
+    return Replaced(std::move(markup), "<tab/>", "\u2003");
+}
+
+/**
+ * What the TV's toolkit does by itself this one does when told: to align each paragraph by its own direction, and to
+ * break a word wider than the page, as a sentence in Thai is, instead of cutting it off.
+ */
+void Adapt(Evas_Textblock_Style* style)
+{
+    const char* given = evas_textblock_style_get(style);
+    std::string adapted = Replaced(given ? given : "", "align=mixed", "align=auto");
+    adapted = Replaced(std::move(adapted), "wrap=word", "wrap=mixed");
+    evas_textblock_style_set(style, adapted.c_str());
 }
 
 /**
@@ -218,6 +233,11 @@ void TextPage::m_UpdateLater()
 void TextPage::m_Update()
 {
     elm_scroller_region_get(m_scroller, nullptr, nullptr, &m_viewWidth, &m_viewHeight);
+    if (m_viewWidth <= 0)
+    {
+        // Before it has its place. Wrapping a long text to nothing can keep the toolkit busy for ever.
+        return;
+    }
     evas_object_resize(m_text, m_viewWidth, m_viewHeight);
     m_pages = m_BreakIntoPages();
     m_current = std::clamp(m_current, 0, std::max(Total() - 1, 0));
@@ -330,8 +350,10 @@ int ea_textpage_total_page_get(const Evas_Object* page)
 void ea_textpage_textblock_style_set(Evas_Object* page, Evas_Textblock_Style* style)
 {
     veskar::StyleHandle owned(style);
-    if (TextPage* self = TextPage::Of(page))
+    TextPage* self = TextPage::Of(page);
+    if (self && style)
     {
+        veskar::Adapt(style);
         self->SetStyle(std::move(owned));
     }
 }
