@@ -2,29 +2,10 @@
 
 #include <Ecore_Evas.h>
 
+#include "Window.h"
+
 namespace veskar
 {
-namespace
-{
-
-/** Null where the application has made none. */
-Evas_Object* FirstWindow()
-{
-    void* window = nullptr;
-    void* each = nullptr;
-    Eina_List* canvases = ecore_evas_ecore_evas_list_get();
-    EINA_LIST_FREE(canvases, each)
-    {
-        if (window == nullptr)
-        {
-            // The toolkit notes the window on each canvas that belongs to one.
-            window = ecore_evas_data_get(static_cast<Ecore_Evas*>(each), "elm_win");
-        }
-    }
-    return static_cast<Evas_Object*>(window);
-}
-
-} // namespace
 
 WindowWatch::WindowWatch(Changed changed) : m_changed(std::move(changed)), m_window(FirstWindow())
 {

@@ -2,7 +2,7 @@
 
 #include "Log.h"
 #include "SettingKeys.h"
-#include "Window.h"
+#include "appfw/Window.h"
 #include "vconf.h"
 
 #include <cstring>

@@ -3,7 +3,7 @@
 #include "Log.h"
 #include "SettingKeys.h"
 #include "Speech.h"
-#include "Window.h"
+#include "appfw/Window.h"
 #include "vconf.h"
 #include "voice_guide.h"
 
