@@ -4,6 +4,7 @@
 #include "EflGuard.h"
 #include "Log.h"
 #include "Markup.h"
+#include "Names.h"
 #include "ScaledSize.h"
 
 #include <string_view>
@@ -20,8 +21,6 @@ namespace
 constexpr const char* ENLARGED_SETTING = "db/menu/system/accessibility/focuszoom";
 constexpr const char* HIGH_CONTRAST_SETTING = "db/menu/system/accessibility/highcontrast";
 
-constexpr const char* TEXT_PART = "elm.text";
-constexpr const char* LINE_STYLE = "popup/c_popup_bottom";
 constexpr const char* SPOKEN_SEPARATOR = ", ";
 
 int ReadModeSetting(const char* key)
@@ -117,7 +116,7 @@ void BaseDisplay::m_AlignLabelText(Evas_Object* label, const std::string& text)
     {
         const MainLoopSection section;
         elm_object_text_set(label, markup.c_str());
-        elm_object_style_set(label, LINE_STYLE);
+        elm_object_style_set(label, LABEL_STYLE);
     }
     const bool oneLine = GetNumberLinesText(label, TEXT_PART) < 2;
     const MainLoopSection section;

@@ -3,6 +3,7 @@
 #include "EflGuard.h"
 #include "ListRow.h"
 #include "MenuList.h"
+#include "Names.h"
 #include "ScaledSize.h"
 
 #include <string_view>
@@ -18,8 +19,8 @@ constexpr int SPACER_WIDTH = 20;
 
 } // namespace
 
-const std::string ImageListPopup::KEY_DIRECTION_UP = "Up";
-const std::string ImageListPopup::KEY_DIRECTION_DOWN = "Down";
+const std::string ImageListPopup::KEY_DIRECTION_UP(KEY_UP);
+const std::string ImageListPopup::KEY_DIRECTION_DOWN(KEY_DOWN);
 int ImageListPopup::s_numColumns = 1;
 bool ImageListPopup::s_menuFocused = false;
 
@@ -114,7 +115,7 @@ Evas_Object* ImageListPopup::s_CreateMenuList(Evas_Object* parent)
 Elm_Genlist_Item_Class* ImageListPopup::s_CreateListItemTemplate()
 {
     Elm_Genlist_Item_Class* itemClass = EFL_GUARD(elm_genlist_item_class_new);
-    itemClass->item_style = "C_TextItem_WhiteSingleline01";
+    itemClass->item_style = TEXT_ROW_STYLE;
     itemClass->func.text_get = s_TextGet;
     return itemClass;
 }

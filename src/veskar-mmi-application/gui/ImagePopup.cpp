@@ -2,6 +2,7 @@
 
 #include "EflGuard.h"
 #include "Log.h"
+#include "Names.h"
 #include "ScaledSize.h"
 
 namespace VESKAR_APP
@@ -10,7 +11,7 @@ namespace VESKAR_APP
 ImagePopup::ImagePopup(IUserInteraction& userInteraction, const std::string& title, const std::string& sub,
                        const std::string& imageLocation, int width, int height, const std::string& bottom,
                        const std::vector<std::string>& buttons, bool noClose, Evas_Object* mainWindow)
-    : BaseDisplay(userInteraction, mainWindow, buttons, "C_PopupBasic_WhiteBottomLarge", true), m_image(nullptr),
+    : BaseDisplay(userInteraction, mainWindow, buttons, LARGE_POPUP_STYLE, true), m_image(nullptr),
       m_imageLocation(imageLocation), m_width(width), m_height(height), m_noClose(noClose)
 {
     t_SetTitle(title);

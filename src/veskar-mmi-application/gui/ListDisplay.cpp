@@ -6,6 +6,7 @@
 #include "ListRow.h"
 #include "ListWindow.h"
 #include "MultipleListWindow.h"
+#include "Names.h"
 #include "ScaledSize.h"
 
 namespace VESKAR_APP
@@ -34,7 +35,7 @@ void DeleteItem(Elm_Object_Item* item)
 
 template <class Screen>
 ListDisplay<Screen>::ListDisplay(IUserInteraction& userInteraction, bool selectable, Evas_Object* mainWindow)
-    : BaseDisplay(userInteraction, mainWindow, {}, "C_PopupBasic_WhiteBottomLarge", true), m_menuList(nullptr),
+    : BaseDisplay(userInteraction, mainWindow, {}, LARGE_POPUP_STYLE, true), m_menuList(nullptr),
       m_selectable(selectable), m_firstRowHeader(false)
 {
     LOG_ENTRY();

@@ -2,6 +2,7 @@
 
 #include "EflGuard.h"
 #include "Log.h"
+#include "Names.h"
 
 namespace VESKAR_APP
 {
@@ -9,7 +10,7 @@ namespace VESKAR_APP
 // NOLINTNEXTLINE(performance-unnecessary-value-param): by value as in the window manager's operation
 LoadingPopup::LoadingPopup(IUserInteraction& userInteraction, std::string text, const std::vector<std::string>& buttons,
                            int parameter, Evas_Object* mainWindow)
-    : BaseDisplay(userInteraction, mainWindow, buttons, "C_PopupBasic_WhiteBottom", false), m_progressBar(nullptr),
+    : BaseDisplay(userInteraction, mainWindow, buttons, POPUP_STYLE, false), m_progressBar(nullptr),
       m_parameter(parameter)
 {
     t_SetTitle(text);

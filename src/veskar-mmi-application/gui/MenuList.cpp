@@ -2,6 +2,7 @@
 
 #include "EflGuard.h"
 #include "Log.h"
+#include "Names.h"
 
 namespace VESKAR_APP
 {
@@ -35,7 +36,7 @@ Evas_Object* CreateEvenMenuList(Evas_Object* parent, Elm_Object_Select_Mode sele
 void ApplyMenuListLook(Evas_Object* list)
 {
     elm_genlist_mode_set(list, ELM_LIST_SCROLL);
-    elm_object_style_set(list, "C_Scrollbar_White");
+    elm_object_style_set(list, SCROLLER_STYLE);
     elm_scroller_policy_set(list, ELM_SCROLLER_POLICY_OFF, ELM_SCROLLER_POLICY_ON);
 }
 

@@ -3,6 +3,7 @@
 #include "EflGuard.h"
 #include "Log.h"
 #include "Markup.h"
+#include "Names.h"
 #include "Orientation.h"
 #include "ScaledSize.h"
 
@@ -21,18 +22,12 @@ namespace
 constexpr std::size_t LARGE_POPUP_BYTES = 300;
 constexpr std::size_t MAX_LABEL_BYTES = 300;
 
-constexpr const char* TEXT_PART = "elm.text";
-constexpr const char* LABEL_STYLE = "popup/c_popup_bottom";
-constexpr const char* TEXT_PAGE_STYLE = "C_Scrollbar_White";
 constexpr const char* TEXT_PAGE_FONT = "BrelmonFace_300";
 constexpr const char* PARAGRAPH_ALIGNMENT = "mixed";
 
-constexpr std::string_view KEY_UP = "Up";
-constexpr std::string_view KEY_DOWN = "Down";
-
 const char* StyleFor(const std::string& text)
 {
-    return text.size() < LARGE_POPUP_BYTES ? "C_PopupBasic_WhiteBottom" : "C_PopupBasic_WhiteBottomLarge";
+    return text.size() < LARGE_POPUP_BYTES ? POPUP_STYLE : LARGE_POPUP_STYLE;
 }
 
 void SetLabelText(Evas_Object* label, const std::string& markup)
@@ -122,7 +117,7 @@ Evas_Object* MessagePopup::m_AddTextPageObj(Evas_Object* parent)
     }
     {
         const MainLoopSection section;
-        elm_object_style_set(page, TEXT_PAGE_STYLE);
+        elm_object_style_set(page, SCROLLER_STYLE);
         elm_object_focus_allow_set(page, EINA_FALSE);
         elm_scroller_policy_set(page, ELM_SCROLLER_POLICY_OFF, ELM_SCROLLER_POLICY_ON);
         elm_scroller_bounce_set(page, EINA_FALSE, EINA_TRUE);

@@ -3,6 +3,7 @@
 #include "EflGuard.h"
 #include "ListRow.h"
 #include "MenuList.h"
+#include "Names.h"
 
 #include <algorithm>
 #include <cstring>
@@ -51,7 +52,7 @@ Elm_Genlist_Item_Class* MultipleListWindow::s_CreateListItemTemplate()
 {
     LOG_ENTRY_INFO();
     Elm_Genlist_Item_Class* itemClass = EFL_GUARD(elm_genlist_item_class_new);
-    itemClass->item_style = "C_TextItem_WhiteSingleline01";
+    itemClass->item_style = TEXT_ROW_STYLE;
     itemClass->func.text_get = s_TextGet;
     itemClass->func.content_get = s_ContentGet;
     return itemClass;

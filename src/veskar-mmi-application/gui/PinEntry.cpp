@@ -2,6 +2,7 @@
 
 #include "EflGuard.h"
 #include "Log.h"
+#include "Names.h"
 
 #include <string_view>
 
@@ -29,8 +30,8 @@ const std::string PinEntry::KEY_MORE_123 = "XF86More";
 PinEntry::PinEntry(IUserInteraction& userInteraction, const std::string& title, const std::string& /*sub*/,
                    const std::string& bottom, unsigned char /*pinLength*/, const std::string& extra,
                    Evas_Object* mainWindow)
-    : BaseDisplay(userInteraction, mainWindow, {}, "C_PopupBasic_WhiteBottom", true), m_pinWidget(nullptr),
-      m_pinLength(PIN_LENGTH), m_numPadShown(false)
+    : BaseDisplay(userInteraction, mainWindow, {}, POPUP_STYLE, true), m_pinWidget(nullptr), m_pinLength(PIN_LENGTH),
+      m_numPadShown(false)
 {
     LOG_ENTRY();
     t_SetTitle(title);

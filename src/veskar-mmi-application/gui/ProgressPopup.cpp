@@ -2,14 +2,15 @@
 
 #include "EflGuard.h"
 #include "Log.h"
+#include "Names.h"
 
 namespace VESKAR_APP
 {
 
 ProgressPopup::ProgressPopup(IUserInteraction& userInteraction, const std::string& title, const std::string& sub,
                              const std::string& buttonLabel, unsigned char percent, Evas_Object* mainWindow)
-    : BaseDisplay(userInteraction, mainWindow, {buttonLabel}, "C_PopupBasic_WhiteBottom", false),
-      m_progressBar(nullptr), m_percent(percent)
+    : BaseDisplay(userInteraction, mainWindow, {buttonLabel}, POPUP_STYLE, false), m_progressBar(nullptr),
+      m_percent(percent)
 {
     LOG_ENTRY_INFO();
     t_SetTitle(title);

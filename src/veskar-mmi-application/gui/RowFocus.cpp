@@ -1,6 +1,7 @@
 #include "RowFocus.h"
 
 #include "EflGuard.h"
+#include "Names.h"
 
 #include <string_view>
 
@@ -22,11 +23,11 @@ void SignalFocusedRow(Evas_Object* list, const char* signal)
 
 Elm_Object_Item* Neighbour(Elm_Object_Item* row, std::string_view key)
 {
-    if (key == "Up")
+    if (key == KEY_UP)
     {
         return elm_genlist_item_prev_get(row);
     }
-    return key == "Down" ? elm_genlist_item_next_get(row) : nullptr;
+    return key == KEY_DOWN ? elm_genlist_item_next_get(row) : nullptr;
 }
 
 /** Keys by which the list goes to a row of its own choice. */
@@ -143,7 +144,7 @@ bool RowFocus::m_TakeKey(const char* key)
         MoveTo(next);
         return true;
     }
-    if (m_below != nullptr && std::string_view(key) == "Down")
+    if (m_below != nullptr && key == KEY_DOWN)
     {
         elm_object_focus_set(m_below, EINA_TRUE);
         return true;

@@ -1,10 +1,11 @@
 #include "TestPopup.h"
+#include "Names.h"
 
 namespace VESKAR_APP
 {
 
 TestPopup::TestPopup(IUserInteraction& userInteraction, int /*testId*/, Evas_Object* mainWindow)
-    : BaseDisplay(userInteraction, mainWindow, {}, "C_PopupBasic_WhiteBottom", false)
+    : BaseDisplay(userInteraction, mainWindow, {}, POPUP_STYLE, false)
 {
     t_SetTitle("Test");
 }
