@@ -79,7 +79,8 @@ DisplayModes::DisplayModes() : m_plainTheme(LoadedTheme()), m_theme(m_plainTheme
         ASSIST_WARN("no theme of the TV is loaded: enlarged text and high contrast show in texts alone");
         return;
     }
-    m_settings.emplace(std::initializer_list{EnlargedTextKey, HighContrastKey}, [this] { m_SettingsChanged(); });
+    m_settings.emplace(std::initializer_list<const char*>{EnlargedTextKey, HighContrastKey},
+                       [this] { m_SettingsChanged(); });
     m_WatchWindow();
     m_Apply();
 }

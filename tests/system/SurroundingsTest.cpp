@@ -28,6 +28,7 @@ protected:
     void TearDown() override
     {
         Set("db/menu_widget/orientation", "0");
+        Set("db/menu/system/accessibility/focuszoom", "0");
         Set("memory/ephotel/hotelmenu/hotelfactorymode", "0");
     }
 };
@@ -46,6 +47,19 @@ TEST_F(Surroundings, direction_and_language_reach_the_running_application)
     ChangedShot(before);
     Press({"Left", "Return"});
     ExpectAnswer(rightToLeft, Answer(8, 255, 0, 2, 0));
+}
+
+TEST_F(Surroundings, enlarged_text_leaves_the_shown_screen_alone_and_is_the_next_ones_as_if_it_had_always_been_on)
+{
+    Process shown = SendMessage(7, 255, {"--button", "OK"});
+    const Picture before = StillShot();
+    Set("db/menu/system/accessibility/focuszoom", "1");
+    EXPECT_TRUE(StillShot() == before) << "the shown screen changes";
+    Process next = SendMessage(8, 255, {"--button", "OK"});
+    const Picture followed = ChangedShot(before);
+    EndApplication();
+    Process fresh = SendMessage(9, 255, {"--button", "OK"});
+    EXPECT_TRUE(StillShot() == followed) << "not all of it is enlarged";
 }
 
 TEST_F(Surroundings, a_hotel_set_in_factory_mode_launches_its_menu_with_each_screen_that_goes)
