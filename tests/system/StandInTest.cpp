@@ -9,8 +9,7 @@ class StandInTest : public TvTest
 protected:
     static Process StandFor(const std::string& appIds)
     {
-        return Process(
-            {"sh", "-c", "exec veskar-services --own " + appIds + " 2>&1"});
+        return Process({"sh", "-c", "exec veskar-services --own " + appIds + " 2>&1"});
     }
 
     static bool Says(const Process& process, const std::string& text)
