@@ -44,6 +44,10 @@ RemoteClient::~RemoteClient()
 
 std::vector<std::string> RemoteClient::ask(const std::string& command)
 {
+    if (command.find('\n') != std::string::npos)
+    {
+        throw RemoteRefusal("a command is one line");
+    }
     const std::string line = command + "\n";
     if (send(m_fd, line.data(), line.size(), MSG_NOSIGNAL) != static_cast<ssize_t>(line.size()))
     {

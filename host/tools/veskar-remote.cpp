@@ -35,6 +35,18 @@ void pressAll(veskar::RemoteClient& remote, const Keys& keys, std::chrono::milli
     }
 }
 
+/** The compositor's folder is another one, so it is told the whole path. */
+std::string wholePath(const std::string& file)
+{
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::absolute(file, error);
+    if (error)
+    {
+        throw veskar::RemoteRefusal("\"" + file + "\": " + error.message());
+    }
+    return path.string();
+}
+
 void print(const std::vector<std::string>& lines)
 {
     for (const std::string& line : lines)
@@ -86,13 +98,12 @@ int run(int argc, char* argv[])
 
     CLI::App* shot = app.add_subcommand("shot", "Save what is on the screen");
     shot->add_option("FILE.png", file)->required();
-    // The compositor's folder is another one.
     shot->callback(
         [&]
         {
             action = [&](auto& remote)
             {
-                remote.ask("shot " + std::filesystem::absolute(file).string());
+                remote.ask("shot " + wholePath(file));
             };
         });
 
