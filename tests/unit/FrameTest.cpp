@@ -36,23 +36,18 @@ TEST_F(FrameTest, NothingHappensBeforeCreateAndCreateNeedsItsDataAndTheMainLoop)
 
 TEST_F(FrameTest, MainEndsWithTheLoopsResultAndNamesThreeErrors)
 {
-    struct
-    {
-        int result;
-        int priority;
-        const char* line;
-    } const results[] = {
+    const std::tuple<int, int, const char*> results[] = {
         {APP_ERROR_NONE, DLOG_INFO, "ok"},
         {-5, DLOG_INFO, "ok"},
         {-114, DLOG_ERROR, "Application is already running error during running main loop"},
         {-22, DLOG_ERROR, "Invalid parameter error during running main loop"},
         {-17825791, DLOG_ERROR, "Invalid context error during running main loop"},
     };
-    for (const auto& expected : results)
+    for (const auto& [result, priority, line] : results)
     {
-        tv.loopResult = expected.result;
-        EXPECT_EQ(Run([] {}), expected.result);
-        EXPECT_TRUE(tv.Logged(expected.priority, expected.line));
+        tv.loopResult = result;
+        EXPECT_EQ(Run([] {}), result);
+        EXPECT_TRUE(tv.Logged(priority, line));
         EXPECT_EQ(tv.Log(DLOG_INFO).back(), "Ending up application");
         EXPECT_THAT(tv.deeds, ElementsAre("handle event 2"));
     }
@@ -77,30 +72,6 @@ TEST_F(FrameTest, CreateAppliesTheLanguageAndDirectionFirst)
     EXPECT_FALSE(elm_config_mirrored_get());
     EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("Config mirroring set to EINA_FALSE"));
     EXPECT_THAT(tv.deeds, IsEmpty());
-}
-
-TEST_F(FrameTest, APauseAfterARequestIsIgnoredUntilTheNextResume)
-{
-    Run([] { Create(); });
-    tv.Forget();
-    ShowMessage("7");
-    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Service complete!"));
-    Pause();
-    Pause();
-    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "Ignore pause!");
-    EXPECT_THAT(tv.Did("answer"), IsEmpty());
-    Resume();
-    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "Finishing resume callback!");
-    Pause();
-    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "Finishing pause callback!");
-    EXPECT_THAT(tv.Did("answer"), ElementsAre("answer 7 255 2 0 0 \"\""));
-
-    ShowMessage("8");
-    tv.Forget();
-    Terminate();
-    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "Finishing terminate callback!");
-    EXPECT_THAT(tv.Did("answer"), ElementsAre("answer 8 255 2 0 0 \"\""));
-    Resume();
 }
 
 TEST_F(FrameTest, ATestCaseComesFromTheOnlyArgument)

@@ -41,25 +41,20 @@ TEST_F(MessagePopupTest, BytesDecideTheStyleBelow300AndThePageAbove)
     {
         letters += "\u0436"; // two bytes
     }
-    struct
-    {
-        std::string text;
-        const char* style;
-        bool isPage;
-    } const messages[] = {
+    const std::tuple<std::string, const char*, bool> messages[] = {
         {std::string(299, 'x'), "C_PopupBasic_WhiteBottom", false},
         {std::string(300, 'x'), "C_PopupBasic_WhiteBottomLarge", false},
         {std::string(301, 'x'), "C_PopupBasic_WhiteBottomLarge", true},
         {letters, "C_PopupBasic_WhiteBottomLarge", false},
         {letters + "x", "C_PopupBasic_WhiteBottomLarge", true},
     };
-    for (const auto& message : messages)
+    for (const auto& [text, style, isPage] : messages)
     {
-        Show(message.text);
-        EXPECT_STREQ(elm_object_style_get(popup->t_popup), message.style);
-        EXPECT_EQ(Page() != nullptr, message.isPage);
-        EXPECT_EQ(Label().empty(), message.isPage);
-        EXPECT_THAT(tv.Did("say"), ElementsAre("say Title, Sub, " + message.text + ", Bottom, "));
+        Show(text);
+        EXPECT_STREQ(elm_object_style_get(popup->t_popup), style);
+        EXPECT_EQ(Page() != nullptr, isPage);
+        EXPECT_EQ(Label().empty(), isPage);
+        EXPECT_THAT(tv.Did("say"), ElementsAre("say Title, Sub, " + text + ", Bottom, "));
     }
 }
 
@@ -67,16 +62,13 @@ TEST_F(MessagePopupTest, AShortTextIsCentredAndLinesStandAtTheirSide)
 {
     Show("a < b");
     EXPECT_EQ(Label(), "<align=center>a &lt; b</align>");
-    EXPECT_TRUE(tv.Logged(DLOG_INFO, "label: a &lt; b"));
-    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Center aligned text"));
-    tv.orientation = 2;
-    Show("1\n2");
-    EXPECT_EQ(Label(), "<align=left>1<br/>2</align>");
-    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Left aligned text"));
-    tv.orientation = 1;
-    Show("1\n2");
-    EXPECT_EQ(Label(), "<align=right>1<br/>2</align>");
-    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Right aligned text"));
+    EXPECT_THAT(tv.Log(DLOG_INFO), testing::IsSupersetOf({"label: a &lt; b", "Center aligned text"}));
+    for (const auto& [orientation, side] : {std::pair(2, "left"), std::pair(1, "right")})
+    {
+        tv.orientation = orientation;
+        Show("1\n2");
+        EXPECT_EQ(Label(), std::string("<align=") + side + ">1<br/>2</align>");
+    }
 }
 
 TEST_F(MessagePopupTest, ATextPageFollowsTheAccessibilitySettings)

@@ -13,32 +13,19 @@ using Byte = unsigned char;
 /** Any call that a test does not expect is a failure. */
 struct WindowManagerMock : VESKAR_APP::IWindowManager
 {
-    MOCK_METHOD(bool, ShowMmiMessage,
-                (int, Byte, const Text&, const Text&, const Text&, const Text&, const Texts&, bool), (override));
-    MOCK_METHOD(bool, ShowMmiList,
-                (int, Byte, const Text&, const Text&, const Text&, const Text&, bool, const Texts&, const Texts&, bool),
-                (override));
-    MOCK_METHOD(bool, ShowMmiPinEntry, (int, Byte, const Text&, const Text&, const Text&, Byte, const Text&),
-                (override));
-    MOCK_METHOD(bool, ShowProgress, (int, Byte, const Text&, const Text&, const Text&, Byte), (override));
-    MOCK_METHOD(bool, ShowLoading, (int, Byte, Text, const Texts&, int), (override));
-    MOCK_METHOD(bool, ShowMessage, (int, Byte, const Text&, const Text&, const Text&, const Text&, const Texts&, bool),
-                (override));
-    MOCK_METHOD(bool, ShowImage,
-                (int, Byte, const Text&, const Text&, const Text&, const Text&, int, int, const Texts&, bool),
-                (override));
-    MOCK_METHOD(bool, ShowList,
-                (int, Byte, const Text&, const Text&, const Text&, const Texts&, const Text&, bool, const Texts&, bool),
-                (override));
-    MOCK_METHOD(bool, ShowMultipleList,
-                (int, Byte, const Text&, const Text&, const Text&, const Texts&, const Text&, bool, const Texts&, bool),
-                (override));
-    MOCK_METHOD(bool, ShowPinManager, (int, Byte, const Text&, const Text&, const Text&, Byte, const Text&),
-                (override));
-    MOCK_METHOD(bool, ShowMultipleImageList,
-                (int, Byte, const Text&, const Text&, const Text&, const Texts&, const Text&, bool, const Texts&,
-                 const Texts&, int, int, bool),
-                (override));
+    using T = const Text&;
+    using Ts = const Texts&;
+    MOCK_METHOD(bool, ShowMmiMessage, (int, Byte, T, T, T, T, Ts, bool), (override));
+    MOCK_METHOD(bool, ShowMmiList, (int, Byte, T, T, T, T, bool, Ts, Ts, bool), (override));
+    MOCK_METHOD(bool, ShowMmiPinEntry, (int, Byte, T, T, T, Byte, T), (override));
+    MOCK_METHOD(bool, ShowProgress, (int, Byte, T, T, T, Byte), (override));
+    MOCK_METHOD(bool, ShowLoading, (int, Byte, Text, Ts, int), (override));
+    MOCK_METHOD(bool, ShowMessage, (int, Byte, T, T, T, T, Ts, bool), (override));
+    MOCK_METHOD(bool, ShowImage, (int, Byte, T, T, T, T, int, int, Ts, bool), (override));
+    MOCK_METHOD(bool, ShowList, (int, Byte, T, T, T, Ts, T, bool, Ts, bool), (override));
+    MOCK_METHOD(bool, ShowMultipleList, (int, Byte, T, T, T, Ts, T, bool, Ts, bool), (override));
+    MOCK_METHOD(bool, ShowPinManager, (int, Byte, T, T, T, Byte, T), (override));
+    MOCK_METHOD(bool, ShowMultipleImageList, (int, Byte, T, T, T, Ts, T, bool, Ts, Ts, int, int, bool), (override));
     MOCK_METHOD(bool, ShowTestPopup, (int, Byte, int), (override));
     MOCK_METHOD(bool, Close, (int, Byte), (override));
     MOCK_METHOD(bool, Test, (int), (override));
@@ -156,10 +143,6 @@ TEST_F(ServiceProcessorTest, AMissingKeyLeavesItsDefaultAndAnErrorLine)
 
     EXPECT_CALL(screens, ShowImage(7, 254, "", "", "", "", 0, 0, none, false));
     Ask("ui_type_image", {});
-    EXPECT_CALL(screens, ShowList(7, 254, "", "", "", none, "", false, none, false));
-    Ask("ui_type_list", {});
-    EXPECT_CALL(screens, ShowMultipleList(7, 254, "", "", "", none, "", false, none, true));
-    Ask("ui_type_multiple_list", {});
     EXPECT_CALL(screens, ShowMultipleImageList(7, 254, "", "", "", none, "", false, none, none, 0, 0, false));
     Ask("ui_type_multiple_image_list", {});
     EXPECT_CALL(screens, ShowProgress(7, 254, "", "", "", 0));
@@ -222,20 +205,16 @@ TEST_F(ServiceProcessorTest, ASignalTypeIsNeededAndASequenceDoesNothing)
 
 TEST_F(ServiceProcessorTest, AMenuPositionStopsTheMenuAndReachesTheController)
 {
-    struct
+    const std::tuple<const char*, const char*, const char*> positions[] = {
+        {"veskar_menu", "MENU_POS_DONGLE_MENU", "menu 1"},
+        {"veskar_info", "MENU_POS_APP_INFO", "menu 0"},
+        {"veskar_add_op", "MENU_POS_ADD_OP", "menu 2"},
+        {"veskar_delete_op", "MENU_POS_DELETE_OP", "menu 3"}};
+    for (const auto& [name, line, position] : positions)
     {
-        const char* name;
-        const char* log;
-        const char* position;
-    } const positions[] = {{"veskar_menu", "MENU_POS_DONGLE_MENU", "menu 1"},
-                           {"veskar_info", "MENU_POS_APP_INFO", "menu 0"},
-                           {"veskar_add_op", "MENU_POS_ADD_OP", "menu 2"},
-                           {"veskar_delete_op", "MENU_POS_DELETE_OP", "menu 3"}};
-    for (const auto& position : positions)
-    {
-        EXPECT_TRUE(Handle({{"signal_type_key", "signal_menu_pos"}, {"menu_pos_key", position.name}}));
-        EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre(position.log));
-        EXPECT_THAT(tv.deeds, ElementsAre("task name:menu |stop", position.position));
+        EXPECT_TRUE(Handle({{"signal_type_key", "signal_menu_pos"}, {"menu_pos_key", name}}));
+        EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre(line));
+        EXPECT_THAT(tv.deeds, ElementsAre("task name:menu |stop", position));
     }
 
     EXPECT_TRUE(Handle({{"signal_type_key", "signal_menu_pos"}, {"menu_pos_key", "veskar"}}));

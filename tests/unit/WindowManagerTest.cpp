@@ -75,15 +75,7 @@ TEST_F(WindowManagerTest, AScreenIsBuiltBeforeKeysAndWindowAreTakenAndTheOldOneG
 
 TEST_F(WindowManagerTest, TheSourceDecidesOnKeysAndClock)
 {
-    struct
-    {
-        const char* mode;
-        const char* heldKey;
-        std::size_t held;
-        unsigned char source;
-        bool noClose;
-        bool clock;
-    } const screens[] = {
+    const std::tuple<const char*, const char*, std::size_t, unsigned char, bool, bool> screens[] = {
         {"Privileged mode", "XF86ChannelList", 72, 254, false, false},
         {"Privileged mode", "XF86Home", 72, 254, true, false},
         {"Normal mode", "Return", 7, 255, false, true},
@@ -91,18 +83,19 @@ TEST_F(WindowManagerTest, TheSourceDecidesOnKeysAndClock)
         {"Dongle MMI", "XF86Exit", 7, 253, false, true},
         {"Dongle MMI", "XF86Back", 7, 0, true, false},
     };
-    for (const auto& screen : screens)
+    for (const auto& [mode, heldKey, held, source, noClose, clock] : screens)
     {
-        Do([&] { EXPECT_TRUE(Show(7, screen.source, screen.noClose)); });
-        EXPECT_TRUE(tv.Logged(DLOG_INFO, screen.mode));
-        EXPECT_EQ(tv.heldKeys.count({screen.heldKey, screen.source == 254 ? 4 : 5}), 1U);
-        EXPECT_EQ(tv.heldKeys.size(), screen.held);
-        EXPECT_EQ(tv.Logged(DLOG_INFO, "Start visible timer"), screen.clock);
-        EXPECT_EQ(tv.Logged(DLOG_DEBUG, "milliseconds:30000"), screen.clock);
+        tv.Forget();
+        EXPECT_TRUE(Show(7, source, noClose));
+        EXPECT_TRUE(tv.Logged(DLOG_INFO, mode));
+        EXPECT_EQ(tv.heldKeys.count({heldKey, source == 254 ? 4 : 5}), 1U);
+        EXPECT_EQ(tv.heldKeys.size(), held);
+        EXPECT_EQ(tv.Logged(DLOG_INFO, "Start visible timer"), clock);
+        EXPECT_EQ(tv.Logged(DLOG_DEBUG, "milliseconds:30000"), clock);
 
         Do([this] { manager->KeyPressed(); }); // a key starts it whatever the screen asked for
-        EXPECT_EQ(tv.Logged(DLOG_INFO, "Restart visible timer"), screen.source != 254);
-        EXPECT_EQ(tv.Logged(DLOG_DEBUG, "milliseconds:30000"), screen.source != 254);
+        EXPECT_EQ(tv.Logged(DLOG_INFO, "Restart visible timer"), source != 254);
+        EXPECT_EQ(tv.Logged(DLOG_DEBUG, "milliseconds:30000"), source != 254);
         EXPECT_THAT(tv.deeds, IsEmpty());
     }
 }
@@ -155,13 +148,7 @@ TEST_F(WindowManagerTest, APinAlsoTakesTheNumberAndMediaKeys)
 
 TEST_F(WindowManagerTest, EachAnswerCarriesTheScreensIdsAndEndsIt)
 {
-    struct
-    {
-        std::function<void(WindowManager&)> answer;
-        const char* sent;
-        int priority;
-        const char* nothing;
-    } const answers[] = {
+    const std::tuple<std::function<void(WindowManager&)>, std::string, int, std::string> answers[] = {
         {[](auto& m) { m.PinEntered("1234"); }, "answer 7 3 0 0 0 \"1234\"", DLOG_WARN, "invalid id"},
         {[](auto& m) { m.ItemsSelected("13"); }, "answer 7 3 0 0 0 \"13\"", DLOG_WARN, "No UI to close"},
         {[](auto& m) { m.ItemSelected(255); }, "answer 7 3 0 0 255 \"\"", DLOG_INFO, "No UI to close"},
@@ -171,17 +158,20 @@ TEST_F(WindowManagerTest, EachAnswerCarriesTheScreensIdsAndEndsIt)
         {[](auto& m) { m.Exit(); }, "answer 7 3 2 0 0 \"\"", DLOG_INFO, "No UI to close"},
         {[](auto& m) { m.Terminate(); }, "answer 7 3 2 0 0 \"\"", DLOG_INFO, "No UI to close"},
     };
-    for (const auto& expected : answers)
+    for (const auto& [answer, sent, priority, nothing] : answers)
     {
         Show(7, 3);
-        const Texts deeds = Do([&] { expected.answer(*manager); });
-        const bool closed = std::string(expected.sent).find(" 3 2 ") != std::string::npos;
-        EXPECT_EQ(deeds, Joined({closed ? Texts{"iconify"} : Texts{}, {expected.sent}, RELEASED}));
+        tv.Forget();
+        answer(*manager);
+        const Texts hidden(sent.find(" 3 2 ") == std::string::npos ? 0 : 1, "iconify");
+        EXPECT_EQ(tv.DeedsByKeyGroup(), Joined({hidden, {sent}, RELEASED}));
         EXPECT_FALSE(evas_object_visible_get(Popup())); // hidden, not deleted
         ExpectIdle();
 
-        EXPECT_THAT(Do([&] { expected.answer(*manager); }), closed ? Texts{"iconify"} : Texts{});
-        EXPECT_TRUE(tv.Logged(expected.priority, std::string(expected.nothing) + " - m_uiId:0, m_sourceId:100"));
+        tv.Forget();
+        answer(*manager);
+        EXPECT_EQ(tv.deeds, hidden);
+        EXPECT_TRUE(tv.Logged(priority, nothing + " - m_uiId:0, m_sourceId:100"));
     }
 }
 
@@ -299,10 +289,10 @@ TEST_F(WindowManagerTest, AHotelsFactoryMenuComesBackAfterEachScreen)
         EXPECT_EQ(tv.liveRequests, 0);
         return tv.Did("launch");
     };
+    tv.numbers[MODE] = 1;
     EXPECT_THAT(launches(), IsEmpty());
     EXPECT_TRUE(tv.Logged(DLOG_INFO, "Failed to get SYSTEM_INFO_CUSTOM_KEY_B2B_OPTION_SUPPORT"));
     tv.features[HOTEL] = false;
-    tv.numbers[MODE] = 1;
     EXPECT_THAT(launches(), IsEmpty());
     EXPECT_TRUE(tv.Logged(DLOG_INFO, "This is not a hotel TV, menu cannot have been launched by factory menu"));
     tv.features[HOTEL] = true;

@@ -30,12 +30,13 @@ template <typename Value>
 int Read(const std::map<std::string, Value>& values, const char* key, Value* value)
 {
     const auto found = values.find(key);
-    if (found == values.end())
-    {
-        return -22;
-    }
-    *value = found->second;
-    return 0;
+    *value = found == values.end() ? *value : Value(found->second);
+    return found == values.end() ? -22 : 0;
+}
+
+int Result(const char* function, int error)
+{
+    return tv.Fails(function) ? error : 0;
 }
 
 const Value* Find(app_control_h request, const char* key)
@@ -107,13 +108,9 @@ int ui_app_add_event_handler(app_event_handler_h* /*handler*/, app_event_type_e 
 
 int app_control_create(app_control_h* request)
 {
-    if (tv.Fails("app_control_create"))
-    {
-        return APP_CONTROL_ERROR_OUT_OF_MEMORY;
-    }
-    *request = new app_control_s;
-    ++tv.liveRequests;
-    return APP_CONTROL_ERROR_NONE;
+    *request = tv.Fails("app_control_create") ? nullptr : new app_control_s;
+    tv.liveRequests += *request != nullptr ? 1 : 0;
+    return Result("app_control_create", APP_CONTROL_ERROR_OUT_OF_MEMORY);
 }
 
 int app_control_destroy(app_control_h request)
@@ -136,7 +133,7 @@ int app_control_set_app_id(app_control_h request, const char* appId)
 int app_control_add_extra_data(app_control_h request, const char* key, const char* value)
 {
     request->values.emplace_back(key, value);
-    return tv.Fails("app_control_add_extra_data") ? APP_CONTROL_ERROR_INVALID_PARAMETER : APP_CONTROL_ERROR_NONE;
+    return Result("app_control_add_extra_data", APP_CONTROL_ERROR_INVALID_PARAMETER);
 }
 
 int app_control_get_extra_data(app_control_h request, const char* key, char** value)
@@ -175,7 +172,7 @@ int app_control_send_launch_request(app_control_h request, app_control_reply_cb 
         launch += ' ' + key + '=' + value.front();
     }
     Did("launch", launch + (callback != nullptr || userData != nullptr ? " with reply" : ""));
-    return tv.Fails("app_control_send_launch_request") ? APP_CONTROL_ERROR_APP_NOT_FOUND : APP_CONTROL_ERROR_NONE;
+    return Result("app_control_send_launch_request", APP_CONTROL_ERROR_APP_NOT_FOUND);
 }
 
 int app_context_manager_request_task(const char* task, const char* action)
@@ -242,12 +239,9 @@ int KeyRouter_Add_Key(const char* name, int mode, _KeyList* list)
 
 int KeyRouter_Remove_Key(const char* name, int mode, _KeyList* list)
 {
-    auto* const end = list->keys + list->count;
-    auto* const kept =
-        std::remove_if(list->keys, end,
-                       [&](const KeyRouter_Key& key) { return std::strcmp(key.name, name) == 0 && key.mode == mode; });
-    list->count = static_cast<int>(kept - list->keys);
-    return kept != end ? 1 : 0;
+    const auto& last = list->keys[list->count - 1]; // the one that is tried at present
+    list->count -= std::strcmp(last.name, name) == 0 && last.mode == mode ? 1 : 0;
+    return 1;
 }
 
 namespace
@@ -261,45 +255,49 @@ int OtherStrength(int mode)
                                             : 0;
 }
 
-std::string ListText(const _KeyList* list)
+/** Writes down what is done to the list's keys and does it to each, up to the first that it cannot be done to. */
+template <typename Handle>
+int ForEach(const char* verb, const _KeyList* list, Handle handle)
 {
-    std::string text;
-    for (const KeyRouter_Key* key = list->keys; key != list->keys + list->count; ++key)
+    const auto* const end = list->keys + list->count;
+    std::string names;
+    std::for_each(list->keys, end,
+                  [&](const auto& key) { names += ' ' + std::string(key.name) + ':' + std::to_string(key.mode); });
+    tv.deeds.push_back(verb + names);
+    return std::all_of(list->keys, end, handle) ? 1 : 0;
+}
+
+bool Grab(const KeyRouter_Key& key)
+{
+    if (tv.Fails("KeyRouter_Set_KeyList") || tv.refusedKeys.count({key.name, key.mode}) != 0)
     {
-        text += (text.empty() ? "" : " ") + std::string(key->name) + ':' + std::to_string(key->mode);
+        return false;
     }
-    return text;
+    tv.heldKeys.erase({key.name, OtherStrength(key.mode)});
+    tv.heldKeys.emplace(key.name, key.mode);
+    return true;
+}
+
+bool Release(const KeyRouter_Key& key)
+{
+    if (tv.Fails("KeyRouter_UnSet_KeyList") || tv.heldKeys.count({key.name, OtherStrength(key.mode)}) != 0)
+    {
+        return false;
+    }
+    tv.heldKeys.erase({key.name, key.mode});
+    return true;
 }
 
 } // namespace
 
 int KeyRouter_Set_KeyList(wl_surface*, const _KeyList* list)
 {
-    Did("grab", ListText(list));
-    for (const KeyRouter_Key* key = list->keys; key != list->keys + list->count; ++key)
-    {
-        if (tv.Fails("KeyRouter_Set_KeyList") || tv.refusedKeys.count({key->name, key->mode}) != 0)
-        {
-            return 0;
-        }
-        tv.heldKeys.erase({key->name, OtherStrength(key->mode)});
-        tv.heldKeys.emplace(key->name, key->mode);
-    }
-    return 1;
+    return ForEach("grab", list, Grab);
 }
 
 int KeyRouter_UnSet_KeyList(wl_surface*, const _KeyList* list)
 {
-    Did("release", ListText(list));
-    for (const KeyRouter_Key* key = list->keys; key != list->keys + list->count; ++key)
-    {
-        if (tv.Fails("KeyRouter_UnSet_KeyList") || tv.heldKeys.count({key->name, OtherStrength(key->mode)}) != 0)
-        {
-            return 0;
-        }
-        tv.heldKeys.erase({key->name, key->mode});
-    }
-    return 1;
+    return ForEach("release", list, Release);
 }
 
 // The toolkit assistant, on plain widgets.
@@ -311,11 +309,7 @@ void ea_init(void)
 
 Evas_Object* ea_textpage_add(Evas_Object* parent)
 {
-    if (tv.Fails("ea_textpage_add"))
-    {
-        return nullptr;
-    }
-    Evas_Object* page = elm_scroller_add(parent);
+    Evas_Object* page = tv.Fails("ea_textpage_add") ? nullptr : elm_scroller_add(parent);
     tv.currentPages[page] = 0;
     return page;
 }
@@ -334,13 +328,12 @@ void ea_textpage_page_show(Evas_Object* page, int number)
 
 int ea_textpage_current_page_get(const Evas_Object* page)
 {
-    const auto found = tv.currentPages.find(page);
-    return found == tv.currentPages.end() ? 0 : found->second;
+    return tv.currentPages[page];
 }
 
 int ea_textpage_total_page_get(const Evas_Object* page)
 {
-    return tv.currentPages.count(page) != 0 ? 3 : 0;
+    return page != nullptr ? 3 : 0;
 }
 
 void ea_textpage_textblock_style_set(Evas_Object*, Evas_Textblock_Style* style)

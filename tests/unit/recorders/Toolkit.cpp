@@ -35,31 +35,22 @@ extern "C"
 
     // A Wayland connection whose every object is this TV: none of them is looked into.
 
+#define OPAQUE(Result, function, Argument)                                                                             \
+    Result* __wrap_##function(Argument*)                                                                               \
+    {                                                                                                                  \
+        return reinterpret_cast<Result*>(&tv);                                                                         \
+    }
+    OPAQUE(wl_display, ecore_wl2_display_get, Ecore_Wl2_Display)
+    OPAQUE(wl_registry, ecore_wl2_display_registry_get, Ecore_Wl2_Display)
+    OPAQUE(Ecore_Wl2_Input, ecore_wl2_input_default_input_get, const Ecore_Wl2_Display)
+    OPAQUE(wl_seat, ecore_wl2_input_seat_get, Ecore_Wl2_Input)
+    OPAQUE(Ecore_Wl2_Window, ecore_evas_wayland2_window_get, const Ecore_Evas)
+    void ecore_wl2_sync(void) {}
+
     Ecore_Wl2_Display* __wrap_ecore_wl2_connected_display_get(const char*)
     {
         return tv.hasWaylandDisplay ? reinterpret_cast<Ecore_Wl2_Display*>(&tv) : nullptr;
     }
-    wl_display* __wrap_ecore_wl2_display_get(Ecore_Wl2_Display*)
-    {
-        return reinterpret_cast<wl_display*>(&tv);
-    }
-    wl_registry* __wrap_ecore_wl2_display_registry_get(Ecore_Wl2_Display*)
-    {
-        return nullptr;
-    }
-    Ecore_Wl2_Input* __wrap_ecore_wl2_input_default_input_get(const Ecore_Wl2_Display*)
-    {
-        return nullptr;
-    }
-    wl_seat* __wrap_ecore_wl2_input_seat_get(Ecore_Wl2_Input*)
-    {
-        return nullptr;
-    }
-    Ecore_Wl2_Window* __wrap_ecore_evas_wayland2_window_get(const Ecore_Evas*)
-    {
-        return nullptr;
-    }
-    void ecore_wl2_sync(void) {}
 
     Eina_Iterator* __wrap_ecore_wl2_display_globals_get(Ecore_Wl2_Display*)
     {

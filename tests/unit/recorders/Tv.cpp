@@ -8,7 +8,7 @@ Texts Tv::Did(const std::string& verb) const
 {
     Texts found;
     std::copy_if(deeds.begin(), deeds.end(), std::back_inserter(found),
-                 [&](const std::string& deed) { return deed == verb || deed.rfind(verb + ' ', 0) == 0; });
+                 [&](const std::string& deed) { return (deed + ' ').rfind(verb + ' ', 0) == 0; });
     return found;
 }
 
