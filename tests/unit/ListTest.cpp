@@ -262,7 +262,10 @@ struct ImageListPopupTest : ListScreenTest<VESKAR_APP::ImageListPopup>
     std::string Picture()
     {
         const char* path = nullptr;
-        elm_image_file_get(Image(), &path, nullptr);
+        if (Evas_Object* image = Image())
+        {
+            elm_image_file_get(image, &path, nullptr);
+        }
         return path == nullptr ? "" : path;
     }
     /** The pictures on the screen after each of these keys, with the list focused. */
