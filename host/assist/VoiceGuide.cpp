@@ -94,9 +94,15 @@ void VoiceGuide::FollowFocus()
     m_window = FirstWindow();
     if (m_window)
     {
+        evas_object_event_callback_add(m_window, EVAS_CALLBACK_DEL, s_OnWindowGone, this);
         ecore_event_handler_add(ECORE_EVENT_KEY_DOWN, s_OnKey, this);
         ecore_idle_enterer_add(s_OnIdle, this);
     }
+}
+
+void VoiceGuide::s_OnWindowGone(void* data, Evas*, Evas_Object*, void*)
+{
+    static_cast<VoiceGuide*>(data)->m_window = nullptr;
 }
 
 Eina_Bool VoiceGuide::s_OnKey(void* data, int, void*)
@@ -117,6 +123,10 @@ Eina_Bool VoiceGuide::s_OnIdle(void* data)
 
 void VoiceGuide::m_LookAtFocus()
 {
+    if (!m_window)
+    {
+        return;
+    }
     const Focused focused = FindFocused(m_window);
     const bool sameElement = focused.SameElement(m_spoken);
     if (!focused.object || (sameElement && focused.ticked == m_spoken.ticked))

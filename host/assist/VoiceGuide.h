@@ -27,11 +27,12 @@ public:
 private:
     VoiceGuide() = default;
     ~VoiceGuide() = default;
+    static void s_OnWindowGone(void* data, Evas* canvas, Evas_Object* window, void* event);
     static Eina_Bool s_OnKey(void* data, int type, void* event);
     static Eina_Bool s_OnIdle(void* data);
     void m_LookAtFocus();
 
-    Evas_Object* m_window = nullptr;
+    Evas_Object* m_window = nullptr; // null once it is deleted: the toolkit still idles after it
     Focused m_spoken;
     bool m_viewerMoved = false;
 };
