@@ -130,35 +130,18 @@ TEST_F(TimeOutTest, ThousandsOfExpiriesMeetRequestsKeysPausesAndTerminate)
 {
     constexpr int STEPS = 2500;
     std::mt19937 random(20240607);
-    const auto below = [&random](unsigned limit)
+    const auto below = [&random](std::size_t limit)
     {
         return static_cast<int>(random() % limit);
+    };
+    const std::function<void()> steps[] = {
+        [this] { Request(true); }, [this] { Request(false); }, [this] { Key(); },         [this] { End(); },
+        [this] { ComeBack(); },    [this] { ComeBack(); },     [this] { LeaveScreen(); }, [this] { LeaveScreen(); },
     };
     int ends = 0;
     for (int step = 0; step < STEPS; ++step)
     {
-        switch (below(8))
-        {
-        case 0:
-            Request(true);
-            break;
-        case 1:
-            Request(false);
-            break;
-        case 2:
-            Key();
-            break;
-        case 3:
-            End();
-            break;
-        case 4:
-            ComeBack();
-            break;
-        default:
-            ComeBack();
-            LeaveScreen();
-            break;
-        }
+        steps[below(std::size(steps))]();
         // Half of the time the loop does not run while the clocks do.
         const auto pause = std::chrono::microseconds(below(2500));
         if (below(2) == 0)

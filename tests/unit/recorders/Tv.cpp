@@ -29,11 +29,9 @@ Texts Tv::DeedsByKeyGroup() const
         {
             deed = verb + group->second;
         }
-        if (found.empty() || found.back() != deed)
-        {
-            found.push_back(deed);
-        }
+        found.push_back(deed);
     }
+    found.erase(std::unique(found.begin(), found.end()), found.end());
     return found;
 }
 
