@@ -2,25 +2,18 @@
 
 #include <app.h>
 #include <dlog.h>
-#include <vconf.h>
 
 #include <Elementary.h>
 #include <IVesKarController.h>
 
 #include <chrono>
 #include <cstdlib>
-#include <map>
 #include <memory>
 #include <string>
 #include <thread>
 
 namespace
 {
-
-struct Free
-{
-    void operator()(char* text) const { free(text); }
-};
 
 Evas_Object* s_window = nullptr;
 bool s_sendAtTheEnd = false;
@@ -35,7 +28,7 @@ std::string Value(app_control_h request, const char* key)
 {
     char* value = nullptr;
     app_control_get_extra_data(request, key, &value);
-    const std::unique_ptr<char, Free> owner(value);
+    const std::unique_ptr<char, decltype(&free)> owner(value, free);
     return value == nullptr ? "" : value;
 }
 
@@ -48,43 +41,6 @@ void Launch(const char* appId)
     Tell("launch %d", app_control_send_launch_request(request, nullptr, nullptr));
     app_control_destroy(request);
 }
-
-/** The moment in which a request would be lost most easily lasts longer than in a real application. */
-void EndSlowly()
-{
-    elm_exit();
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-}
-
-const std::map<std::string, void (*)()> s_actions = {
-    {"hide",
-     []
-     {
-         evas_object_hide(s_window);
-     }},
-    {"show",
-     []
-     {
-         evas_object_show(s_window);
-     }},
-    {"replace",
-     []
-     {
-         evas_object_hide(s_window);
-         evas_object_show(s_window);
-     }},
-    {"end", EndSlowly},
-    {"launch nobody",
-     []
-     {
-         Launch("org.tizen.nobody");
-     }},
-    {"send at the end",
-     []
-     {
-         s_sendAtTheEnd = true;
-     }},
-};
 
 bool Create(void*)
 {
@@ -114,17 +70,26 @@ void Terminate(void*)
 void Request(app_control_h request, void*)
 {
     Tell("request %s", Value(request, "name").c_str());
-    const auto action = s_actions.find(Value(request, "do"));
-    if (action != s_actions.end())
+    const std::string action = Value(request, "do");
+    if (action == "hide" || action == "replace")
     {
-        action->second();
+        evas_object_hide(s_window);
     }
-}
-
-void LanguageChanged(app_event_info_h, void*)
-{
-    const std::unique_ptr<char, Free> language(vconf_get_str("db/menu_widget/language"));
-    Tell("language %s", language == nullptr ? "" : language.get());
+    if (action == "show" || action == "replace")
+    {
+        evas_object_show(s_window);
+    }
+    if (action == "launch nobody")
+    {
+        Launch("org.tizen.nobody");
+    }
+    if (action == "end")
+    {
+        // The moment in which a request would be lost most easily lasts longer than in a real application.
+        elm_exit();
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    s_sendAtTheEnd = s_sendAtTheEnd || action == "send at the end";
 }
 
 } // namespace
@@ -133,7 +98,5 @@ int main(int argc, char** argv)
 {
     ui_app_lifecycle_callback_s callbacks = {Create, Terminate, [](void*) { Tell("pause"); },
                                              [](void*) { Tell("resume"); }, Request};
-    app_event_handler_h handler = nullptr;
-    ui_app_add_event_handler(&handler, APP_EVENT_LANGUAGE_CHANGED, LanguageChanged, nullptr);
     return ui_app_main(argc, argv, &callbacks, nullptr);
 }

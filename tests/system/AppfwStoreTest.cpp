@@ -112,11 +112,10 @@ TEST(Log, one_call_is_one_line_from_any_thread)
     // Longer than what a pipe takes at once.
     const std::string text = std::string(6000, 'x') + "\nNumber [5] pressed!";
     testing::internal::CaptureStderr();
-    std::vector<std::thread> threads;
-    threads.reserve(4);
-    for (int i = 0; i < 4; ++i)
+    std::thread threads[4];
+    for (auto& thread : threads)
     {
-        threads.emplace_back(
+        thread = std::thread(
             [&]
             {
                 for (int line = 0; line < COUNT; ++line)

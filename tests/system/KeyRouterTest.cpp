@@ -1,36 +1,27 @@
 // Who hears which key: the compositor's routing, seen from clients without a toolkit.
 
-#include "Process.h"
 #include "RemoteClient.h"
 #include "RemoteSocketPath.h"
+#include "Tv.h"
 #include "WaylandWindow.h"
 
-#include <fstream>
 #include <optional>
 
 #include <Ecore.h>
-#include <gtest/gtest.h>
 
 /** A TV with two windows, the second above the first; a test may make a third. */
-class KeyRouter : public ::testing::Test
+class KeyRouter : public TvTest
 {
 protected:
+    static void SetUpTestSuite() { ecore_init(); }
+    static void TearDownTestSuite() { ecore_shutdown(); }
+
     void SetUp() override
     {
-        ecore_init();
         // The compositor may still have to notice that the clients of the test before have gone.
         ASSERT_TRUE(WaitUntil([this] { return m_remote.ask("grabs").empty(); }));
         m_lower.emplace().Show();
         m_upper.emplace().Show();
-    }
-
-    void TearDown() override
-    {
-        for (std::optional<WaylandWindow>* window : {&m_third, &m_upper, &m_lower})
-        {
-            window->reset();
-        }
-        ecore_shutdown();
     }
 
     void CloseUpper()
@@ -55,14 +46,6 @@ protected:
             }
         }
         return who;
-    }
-
-    std::string Shot()
-    {
-        const std::string path = veskar::remoteSocketPath() + ".png";
-        m_remote.ask("shot " + path);
-        std::ifstream file(path, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(file), {});
     }
 
     veskar::RemoteClient m_remote{veskar::remoteSocketPath()};
@@ -192,7 +175,7 @@ TEST_F(KeyRouter, refuses_a_key_that_does_not_exist)
 
 TEST_F(KeyRouter, lies_in_a_compositor_that_shows_lower_windows_through_the_upper_ones)
 {
-    const std::string both = Shot();
+    const Picture both = Shot();
     CloseUpper();
     EXPECT_NE(both, Shot());
 }

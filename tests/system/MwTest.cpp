@@ -7,12 +7,9 @@ using namespace veskar;
 namespace
 {
 
-using Words = std::vector<std::string>;
-
-Process Mw(Words arguments)
+Process Mw(const Words& arguments)
 {
-    arguments.insert(arguments.begin(), "veskar-mw");
-    return Process(arguments);
+    return Process(Words{"veskar-mw"} + arguments);
 }
 
 } // namespace

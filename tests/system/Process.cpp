@@ -7,6 +7,7 @@
 #include <utility>
 
 #include <gtest/gtest.h>
+#include <spawn.h>
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -16,20 +17,19 @@ namespace
 
 constexpr std::chrono::milliseconds POLL_INTERVAL{5};
 
-[[noreturn]] void Become(const std::vector<std::string>& command, int output)
+} // namespace
+
+Words operator+(Words first, const Words& second)
 {
-    std::vector<char*> arguments;
-    for (const std::string& argument : command)
-    {
-        arguments.push_back(const_cast<char*>(argument.c_str()));
-    }
-    arguments.push_back(nullptr);
-    dup2(output, STDOUT_FILENO);
-    execvp(arguments[0], arguments.data());
-    _exit(127);
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
 }
 
-} // namespace
+std::string Environment(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value == nullptr ? "" : value;
+}
 
 bool WaitUntil(const std::function<bool()>& predicate, std::chrono::milliseconds limit)
 {
@@ -45,16 +45,22 @@ bool WaitUntil(const std::function<bool()>& predicate, std::chrono::milliseconds
     return true;
 }
 
-Process::Process(const std::vector<std::string>& command) : m_output(memfd_create("output", MFD_CLOEXEC))
+Process::Process(const Words& command) : m_output(memfd_create("output", MFD_CLOEXEC))
 {
-    m_pid = fork();
-    if (m_pid < 0 || m_output < 0)
+    std::vector<char*> arguments;
+    for (const std::string& argument : command)
+    {
+        arguments.push_back(const_cast<char*>(argument.c_str()));
+    }
+    arguments.push_back(nullptr);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, m_output, STDOUT_FILENO);
+    const int error = posix_spawnp(&m_pid, arguments[0], &actions, nullptr, arguments.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    if (error != 0)
     {
         throw std::runtime_error("cannot start " + command.at(0));
-    }
-    if (m_pid == 0)
-    {
-        Become(command, m_output);
     }
 }
 
@@ -99,7 +105,12 @@ std::string Process::Output() const
     return text;
 }
 
-std::string RunCommand(const std::vector<std::string>& command)
+bool Process::Says(const std::string& text) const
+{
+    return WaitUntil([&] { return Output().find(text) != std::string::npos; });
+}
+
+std::string RunCommand(const Words& command)
 {
     Process process(command);
     EXPECT_EQ(process.Status(), 0) << command.at(0) << " " << (command.size() > 1 ? command[1] : "");

@@ -11,6 +11,14 @@
 /** How long anything may take before a test gives up on it; far above what a loaded machine needs. */
 constexpr std::chrono::seconds PATIENCE{20};
 
+using Words = std::vector<std::string>;
+
+/** The words of both. */
+Words operator+(Words first, const Words& second);
+
+/** The value of an environment variable; empty when there is none. */
+std::string Environment(const char* name);
+
 /** Asks again and again until it is true; false when that was not so within the time. */
 bool WaitUntil(const std::function<bool()>& predicate, std::chrono::milliseconds limit = PATIENCE);
 
@@ -18,7 +26,7 @@ bool WaitUntil(const std::function<bool()>& predicate, std::chrono::milliseconds
 class Process
 {
 public:
-    explicit Process(const std::vector<std::string>& command);
+    explicit Process(const Words& command);
     /** Ends the command where it still runs. */
     ~Process();
 
@@ -33,6 +41,8 @@ public:
 
     /** What was printed so far. */
     std::string Output() const;
+    /** Whether this is printed within the time. */
+    bool Says(const std::string& text) const;
 
 private:
     pid_t m_pid;
@@ -41,4 +51,4 @@ private:
 };
 
 /** Runs a command to its end and gives back what it printed; a status other than 0 fails the test. */
-std::string RunCommand(const std::vector<std::string>& command);
+std::string RunCommand(const Words& command);

@@ -2,22 +2,12 @@
 
 #include "Tv.h"
 
-#include <csignal>
-
 namespace
 {
 
 void Set(const std::string& key, const std::string& value)
 {
     RunCommand({"veskar-setting", "set", key, value});
-}
-
-/** Owns an application's name and prints what it is asked, as long as this process lives. */
-Process StandFor(const std::string& application)
-{
-    Process process({"sh", "-c", "exec " VESKAR_SERVICES_PROGRAM " --own " + application + " 2>&1"});
-    EXPECT_TRUE(WaitUntil([&] { return process.Output().find("stands ready") != std::string::npos; }));
-    return process;
 }
 
 } // namespace
@@ -29,7 +19,6 @@ protected:
     {
         Set("db/menu_widget/orientation", "0");
         Set("db/menu/system/accessibility/focuszoom", "0");
-        Set("memory/ephotel/hotelmenu/hotelfactorymode", "0");
     }
 };
 
@@ -62,61 +51,21 @@ TEST_F(Surroundings, enlarged_text_leaves_the_shown_screen_alone_and_is_the_next
     EXPECT_TRUE(StillShot() == followed) << "not all of it is enlarged";
 }
 
-TEST_F(Surroundings, a_hotel_set_in_factory_mode_launches_its_menu_with_each_screen_that_goes)
-{
-    Process menu = StandFor("org.tizen.ep-hotel-factory");
-    const auto launches = [&menu]
-    {
-        int count = 0;
-        const std::string output = menu.Output();
-        for (std::size_t at = output.find("AppControl"); at != std::string::npos;
-             at = output.find("AppControl", at + 1))
-        {
-            ++count;
-        }
-        return count;
-    };
-    Set("memory/ephotel/hotelmenu/hotelfactorymode", "1");
-    Set("com.brelmon/featureconf/product.b2b_option_support", "0");
-    Process usual = SendMessage(7, 255, {"--button", "OK"});
-    Press({"Return"});
-    ExpectAnswer(usual, Answer(7, 255, 0, 1, 0));
-    // The answer goes out before the screen does, and it is the going that asks what set this is.
-    ASSERT_TRUE(WaitUntil([this] { return CountInLog("This is not a hotel TV") == 1; }));
-    EXPECT_EQ(launches(), 0);
-
-    Set("com.brelmon/featureconf/product.b2b_option_support", "1");
-    Process hotel = SendMessage(8, 255, {"--button", "OK"});
-    Press({"Return"});
-    ExpectAnswer(hotel, Answer(8, 255, 0, 1, 0));
-    EXPECT_TRUE(WaitUntil([&] { return launches() == 1; }));
-}
-
-TEST_F(Surroundings, the_screen_is_raised_above_the_setup_wizard_and_channel_search)
+TEST_F(Surroundings, the_screen_is_raised_above_the_setup_wizard)
 {
     const std::string raised = "Adjusting the Kavro UI layer";
-    for (const std::string application : {"org.tizen.wizard", "org.tizen.channel-search"})
-    {
-        EndApplication();
-        const int before = CountInLog(raised);
-        Process alone = SendMessage(7, 255);
-        EXPECT_EQ(CountInLog(raised), before);
-        Process setup = StandFor(application);
-        Process above = SendMessage(8, 255);
-        EXPECT_EQ(CountInLog(raised), before + 1) << application;
-    }
+    Process alone = SendMessage(7, 255);
+    EXPECT_EQ(CountInLog(raised), 0);
+    Process setup = StandFor("org.tizen.wizard");
+    ASSERT_TRUE(setup.Says("stands ready"));
+    Process above = SendMessage(8, 255);
+    EXPECT_EQ(CountInLog(raised), 1);
 }
 
 TEST_F(Surroundings, a_menu_position_reaches_the_middleware_and_its_screen_follows)
 {
-    const std::map<std::string, int> positions{
-        {"veskar_info", 0}, {"veskar_menu", 1}, {"veskar_add_op", 2}, {"veskar_delete_op", 3}};
-    for (const auto& [name, position] : positions)
-    {
-        const std::string answer = RunCommand({"veskar-mw", "menu", name});
-        EXPECT_NE(answer.find("{\"menuPosition\":" + std::to_string(position) + "}"), std::string::npos) << answer;
-        EXPECT_NE(answer.find("name:menu "), std::string::npos) << answer;
-    }
+    EXPECT_EQ(RunCommand({"veskar-mw", "menu", "veskar_delete_op"}),
+              "{\"task\":\"name:menu \",\"action\":\"stop\"}\n{\"menuPosition\":3}\n");
     Process screen = SendMessage(7, 255, {"--button", "OK"});
     Press({"Return"});
     ExpectAnswer(screen, Answer(7, 255, 0, 1, 0));

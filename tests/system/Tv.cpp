@@ -1,37 +1,25 @@
 #include "Tv.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <sstream>
 
 #include <unistd.h>
 
+using veskar::Applications::interface;
+
 namespace
 {
-
-constexpr const char* APPLICATION = "org.tizen.veskar-app";
-constexpr const char* APPLICATION_PATH = "/org/tizen/veskar_app";
-constexpr const char* APPLICATION_INTERFACE = "org.tizen.Application1";
 
 std::string ReadFile(const std::string& path, std::streamoff from = 0)
 {
     std::ifstream file(path, std::ios::binary);
     file.seekg(from);
-    std::ostringstream content;
-    content << file.rdbuf();
-    return content.str();
-}
-
-std::string Setting(const char* name)
-{
-    const char* value = std::getenv(name);
-    return value == nullptr ? "" : value;
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 } // namespace
 
-TvTest::TvTest() : m_bus(sdbus::createSessionBusConnection()), m_logFile(Setting("VESKAR_TV_LOG")) {}
+TvTest::TvTest() : m_bus(sdbus::createSessionBusConnection()), m_logFile(Environment("VESKAR_TV_LOG")) {}
 
 void TvTest::SetUp()
 {
@@ -39,46 +27,34 @@ void TvTest::SetUp()
     m_logStart = static_cast<std::streamoff>(ReadFile(m_logFile).size());
 }
 
-Process TvTest::Send(const std::vector<std::string>& arguments)
+Process TvTest::Send(const Words& arguments)
 {
-    std::vector<std::string> command{"veskar-mw"};
-    command.insert(command.end(), arguments.begin(), arguments.end());
     const int before = CountInLog("Service complete!");
-    Process process(command);
+    Process process(Words{"veskar-mw"} + arguments);
     EXPECT_TRUE(WaitUntil([&] { return CountInLog("Service complete!") > before; })) << "the request was not handled";
     return process;
 }
 
-Process TvTest::SendMessage(int uiId, int sourceId, const std::vector<std::string>& more)
+Process TvTest::SendMessage(int uiId, int sourceId, const Words& more)
 {
-    std::vector<std::string> arguments{
-        "--ui-id", std::to_string(uiId), "--source-id", std::to_string(sourceId), "message", "--title", "T",
-        "--text",  "A message"};
-    arguments.insert(arguments.end(), more.begin(), more.end());
-    return Send(arguments);
+    const Words ids{"--ui-id", std::to_string(uiId), "--source-id", std::to_string(sourceId)};
+    return Send(ids + Words{"message", "--title", "T", "--text", "A message"} + more);
 }
 
-void TvTest::Press(const std::vector<std::string>& keys)
+void TvTest::Press(const Words& keys)
 {
-    std::vector<std::string> command{"veskar-remote", "press"};
-    command.insert(command.end(), keys.begin(), keys.end());
-    RunCommand(command);
+    RunCommand(Words{"veskar-remote", "press"} + keys);
 }
 
-std::map<std::string, std::string> TvTest::Grabs()
+std::map<std::string, std::string> TvTest::Grabs(const std::string& program)
 {
-    const std::string application = std::to_string(ApplicationPid()) + "/";
+    const std::string wanted = program.empty() ? std::to_string(ApplicationPid()) : program;
     std::map<std::string, std::string> grabs;
-    std::istringstream lines(RunCommand({"veskar-remote", "grabs"}));
-    std::string line;
-    while (std::getline(lines, line))
+    std::istringstream words(RunCommand({"veskar-remote", "grabs"}));
+    for (std::string key, mode, client; words >> key >> mode >> client;)
     {
-        std::istringstream words(line);
-        std::string key;
-        std::string mode;
-        std::string client;
-        words >> key >> mode >> client;
-        if (client.rfind(application, 0) == 0)
+        const std::size_t slash = client.find('/'); // between the process and the program
+        if (wanted == client.substr(0, slash) || wanted == client.substr(slash + 1))
         {
             grabs[key] = mode;
         }
@@ -88,7 +64,7 @@ std::map<std::string, std::string> TvTest::Grabs()
 
 Picture TvTest::Shot()
 {
-    const std::string path = Setting("XDG_RUNTIME_DIR") + "/shot.png";
+    const std::string path = Environment("XDG_RUNTIME_DIR") + "/shot.png";
     RunCommand({"veskar-remote", "shot", path});
     return {ReadFile(path)};
 }
@@ -124,7 +100,7 @@ bool TvTest::IsApplicationRunning()
     return ApplicationPid() != 0;
 }
 
-unsigned TvTest::ApplicationPid()
+unsigned TvTest::ApplicationPid(const std::string& application)
 {
     auto bus = sdbus::createProxy(*m_bus, "org.freedesktop.DBus", "/org/freedesktop/DBus");
     unsigned pid = 0;
@@ -132,7 +108,7 @@ unsigned TvTest::ApplicationPid()
     {
         bus->callMethod("GetConnectionUnixProcessID")
             .onInterface("org.freedesktop.DBus")
-            .withArguments(APPLICATION)
+            .withArguments(application)
             .storeResultsTo(pid);
     }
     catch (const sdbus::Error&)
@@ -148,10 +124,9 @@ void TvTest::EndApplication()
     {
         return;
     }
-    auto application = sdbus::createProxy(*m_bus, APPLICATION, APPLICATION_PATH);
     try
     {
-        application->callMethod("Terminate").onInterface(APPLICATION_INTERFACE).dontExpectReply();
+        Call("Terminate");
     }
     catch (const sdbus::Error&)
     {
@@ -160,14 +135,31 @@ void TvTest::EndApplication()
     ASSERT_TRUE(WaitForApplicationEnd());
 }
 
+void TvTest::Call(const std::string& method, const std::string& application)
+{
+    sdbus::createProxy(*m_bus, application, veskar::Applications::PathOf(application))
+        ->callMethod(method)
+        .onInterface(interface);
+}
+
+Process TvTest::StandFor(const std::string& applications)
+{
+    return Process({"sh", "-c", "exec veskar-services --own " + applications + " 2>&1"});
+}
+
 bool TvTest::WaitForApplicationEnd()
 {
     return WaitUntil([this] { return !IsApplicationRunning(); });
 }
 
+std::string TvTest::Log() const
+{
+    return ReadFile(m_logFile, m_logStart);
+}
+
 int TvTest::CountInLog(const std::string& text) const
 {
-    const std::string log = ReadFile(m_logFile, m_logStart);
+    const std::string log = Log();
     int count = 0;
     for (std::size_t at = log.find(text); at != std::string::npos; at = log.find(text, at + text.size()))
     {
@@ -178,13 +170,10 @@ int TvTest::CountInLog(const std::string& text) const
 
 std::string TvTest::SendRaw(const std::map<std::string, sdbus::Variant>& values, const std::string& application)
 {
-    std::string path = "/" + application;
-    std::replace(path.begin(), path.end(), '.', '/');
-    std::replace(path.begin(), path.end(), '-', '_');
     try
     {
-        auto target = sdbus::createProxy(*m_bus, application, path);
-        target->callMethod("AppControl").onInterface(APPLICATION_INTERFACE).withArguments(values);
+        auto target = sdbus::createProxy(*m_bus, application, veskar::Applications::PathOf(application));
+        target->callMethod("AppControl").onInterface(interface).withArguments(values);
         return "";
     }
     catch (const sdbus::Error& error)

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "Process.h"
+#include "TvBus.h"
 
 #include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <sdbus-c++/sdbus-c++.h>
 
 /** Images of the screen are compared byte by byte: the compositor's pictures are exact. */
@@ -39,15 +40,15 @@ protected:
      * Sends a request with `veskar-mw` and these arguments, and returns when the application has handled it. The
      * process waits for the answer.
      */
-    Process Send(const std::vector<std::string>& arguments);
+    Process Send(const Words& arguments);
 
     /** `Send` with a message that has these ids; more arguments may follow. */
-    Process SendMessage(int uiId, int sourceId, const std::vector<std::string>& more = {});
+    Process SendMessage(int uiId, int sourceId, const Words& more = {});
 
-    void Press(const std::vector<std::string>& keys);
+    void Press(const Words& keys);
 
-    /** What the application holds at the compositor: key and mode. */
-    std::map<std::string, std::string> Grabs();
+    /** What a program, the application where none is said, holds at the compositor: key and mode. */
+    std::map<std::string, std::string> Grabs(const std::string& program = "");
 
     Picture Shot();
     /** The picture once it stays the same: nothing moves any more. */
@@ -57,17 +58,24 @@ protected:
 
     bool IsApplicationRunning();
     /** 0 when it does not run. */
-    unsigned ApplicationPid();
+    unsigned ApplicationPid(const std::string& application = veskar::Applications::dialogues);
     /** Ends the application as the TV would, and waits until it is gone. */
     void EndApplication();
     bool WaitForApplicationEnd();
 
-    /** How often a text stands in the TV's log since the test began. */
+    /** What the TV says to an application: "Pause", "Resume" or "Terminate". */
+    void Call(const std::string& method, const std::string& application = veskar::Applications::dialogues);
+
+    /** Owns the names of these applications and prints what they are asked, as long as the process lives. */
+    static Process StandFor(const std::string& applications);
+
+    /** What was written to the TV's log since the test began, and how often a text stands there. */
+    std::string Log() const;
     int CountInLog(const std::string& text) const;
 
     /** The middleware's call itself, for what the tool would not send; the error's name, or nothing. */
     std::string SendRaw(const std::map<std::string, sdbus::Variant>& values,
-                        const std::string& application = "org.tizen.veskar-app");
+                        const std::string& application = veskar::Applications::dialogues);
 
     std::unique_ptr<sdbus::IConnection> m_bus;
 

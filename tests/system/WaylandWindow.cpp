@@ -63,39 +63,22 @@ WaylandGlobals& Globals(void* data)
     return *static_cast<WaylandGlobals*>(data);
 }
 
-template <typename T>
-T* Bind(wl_registry* registry, uint32_t name, const wl_interface& interface)
-{
-    return static_cast<T*>(wl_registry_bind(registry, name, &interface, 1));
-}
-
 void OnGlobal(void* data, wl_registry* registry, uint32_t name, const char* interface, uint32_t)
 {
     WaylandGlobals& globals = Globals(data);
-    const auto is = [interface](const char* wanted)
+    const auto bind = [&](auto& owner, const wl_interface& wanted)
     {
-        return std::strcmp(interface, wanted) == 0;
+        if (std::strcmp(interface, wanted.name) == 0)
+        {
+            void* object = wl_registry_bind(registry, name, &wanted, 1);
+            owner.reset(static_cast<decltype(owner.get())>(object));
+        }
     };
-    if (is(wl_compositor_interface.name))
-    {
-        globals.compositor.reset(Bind<wl_compositor>(registry, name, wl_compositor_interface));
-    }
-    else if (is(wl_shm_interface.name))
-    {
-        globals.shm.reset(Bind<wl_shm>(registry, name, wl_shm_interface));
-    }
-    else if (is(wl_seat_interface.name))
-    {
-        globals.seat.reset(Bind<wl_seat>(registry, name, wl_seat_interface));
-    }
-    else if (is(xdg_wm_base_interface.name))
-    {
-        globals.shell.reset(Bind<xdg_wm_base>(registry, name, xdg_wm_base_interface));
-    }
-    else if (is(KEYROUTER_INTERFACE))
-    {
-        globals.routerName = name;
-    }
+    bind(globals.compositor, wl_compositor_interface);
+    bind(globals.shm, wl_shm_interface);
+    bind(globals.seat, wl_seat_interface);
+    bind(globals.shell, xdg_wm_base_interface);
+    globals.routerName = std::strcmp(interface, KEYROUTER_INTERFACE) == 0 ? name : globals.routerName;
 }
 
 void OnKey(void* data, wl_keyboard*, uint32_t, uint32_t, uint32_t code, uint32_t state)
