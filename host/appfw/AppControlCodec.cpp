@@ -210,7 +210,7 @@ std::optional<std::string> DecodeAppControl(const Eldbus_Message* call, app_cont
     return Decoder(request).Read(call);
 }
 
-BusMessage EncodeAppControl(const std::string& appId, const app_control_s& request)
+BusMessage EncodeAppControl(const std::string& appId, const std::string& busName, const app_control_s& request)
 {
     const bool fit = std::all_of(request.data.begin(), request.data.end(),
                                  [](const auto& entry) { return IsBusText(entry.first) && IsFit(entry.second); });
@@ -218,7 +218,7 @@ BusMessage EncodeAppControl(const std::string& appId, const app_control_s& reque
     {
         return nullptr;
     }
-    auto call = NewCall(appId, Applications::PathOf(appId), Applications::interface, Applications::appControl);
+    auto call = NewCall(busName, Applications::PathOf(appId), Applications::interface, Applications::appControl);
     auto* arguments = eldbus_message_iter_get(call.get());
     auto* entries = eldbus_message_iter_container_new(arguments, 'a', "{sv}");
     for (const auto& [key, value] : request.data)

@@ -27,8 +27,10 @@ constexpr const char* RefusedError = "org.tizen.Application1.Error.Refused";
  */
 std::optional<std::string> DecodeAppControl(const Eldbus_Message* call, app_control_s& request);
 
-/** An AppControl call to the application of that id; null when the id or a text of the request is not fit for the bus.
+/**
+ * An AppControl call for the application of that id, to whoever owns `busName`: the id itself, or the unique name of
+ * one of its processes. Null when the id or a text of the request is not fit for the bus.
  */
-BusMessage EncodeAppControl(const std::string& appId, const app_control_s& request);
+BusMessage EncodeAppControl(const std::string& appId, const std::string& busName, const app_control_s& request);
 
 } // namespace veskar

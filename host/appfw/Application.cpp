@@ -7,11 +7,12 @@
 
 #include "AppControlCodec.h"
 #include "BusName.h"
+#include "HandOver.h"
 #include "Log.h"
 #include "MainLoop.h"
-#include "OwnName.h"
 #include "SettingKeys.h"
 #include "SettingsWatch.h"
+#include "TvBus.h"
 #include "WindowWatch.h"
 
 namespace veskar
@@ -21,6 +22,12 @@ namespace
 
 /** Seconds in which a busy TV starts any program that a last message goes to; no hung one keeps the process longer. */
 constexpr double LongestFarewell = 10;
+
+/** An id that leaves room for the name under which a process of it leaves. */
+bool CanRunAs(const std::string& id)
+{
+    return IsApplicationId(id.c_str()) && IsApplicationId(Applications::LeavingNameOf(id).c_str());
+}
 
 bool StartToolkit(int argc, char** argv)
 {
@@ -70,8 +77,7 @@ int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& c
     m_callbacks = callbacks;
     m_userData = userData;
     const BusLibrary library;
-    m_connection.reset(library && IsApplicationId(m_id.c_str()) ? eldbus_connection_get(ELDBUS_CONNECTION_TYPE_SESSION)
-                                                                : nullptr);
+    m_connection.reset(library && CanRunAs(m_id) ? eldbus_connection_get(ELDBUS_CONNECTION_TYPE_SESSION) : nullptr);
     if (!m_connection)
     {
         APPFW_ERROR("%s cannot reach the TV's bus", m_id.c_str());
@@ -103,22 +109,23 @@ int Application::m_RunOwner(int argc, char** argv)
     {
         return m_bus->IsGone() ? APP_ERROR_INVALID_CONTEXT : APP_ERROR_ALREADY_RUNNING;
     }
+    m_queue->PutFirst(TakeOver(m_connection.get(), *m_bus, m_id));
     if (!StartToolkit(argc, argv))
     {
         APPFW_ERROR("the toolkit cannot be initialised");
         return APP_ERROR_INVALID_CONTEXT;
     }
     const bool created = m_Live();
-    name.Release();
     if (created)
     {
-        m_PassOnCalls();
+        m_HandOver(name);
     }
     else
     {
-        m_RefuseCalls("the application could not be created");
+        name.Release();
+        m_RefuseCalls(RefusedError, "the application could not be created");
+        m_AwaitOutgoing();
     }
-    m_AwaitOutgoing();
     elm_shutdown();
     return created ? APP_ERROR_NONE : APP_ERROR_INVALID_CONTEXT;
 }
@@ -228,22 +235,68 @@ void Application::m_ReplyError(const Eldbus_Message* call, const char* name, con
     }
 }
 
-void Application::m_PassOnCalls()
+void Application::m_HandOver(OwnName& name)
+{
+    // Before the id is given back: the next process asks for it as soon as it owns the id.
+    const Leaving leaving(m_connection.get(), *m_bus, m_id,
+                          [this](const std::string& successor) { m_PassOnCalls(successor); });
+    name.Release();
+    if (m_queue->HoldsRequest())
+    {
+        m_StartNext();
+    }
+    m_AwaitOutgoing();
+    m_RefuseCalls(RefusedError, "the next process of the application did not ask for the request");
+}
+
+void Application::m_StartNext()
+{
+    auto call = NewCall(ELDBUS_FDO_BUS, ELDBUS_FDO_PATH, ELDBUS_FDO_INTERFACE, "StartServiceByName");
+    eldbus_message_arguments_append(call.get(), "su", m_id.c_str(), 0U);
+    const auto started = [this](const Eldbus_Message* reply)
+    {
+        const char* name = nullptr;
+        const char* text = nullptr;
+        if (eldbus_message_error_get(reply, &name, &text))
+        {
+            m_RefuseCalls(name, text);
+        }
+    };
+    Send(std::move(call), started);
+}
+
+void Application::m_PassOnCalls(const std::string& successor)
+{
+    m_EmptyQueue([&](const LifecycleEvent& request) { m_PassOn(request, successor); });
+}
+
+void Application::m_RefuseCalls(const char* name, const char* why)
+{
+    const auto refuse = [&](const LifecycleEvent& request)
+    {
+        APPFW_ERROR("the application takes a request no more: %s", why);
+        m_ReplyError(request.call.get(), name, why);
+    };
+    m_EmptyQueue(refuse);
+}
+
+void Application::m_EmptyQueue(const std::function<void(const LifecycleEvent& request)>& handle)
 {
     while (const auto event = m_queue->TakeCall())
     {
         if (event->kind == LifecycleKind::Request)
         {
-            m_PassOn(*event);
+            handle(*event);
         }
         else
         {
             m_Reply(event->call.get());
         }
     }
+    WakeMainLoop(); // m_AwaitOutgoing waits for the queue too
 }
 
-void Application::m_PassOn(const LifecycleEvent& event)
+void Application::m_PassOn(const LifecycleEvent& event, const std::string& successor)
 {
     APPFW_INFO("a request came while the application ended: passed on to the next process");
     const std::shared_ptr<Eldbus_Message> asked = ShareMessage(event.call.get());
@@ -259,17 +312,9 @@ void Application::m_PassOn(const LifecycleEvent& event)
         }
         m_Reply(asked.get());
     };
-    if (!Send(EncodeAppControl(m_id, *event.request), forward))
+    if (!Send(EncodeAppControl(m_id, successor, *event.request), forward))
     {
         APPFW_ERROR("a request that came while the application ended is lost: the bus is gone");
-    }
-}
-
-void Application::m_RefuseCalls(const char* why)
-{
-    while (const auto event = m_queue->TakeCall())
-    {
-        m_ReplyError(event->call.get(), RefusedError, why);
     }
 }
 
@@ -277,7 +322,7 @@ void Application::m_AwaitOutgoing()
 {
     const auto done = [this]
     {
-        return m_bus->IsGone() || m_outgoing->Empty();
+        return m_bus->IsGone() || (m_outgoing->Empty() && !m_queue->HoldsRequest());
     };
     if (!TurnMainLoopUntil(done, LongestFarewell))
     {

@@ -1,6 +1,7 @@
 /** The running application: its place on the bus, its life and what it is told. */
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,6 +14,7 @@
 #include "BusWatch.h"
 #include "LifecycleQueue.h"
 #include "OutgoingCalls.h"
+#include "OwnName.h"
 
 /** The objects behind the platform's handles. */
 struct app_event_handler
@@ -70,9 +72,13 @@ private:
     void m_ReplyError(const Eldbus_Message* call, const char* name, const char* text);
 
     /** What reached a process on its way out goes to the next one, and the next one's reply to who asked. */
-    void m_PassOnCalls();
-    void m_PassOn(const LifecycleEvent& event);
-    void m_RefuseCalls(const char* why);
+    void m_HandOver(OwnName& name);
+    void m_StartNext();
+    void m_PassOnCalls(const std::string& successor);
+    void m_PassOn(const LifecycleEvent& event, const std::string& successor);
+    void m_RefuseCalls(const char* name, const char* why);
+    /** The calls that are no requests have nothing to wait for any more. */
+    void m_EmptyQueue(const std::function<void(const LifecycleEvent& request)>& handle);
     void m_AwaitOutgoing();
 
     const std::string m_id;

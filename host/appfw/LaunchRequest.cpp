@@ -36,7 +36,7 @@ int app_control_send_launch_request(app_control_h request, app_control_reply_cb 
     {
         return APP_CONTROL_ERROR_APP_NOT_FOUND;
     }
-    auto call = veskar::EncodeAppControl(appId, *request);
+    auto call = veskar::EncodeAppControl(appId, appId, *request);
     const auto report = [appId, callback, userData](const Eldbus_Message* reply)
     {
         Report(appId, reply, callback, userData);

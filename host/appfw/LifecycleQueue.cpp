@@ -1,5 +1,7 @@
 #include "LifecycleQueue.h"
 
+#include <algorithm>
+
 namespace veskar
 {
 namespace
@@ -40,6 +42,19 @@ void LifecycleQueue::Stop()
         ecore_timer_del(m_turn);
         m_turn = nullptr;
     }
+}
+
+void LifecycleQueue::PutFirst(const std::string& sender)
+{
+    std::stable_partition(m_calls.begin(), m_calls.end(),
+                          [&](const LifecycleEvent& event)
+                          { return event.call && eldbus_message_sender_get(event.call.get()) == sender; });
+}
+
+bool LifecycleQueue::HoldsRequest() const
+{
+    return std::any_of(m_calls.begin(), m_calls.end(),
+                       [](const LifecycleEvent& event) { return event.kind == LifecycleKind::Request; });
 }
 
 std::optional<LifecycleEvent> LifecycleQueue::TakeCall()

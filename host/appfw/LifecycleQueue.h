@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 
 #include <Ecore.h>
 
@@ -58,6 +59,11 @@ public:
     /** From now on events are delivered, until Stop; what is held already, first. */
     void Start();
     void Stop();
+
+    /** Puts the calls of that sender before all others; each kind keeps its order. */
+    void PutFirst(const std::string& sender);
+
+    bool HoldsRequest() const;
 
     /** Takes out the calls that were not delivered, one at a time. */
     std::optional<LifecycleEvent> TakeCall();

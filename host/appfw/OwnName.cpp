@@ -8,9 +8,19 @@ namespace veskar
 
 bool OwnName::Request()
 {
+    return m_Request(ELDBUS_NAME_REQUEST_FLAG_DO_NOT_QUEUE);
+}
+
+bool OwnName::RequestFromAny()
+{
+    return m_Request(ELDBUS_NAME_REQUEST_FLAG_DO_NOT_QUEUE | ELDBUS_NAME_REQUEST_FLAG_ALLOW_REPLACEMENT |
+                     ELDBUS_NAME_REQUEST_FLAG_REPLACE_EXISTING);
+}
+
+bool OwnName::m_Request(unsigned int flags)
+{
     Answer answer;
-    auto* sent =
-        eldbus_name_request(m_connection, m_name.c_str(), ELDBUS_NAME_REQUEST_FLAG_DO_NOT_QUEUE, s_OnAnswer, &answer);
+    auto* sent = eldbus_name_request(m_connection, m_name.c_str(), flags, s_OnAnswer, &answer);
     const auto code = m_Await(answer, sent);
     return code == ELDBUS_NAME_REQUEST_REPLY_PRIMARY_OWNER || code == ELDBUS_NAME_REQUEST_REPLY_ALREADY_OWNER;
 }

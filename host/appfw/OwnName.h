@@ -1,4 +1,4 @@
-/** The application's name on the bus: who owns it is the running instance. */
+/** A name of the application on the bus: the owner of its id is the running instance. */
 #pragma once
 
 #include <optional>
@@ -22,6 +22,9 @@ public:
     /** False when another process owns it, or the bus refuses. */
     bool Request();
 
+    /** The same, but an owner that has requested it in this way too gives it up. */
+    bool RequestFromAny();
+
     /**
      * On return every call that the daemon has sent to this process has been dispatched; the next one goes to, and
      * starts, the next process.
@@ -32,6 +35,7 @@ private:
     /** 0 for an error. */
     using Answer = std::optional<unsigned int>;
 
+    bool m_Request(unsigned int flags);
     static void s_OnAnswer(void* data, const Eldbus_Message* reply, Eldbus_Pending* pending);
     unsigned int m_Await(Answer& answer, Eldbus_Pending* sent) const;
 

@@ -21,6 +21,14 @@ inline std::string PathOf(const std::string& id)
     std::replace(path.begin(), path.end(), '-', '_');
     return path;
 }
+
+/** Owned by a process of that id on its way out: under it, the next process asks for the calls that this one holds. */
+inline std::string LeavingNameOf(const std::string& id)
+{
+    return id + ".leaving";
+}
+inline const std::string leavingInterface = "org.tizen.LeavingApplication1";
+inline const std::string takeOver = "TakeOver";
 } // namespace Applications
 
 /** Where the application's answers and menu positions go. */

@@ -2,6 +2,7 @@
 
 #include "Tv.h"
 
+#include <atomic>
 #include <csignal>
 #include <fstream>
 #include <random>
@@ -129,16 +130,29 @@ TEST_F(Appfw, what_is_no_string_or_too_large_is_refused_by_its_key_and_never_see
     ExpectTold({"create", "request whole", "resume", "request "});
 }
 
-TEST_F(Appfw, no_request_is_lost_or_told_twice_when_the_process_ends)
+TEST_F(Appfw, requests_are_told_once_and_in_their_order_whenever_the_process_ends)
 {
     constexpr int ROUNDS = 40;
+    constexpr int BURST = 12;
     std::minstd_rand random(20261121);
-    std::uniform_int_distribution<int> moment(0, 30);
-    for (int round = 1; round <= ROUNDS; ++round)
+    std::uniform_int_distribution<int> moment(0, 5000);
+    std::atomic<int> taken{0};
+    auto connection = sdbus::createSessionBusConnection();
+    connection->enterEventLoopAsync();
+    auto application =
+        sdbus::createProxy(*connection, Applications::dialogues, Applications::PathOf(Applications::dialogues));
+    for (int sent = 1; sent <= ROUNDS * BURST; ++sent)
     {
-        ASSERT_EQ(SendRaw(Request(std::to_string(round), "end")), "");
-        std::this_thread::sleep_for(std::chrono::milliseconds(moment(random)));
+        // The second end falls into what the first process could not take any more.
+        const auto request = Request(std::to_string(sent), sent % BURST == 1 || sent % BURST == 4 ? "end" : "");
+        application->callMethodAsync(Applications::appControl)
+            .onInterface(Applications::interface)
+            .withArguments(request)
+            .uponReplyInvoke([&taken](const sdbus::Error* error) { taken += error == nullptr ? 1 : 0; });
+        std::this_thread::sleep_for(std::chrono::microseconds(moment(random)));
+        ASSERT_TRUE(sent % BURST != 0 || WaitUntil([&] { return taken == sent; })) << taken << " of " << sent;
     }
+    Call("Terminate");
     EXPECT_TRUE(WaitForApplicationEnd());
     int told = 0;
     for (const auto& event : Told())
@@ -148,8 +162,17 @@ TEST_F(Appfw, no_request_is_lost_or_told_twice_when_the_process_ends)
             EXPECT_EQ(event, "request " + std::to_string(++told));
         }
     }
-    EXPECT_EQ(told, ROUNDS);
-    EXPECT_GT(CountInLog("passed on to the next process"), ROUNDS / 8) << "no request met the end of the process";
+    EXPECT_EQ(told, ROUNDS * BURST);
+    EXPECT_GT(CountInLog("passed on to the next process"), ROUNDS) << "no request met the end of the process";
+}
+
+TEST_F(Appfw, a_leaving_process_that_hangs_does_not_keep_the_next_one_for_ever)
+{
+    const std::string leaving = Applications::LeavingNameOf(Applications::dialogues);
+    m_bus->requestName(leaving); // and answers nothing
+    EXPECT_EQ(SendRaw(Request("first")), "");
+    m_bus->releaseName(leaving);
+    ExpectTold({"create", "request first", "resume"});
 }
 
 TEST_F(Appfw, an_application_that_nobody_has_is_not_found)
