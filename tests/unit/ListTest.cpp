@@ -170,6 +170,11 @@ TEST_F(ListWindowTest, AHeaderStandsAboveTheRowsAndIsNotOneOfThem)
 TEST_F(ListWindowTest, ASelectableListReportsEachPressOfARow)
 {
     Show("", true, {"head", "a", "b", "c"});
+    Elm_Scroller_Policy across;
+    Elm_Scroller_Policy down;
+    elm_scroller_policy_get(list->m_menuList, &across, &down);
+    EXPECT_EQ(std::pair(across, down), std::pair(ELM_SCROLLER_POLICY_OFF, ELM_SCROLLER_POLICY_ON));
+    EXPECT_EQ(elm_genlist_mode_get(list->m_menuList), ELM_LIST_SCROLL);
     PressRow(2);
     PressRow(2);
     PressRow(0);
@@ -203,6 +208,7 @@ TEST_F(ListWindowTest, TheListTakesTheFocusOnceItsRowsExist)
 TEST_F(MultipleListWindowTest, TheFirstButtonReportsTheMarkedRowsByTheirDigits)
 {
     Show("LR", false, Texts(13, "row"));
+    EXPECT_TRUE(elm_genlist_homogeneous_get(list->m_menuList));
     for (const int row : {2, 11})
     {
         PressRow(row);
