@@ -5,9 +5,7 @@
 #include <random>
 #include <thread>
 
-class Lifecycle : public TvTest
-{
-};
+using Lifecycle = TvTest;
 
 TEST_F(Lifecycle, a_screen_that_is_replaced_ignores_its_pause_and_one_that_is_answered_does_not)
 {

@@ -9,9 +9,7 @@ using namespace std::string_literals;
 using testing::_, testing::AllOf, testing::Contains, testing::Each, testing::Key, testing::Ne, testing::Pair,
     testing::SizeIs;
 
-class Message : public TvTest
-{
-};
+using Message = TvTest;
 
 TEST_F(Message, answers_the_button_that_the_viewer_chose)
 {
@@ -92,9 +90,7 @@ TEST_P(Replacements, leave_the_last_one_hearing_keys_and_every_other_answered_on
 
 INSTANTIATE_TEST_SUITE_P(Apart, Replacements, ::testing::Values(3, 100));
 
-class Keys : public TvTest
-{
-};
+using Keys = TvTest;
 
 TEST_F(Keys, of_a_privileged_screen_are_the_channel_changers_for_itself_alone)
 {

@@ -4,9 +4,7 @@
 
 using namespace veskar;
 
-class StandInTest : public TvTest
-{
-};
+using StandInTest = TvTest;
 
 TEST_F(StandInTest, SaysWhatItIsAskedAndEndsWithTheLastOfItsApplications)
 {

@@ -95,11 +95,6 @@ Picture TvTest::ChangedShot(const Picture& before)
     return StillShot();
 }
 
-bool TvTest::IsApplicationRunning()
-{
-    return ApplicationPid() != 0;
-}
-
 unsigned TvTest::ApplicationPid(const std::string& application)
 {
     auto bus = sdbus::createProxy(*m_bus, "org.freedesktop.DBus", "/org/freedesktop/DBus");
@@ -145,11 +140,6 @@ void TvTest::Call(const std::string& method, const std::string& application)
 Process TvTest::StandFor(const std::string& applications)
 {
     return Process({"sh", "-c", "exec veskar-services --own " + applications + " 2>&1"});
-}
-
-bool TvTest::WaitForApplicationEnd()
-{
-    return WaitUntil([this] { return !IsApplicationRunning(); });
 }
 
 std::string TvTest::Log() const

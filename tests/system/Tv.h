@@ -56,12 +56,15 @@ protected:
     /** The same, after the screen has changed from what it was. */
     Picture ChangedShot(const Picture& before);
 
-    bool IsApplicationRunning();
+    bool IsApplicationRunning() { return ApplicationPid() != 0; }
     /** 0 when it does not run. */
     unsigned ApplicationPid(const std::string& application = veskar::Applications::dialogues);
     /** Ends the application as the TV would, and waits until it is gone. */
     void EndApplication();
-    bool WaitForApplicationEnd();
+    bool WaitForApplicationEnd()
+    {
+        return WaitUntil([this] { return !IsApplicationRunning(); });
+    }
 
     /** What the TV says to an application: "Pause", "Resume" or "Terminate". */
     void Call(const std::string& method, const std::string& application = veskar::Applications::dialogues);

@@ -117,6 +117,7 @@ TEST_F(ProgressPopupTest, ShowsAPercentageThatIsUpdatedInPlace)
     EXPECT_EQ(TextOf(popup.t_popup, "title,text"), "T");
     EXPECT_DOUBLE_EQ(elm_progressbar_value_get(Bar()), 0.07);
     EXPECT_STREQ(elm_progressbar_unit_format_get(Bar()), "%1.0f %%");
+    EXPECT_EQ(elm_progressbar_span_size_get(Bar()), 100);
     EXPECT_TRUE(elm_win_borderless_get(window));
 
     EXPECT_TRUE(popup.Update("<T2>", "a&b", "", 40));
