@@ -18,10 +18,9 @@ namespace
 Evas_Object* s_window = nullptr;
 bool s_sendAtTheEnd = false;
 
-template <typename... Args>
-void Tell(const char* format, Args... args)
+void Tell(const std::string& text)
 {
-    __dlog_print(LOG_ID_MAIN, DLOG_INFO, "PROBE", format, args...);
+    __dlog_print(LOG_ID_MAIN, DLOG_INFO, "PROBE", "%s", text.c_str());
 }
 
 std::string Value(app_control_h request, const char* key)
@@ -38,7 +37,7 @@ void Launch(const char* appId)
     app_control_create(&request);
     app_control_set_app_id(request, appId);
     app_control_add_extra_data(request, "name", "from another");
-    Tell("launch %d", app_control_send_launch_request(request, nullptr, nullptr));
+    Tell("launch " + std::to_string(app_control_send_launch_request(request, nullptr, nullptr)));
     app_control_destroy(request);
 }
 
@@ -61,15 +60,15 @@ void Terminate(void*)
     {
         Launch("org.tizen.slow");
         auto* controller = VESKAR_API::IVesKarController::Instance();
-        Tell("answer %d", controller->SendResponse(-7, 254, 3, 1, 255, "Ünï\n"));
-        Tell("no text %d", controller->SendResponse(8, 255, 0, 0, 0, "\xff\xfe") ||
-                               controller->SendResponse(8, 255, 0, 0, 0, std::string("1\0002", 3)));
+        Tell("answer " + std::to_string(controller->SendResponse(-7, 254, 3, 1, 255, "Ünï\n")));
+        Tell("no text " + std::to_string(controller->SendResponse(8, 255, 0, 0, 0, "\xff\xfe") ||
+                                         controller->SendResponse(8, 255, 0, 0, 0, std::string("1\0002", 3))));
     }
 }
 
 void Request(app_control_h request, void*)
 {
-    Tell("request %s", Value(request, "name").c_str());
+    Tell("request " + Value(request, "name"));
     const std::string action = Value(request, "do");
     if (action == "hide" || action == "replace")
     {
