@@ -336,11 +336,14 @@ TEST_F(ImageListPopupTest, AWidePictureIsBroughtDownForAllThatFollow)
 
 TEST_F(ImageListPopupTest, WithoutAPictureTheRowsStayAndWithoutRowsNothing)
 {
-    Show("", false, {"a", "b"}, true, Texts{"", "/no/such/picture.png"}, 4, 4);
+    Show("", false, {"a", "b", "c"}, true, Texts{"", first, "/no/such/picture.png"}, 4, 4);
     EXPECT_TRUE(tv.Logged(DLOG_ERROR, "There are no images to display. We could still have text menu"));
     After({"Down"});
+    EXPECT_TRUE(evas_object_visible_get(Image()));
+    After({"Down"});
     EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Loading the image file has failed :/no/such/picture.png"));
-    EXPECT_EQ(Items().size(), 2U);
+    EXPECT_FALSE(evas_object_visible_get(Image())); // not the one of the row before
+    EXPECT_EQ(Items().size(), 3U);
     Show("", false, {}, true, Texts{first}, 4, 4);
     EXPECT_TRUE(tv.Logged(DLOG_ERROR, "There are no entries to display. Returning"));
     EXPECT_EQ(Image(), nullptr);

@@ -166,6 +166,11 @@ void ImageListPopup::s_OnMenuUnfocusd(void* data, Evas_Object* /*object*/, void*
 void ImageListPopup::m_UpdateImage()
 {
     LOG_ENTRY_INFO();
+    if (m_image != nullptr)
+    {
+        // Another row's image would be taken for this one's, wherever this one has none.
+        EFL_GUARD(evas_object_hide, m_image);
+    }
     if (m_currentIndex >= m_imageLocations.size())
     {
         LOG_ERROR("Wrong index value!");
