@@ -5,8 +5,10 @@
 
 #include <sdbus-c++/sdbus-c++.h>
 
+#include <cstdint>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace veskar
 {
@@ -26,12 +28,12 @@ inline const std::string ask = "Ask";
 /** Tell(a{sv} request) → (): the application took the request; nothing more is waited for. */
 inline const std::string tell = "Tell";
 /**
- * OpenMenu(a{sv} request) → (): as Tell; what the application asks because of it comes to the caller alone, as the
- * signals TaskRequested(s task, s action) and MenuPositionOpened(i position), before or after the reply.
+ * OpenMenu(a{sv} request) → (a(ss) tasks, ai positions): as Tell; the tasks, each with its action, and the menu
+ * positions that the application asked for because of it.
  */
 inline const std::string openMenu = "OpenMenu";
-inline const std::string taskRequested = "TaskRequested";
-inline const std::string menuPositionOpened = "MenuPositionOpened";
+using Tasks = std::vector<sdbus::Struct<std::string, std::string>>;
+using Positions = std::vector<std::int32_t>;
 
 /** The application refused the request; the message is its own. */
 inline const std::string refused = "org.tizen.VesKarDesk1.Error.Refused";

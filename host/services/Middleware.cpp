@@ -9,12 +9,6 @@ namespace veskar
 {
 namespace
 {
-/**
- * A request that reached the application on its way out is passed on to its next process, which the bus starts once
- * the name is free. So the name without an owner means nothing yet; a slow machine starts the next one within this.
- */
-constexpr std::chrono::seconds s_restartTime{5};
-
 /** What the bus says of a name that nobody owns and nobody can be started for. */
 bool IsNoApplication(const std::string& errorName)
 {
@@ -58,9 +52,10 @@ std::string NameOf(const RequestData& request)
 }
 
 /** The library's results can only be moved, and a callback must be copyable. */
-std::shared_ptr<sdbus::Result<>> Share(sdbus::Result<>&& result)
+template <typename... Results>
+std::shared_ptr<sdbus::Result<Results...>> Share(sdbus::Result<Results...>&& result)
 {
-    return std::make_shared<sdbus::Result<>>(std::move(result));
+    return std::make_shared<sdbus::Result<Results...>>(std::move(result));
 }
 
 void Reply(const sdbus::Result<>& result, const sdbus::Error* refusal)
@@ -88,17 +83,8 @@ Middleware::Middleware(sdbus::IConnection& connection)
 
 void Middleware::TaskRequested(const std::string& task, const std::string& action)
 {
-    const std::string client = m_menuCallers.NextTurn();
-    if (!client.empty())
-    {
-        m_Signal(client, Desk::taskRequested, task, action);
-    }
-}
-
-void Middleware::GiveUp()
-{
-    m_deadline = never;
-    m_screens.FailDelivered(sdbus::Error{Desk::gone, "the application went away without an answer"});
+    m_tasks = {{task, action}};
+    m_positions.clear();
 }
 
 void Middleware::m_RegisterController()
@@ -135,14 +121,9 @@ void Middleware::m_RegisterDesk()
     m_object->registerMethod(Desk::openMenu)
         .onInterface(Desk::interface)
         .withInputParamNames("request")
-        .implementedAs([this](sdbus::Result<>&& result, const RequestData& request)
+        .withOutputParamNames("tasks", "positions")
+        .implementedAs([this](MenuResult&& result, const RequestData& request)
                        { m_OpenMenu(std::move(result), request); });
-    m_object->registerSignal(Desk::taskRequested)
-        .onInterface(Desk::interface)
-        .withParameters<std::string, std::string>("task", "action");
-    m_object->registerSignal(Desk::menuPositionOpened)
-        .onInterface(Desk::interface)
-        .withParameters<std::int32_t>("position");
 }
 
 void Middleware::m_WatchNames()
@@ -152,6 +133,17 @@ void Middleware::m_WatchNames()
         .call([this](const std::string& name, const std::string& oldOwner, const std::string& newOwner)
               { m_OwnerChanged(name, oldOwner, newOwner); });
     m_bus->finishRegistration();
+    try
+    {
+        m_bus->callMethod("GetNameOwner")
+            .onInterface("org.freedesktop.DBus")
+            .withArguments(Applications::dialogues)
+            .storeResultsTo(m_owner);
+    }
+    catch (const sdbus::Error&)
+    {
+        m_owner.clear(); // It does not run.
+    }
 }
 
 void Middleware::m_Ask(Waiter::Result&& result, ScreenIds screen, const RequestData& request)
@@ -171,7 +163,8 @@ void Middleware::m_Ask(Waiter::Result&& result, ScreenIds screen, const RequestD
                       m_screens.Fail(waiter, *refusal);
                       return;
                   }
-                  waiter->delivered = true;
+                  // Also where a leaving process has passed the request on: it replies after the next one has.
+                  m_screens.Delivered(waiter, m_owner);
               });
 }
 
@@ -182,26 +175,25 @@ void Middleware::m_Tell(sdbus::Result<>&& result, const RequestData& request)
     m_Forward(request, [reply](const sdbus::Error* refusal) { Reply(*reply, refusal); });
 }
 
-void Middleware::m_OpenMenu(sdbus::Result<>&& result, const RequestData& request)
+void Middleware::m_OpenMenu(MenuResult&& result, const RequestData& request)
 {
     Print("menu request " + NameOf(request));
-    const std::string client = m_Caller();
-    m_menuCallers.Add(client);
     const auto reply = Share(std::move(result));
     m_Forward(request,
-              [this, client, reply](const sdbus::Error* refusal)
+              [this, reply](const sdbus::Error* refusal)
               {
                   if (refusal != nullptr)
                   {
-                      m_menuCallers.Remove(client);
+                      reply->returnError(*refusal);
+                      return;
                   }
-                  Reply(*reply, refusal);
+                  reply->returnResults(m_tasks, m_positions);
               });
 }
 
 void Middleware::m_SendResponse(const Answer& answer)
 {
-    const std::size_t waiters = m_screens.Answered(answer);
+    const std::size_t waiters = m_screens.Answered(answer, m_Caller());
     std::ostringstream line;
     line << Controller::sendResponse << " " << NameOf(answer.screen) << ", kind " << answer.kind << ", button "
          << int{answer.button} << ", item " << int{answer.item} << ", data " << Secret(answer.data) << "; "
@@ -212,11 +204,7 @@ void Middleware::m_SendResponse(const Answer& answer)
 void Middleware::m_OpenMenuPosition(std::int32_t position)
 {
     Print(Controller::openMenuPosition + " " + std::to_string(position));
-    const std::string client = m_menuCallers.EndTurn();
-    if (!client.empty())
-    {
-        m_Signal(client, Desk::menuPositionOpened, position);
-    }
+    m_positions = {position};
 }
 
 void Middleware::m_OwnerChanged(const std::string& name, const std::string& oldOwner, const std::string& newOwner)
@@ -224,18 +212,21 @@ void Middleware::m_OwnerChanged(const std::string& name, const std::string& oldO
     if (name == Applications::dialogues)
     {
         Print(name + (newOwner.empty() ? " left the bus" : " is on the bus"));
-        m_deadline = never;
-        if (newOwner.empty())
+        m_owner = newOwner;
+        if (!oldOwner.empty())
         {
             m_screens.ProcessLeft();
-            m_deadline = Clock::now() + s_restartTime;
+        }
+        if (!newOwner.empty())
+        {
+            m_screens.ProcessCame(newOwner);
         }
         return;
     }
     if (name == oldOwner && newOwner.empty())
     {
         m_screens.RemoveClient(name);
-        m_menuCallers.Remove(name);
+        m_screens.ProcessEnded(name);
     }
 }
 
@@ -245,16 +236,20 @@ void Middleware::m_Forward(const RequestData& request, Delivered delivered)
         .onInterface(Applications::interface)
         .withArguments(request)
         .uponReplyInvoke(
-            [delivered = std::move(delivered)](const sdbus::Error* error)
+            [this, delivered = std::move(delivered)](const sdbus::Error* error)
             {
                 if (error == nullptr)
                 {
                     delivered(nullptr);
-                    return;
                 }
-                const sdbus::Error refusal = DeskError(*error);
-                Print("the request was not taken: " + std::string{refusal.what()});
-                delivered(&refusal);
+                else
+                {
+                    const sdbus::Error refusal = DeskError(*error);
+                    Print("the request was not taken: " + std::string{refusal.what()});
+                    delivered(&refusal);
+                }
+                m_tasks.clear();
+                m_positions.clear();
             });
 }
 
@@ -263,12 +258,4 @@ std::string Middleware::m_Caller() const
     return m_object->getCurrentlyProcessedMessage()->getSender();
 }
 
-template <typename... Args>
-void Middleware::m_Signal(const std::string& client, const std::string& name, const Args&... args)
-{
-    auto signal = m_object->createSignal(Desk::interface, name);
-    signal.setDestination(client);
-    (signal << ... << args);
-    m_object->emitSignal(signal);
-}
 } // namespace veskar

@@ -2,9 +2,7 @@
 #pragma once
 
 #include "DeskBus.h"
-#include "MenuCallers.h"
 #include "Screens.h"
-#include "ServeOnce.h"
 
 #include <functional>
 #include <memory>
@@ -22,12 +20,8 @@ public:
     /** The context manager's side of a menu request. */
     void TaskRequested(const std::string& task, const std::string& action);
 
-    /** When GiveUp is due; `never` while the application is there. */
-    Clock::time_point Deadline() const { return m_deadline; }
-    /** The application stayed away: no answer comes any more. */
-    void GiveUp();
-
 private:
+    using MenuResult = sdbus::Result<Desk::Tasks, Desk::Positions>;
     using Delivered = std::function<void(const sdbus::Error* refusal)>;
 
     void m_RegisterController();
@@ -36,21 +30,25 @@ private:
 
     void m_Ask(Waiter::Result&& result, ScreenIds screen, const RequestData& request);
     void m_Tell(sdbus::Result<>&& result, const RequestData& request);
-    void m_OpenMenu(sdbus::Result<>&& result, const RequestData& request);
+    void m_OpenMenu(MenuResult&& result, const RequestData& request);
     void m_SendResponse(const Answer& answer);
     void m_OpenMenuPosition(std::int32_t position);
     void m_OwnerChanged(const std::string& name, const std::string& oldOwner, const std::string& newOwner);
 
     void m_Forward(const RequestData& request, Delivered delivered);
     std::string m_Caller() const;
-    template <typename... Args>
-    void m_Signal(const std::string& client, const std::string& name, const Args&... args);
 
     std::unique_ptr<sdbus::IObject> m_object;
     std::unique_ptr<sdbus::IProxy> m_application;
     std::unique_ptr<sdbus::IProxy> m_bus;
     Screens m_screens;
-    MenuCallers m_menuCallers;
-    Clock::time_point m_deadline = never;
+    /** The application's process, by the name that no other one ever has; empty while there is none. */
+    std::string m_owner;
+    /**
+     * What the menu request being handled has brought so far. The application handles one request after the other and
+     * replies last: so what came just before a request's reply came because of it, whoever else opens menus.
+     */
+    Desk::Tasks m_tasks;
+    Desk::Positions m_positions;
 };
 } // namespace veskar

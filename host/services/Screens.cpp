@@ -1,9 +1,19 @@
 #include "Screens.h"
 
+#include "DeskBus.h"
+
 #include <utility>
 
 namespace veskar
 {
+namespace
+{
+sdbus::Error Gone()
+{
+    return sdbus::Error{Desk::gone, "the application went away without an answer"};
+}
+} // namespace
+
 std::weak_ptr<Waiter> Screens::Add(std::string client, ScreenIds screen, Waiter::Result result)
 {
     return m_waiters.emplace_back(std::make_shared<Waiter>(Waiter{std::move(client), screen, std::move(result)}));
@@ -15,13 +25,24 @@ void Screens::Fail(const std::shared_ptr<Waiter>& waiter, const sdbus::Error& er
     m_waiters.remove(waiter);
 }
 
-std::size_t Screens::Answered(const Answer& answer)
+void Screens::Delivered(const std::shared_ptr<Waiter>& waiter, const std::string& process)
+{
+    if (process.empty())
+    {
+        Fail(waiter, Gone());
+        return;
+    }
+    waiter->process = process;
+    waiter->passedOn = false;
+}
+
+std::size_t Screens::Answered(const Answer& answer, const std::string& process)
 {
     const auto before = m_waiters.size();
     m_waiters.remove_if(
-        [&answer](const std::shared_ptr<Waiter>& waiter)
+        [&answer, &process](const std::shared_ptr<Waiter>& waiter)
         {
-            if (!waiter->delivered || !(waiter->screen == answer.screen))
+            if (waiter->process != process || !(waiter->screen == answer.screen))
             {
                 return false;
             }
@@ -36,20 +57,33 @@ void Screens::ProcessLeft()
 {
     for (const auto& waiter : m_waiters)
     {
-        waiter->delivered = true;
+        waiter->passedOn = waiter->passedOn || waiter->process.empty();
     }
 }
 
-void Screens::FailDelivered(const sdbus::Error& error)
+void Screens::ProcessCame(const std::string& process)
+{
+    for (const auto& waiter : m_waiters)
+    {
+        if (waiter->passedOn)
+        {
+            waiter->process = process;
+        }
+    }
+}
+
+void Screens::ProcessEnded(const std::string& process)
 {
     m_waiters.remove_if(
-        [&error](const std::shared_ptr<Waiter>& waiter)
+        [&process](const std::shared_ptr<Waiter>& waiter)
         {
-            if (waiter->delivered)
+            // Of a request that was passed on the reply is still to come, and tells more.
+            const bool ended = waiter->process == process && !waiter->passedOn;
+            if (ended)
             {
-                waiter->result.returnError(error);
+                waiter->result.returnError(Gone());
             }
-            return waiter->delivered;
+            return ended;
         });
 }
 

@@ -35,8 +35,10 @@ struct Waiter
     std::string client;
     ScreenIds screen;
     Result result;
-    /** The application has handled the request: it answers for this one too from now on. */
-    bool delivered = false;
+    /** The application's process that answers for it: it has handled the request. Empty until then. */
+    std::string process = {};
+    /** The process that got the request has left before it replied: the next one answers. */
+    bool passedOn = false;
 };
 
 /**
@@ -57,15 +59,18 @@ public:
 
     /** The request was refused, or went nowhere: its waiter learns why. */
     void Fail(const std::shared_ptr<Waiter>& waiter, const sdbus::Error& error);
-    /** How many waiters the answer was for. */
-    std::size_t Answered(const Answer& answer);
+    /** The request was handled, and is this process's from now on; empty: of one that has gone again. */
+    void Delivered(const std::shared_ptr<Waiter>& waiter, const std::string& process);
+    /** How many waiters the answer that this process sent was for. */
+    std::size_t Answered(const Answer& answer, const std::string& process);
     /**
-     * The application's process left the bus. What it had not handled, it passes on to the next one, whose answers
+     * The application's process gave up its name. What it had not handled, it passes on to the next one, whose answers
      * come on a connection of their own: nothing tells any more which came first, so they count from now on.
      */
     void ProcessLeft();
-    /** No next process came: whoever waits for a screen learns it. */
-    void FailDelivered(const sdbus::Error& error);
+    void ProcessCame(const std::string& process);
+    /** The process is off the bus, and its last answer has come: who still waits for one learns it. */
+    void ProcessEnded(const std::string& process);
     void RemoveClient(const std::string& client);
 
 private:

@@ -49,10 +49,7 @@ void ServeTv(sdbus::IConnection& connection)
     OwnName(connection, Manager::busName);
     while (true)
     {
-        if (!ServeOnce(connection, middleware.Deadline()))
-        {
-            middleware.GiveUp();
-        }
+        ServeOnce(connection, never);
     }
 }
 

@@ -47,13 +47,13 @@ TEST(MwCommandLine, EveryValueOfTheKindIsSentAlsoWhereNothingIsGiven)
 
 TEST(MwCommandLine, TextsAreTakenAsTheyAre)
 {
-    const Values values = Parsed({"message", "--title=-t", "--sub=", "--text", "", "--bottom", "--x", "--button",
+    const Values values = Parsed({"message", "--title=-t", "--sub=", "--text", "", "--bottom", "--x=", "--button",
                                   "[a,b]", "--button", "", "--button=-x", "--no-close"})
                               .request.Values();
     EXPECT_EQ(values.at("ui_param_title"), Request::Value{"-t"});
     EXPECT_EQ(values.at("ui_param_sub"), Request::Value{""});
     EXPECT_EQ(values.at("ui_param_txt"), Request::Value{""});
-    EXPECT_EQ(values.at("ui_param_bottom"), Request::Value{"--x"});
+    EXPECT_EQ(values.at("ui_param_bottom"), Request::Value{"--x="});
     EXPECT_EQ(values.at("ui_param_buttons"), (Request::Value{Texts{"[a,b]", "", "-x"}}));
     EXPECT_EQ(values.at("ui_param_noclose"), Request::Value{"1"});
 }
@@ -73,6 +73,7 @@ TEST(MwCommandLine, OnlyARequestForAScreenIsAnswered)
     EXPECT_FALSE(Parsed({"close"}).request.AsksForScreen());
     EXPECT_FALSE(Parsed({"sequence"}).request.AsksForScreen());
     EXPECT_FALSE(Parsed({"menu", "veskar_info"}).request.AsksForScreen());
-    EXPECT_FALSE(Parsed({"raw", "signal_type_key=signal_tvservice", "signal_tvservice_key=x", "ui_param_ui_id=1"})
+    EXPECT_FALSE(Parsed({"raw", "signal_type_key=signal_tvservice", "signal_tvservice_key=x", "ui_param_ui_id=1",
+                         "ui_param_source_id=255"})
                      .request.AsksForScreen());
 }

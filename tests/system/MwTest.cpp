@@ -88,20 +88,27 @@ TEST_F(MwTest, TimeOutIsSaidAndTheLateAnswerIsNobodys)
     EXPECT_TRUE(WaitUntil([this] { return CountInLog("button 1, item 0, data 0 bytes; nobody waited") > 0; }));
 }
 
-TEST_F(MwTest, ApplicationThatLeavesWithoutAnAnswerIsGone)
+TEST_F(MwTest, AnswerIsOfTheProcessThatHandledTheRequestAlsoWhenTheNextOneHasCome)
 {
-    Process mw = Shown(1);
-    m_application.Leave();
-    EXPECT_EQ(mw.Status(), 69);
-}
-
-TEST_F(MwTest, RequestThatTheNextProcessTakesOverIsStillAnswered)
-{
-    Process mw = Shown(1);
-    m_application.Leave();
-    m_application.Arrive();
-    m_application.Answer(1, 255, 3);
-    EXPECT_EQ(mw.Status(), 1);
+    for (const bool answersLate : {false, true})
+    {
+        m_application.Leave();
+        auto leaving = std::make_unique<FakeApplication>();
+        leaving->Arrive();
+        Process first = Mw({"message"});
+        leaving->Take();
+        leaving->Leave();
+        m_application.Arrive();
+        Process second = Shown(1);
+        if (answersLate)
+        {
+            leaving->Answer(1, 255, 2);
+        }
+        leaving.reset();
+        EXPECT_EQ(first.Status(), answersLate ? 2 : 69);
+        m_application.Answer(1, 255, 0, 1);
+        EXPECT_EQ(second.Status(), 0);
+    }
 }
 
 TEST_F(MwTest, AnswerOfTheNextProcessMayOvertakeTheReplyOfTheLeavingOne)
@@ -152,18 +159,27 @@ TEST_F(MwTest, RawWaitsForTheScreenWithTheIdsAmongItsValues)
 
 TEST_F(MwTest, MenuTellsTheTaskAndThePositionOfItsOwnRequest)
 {
-    Process unknown = Mw({"--timeout", "0.5", "raw", "signal_type_key=signal_menu_pos", "menu_pos_key=nowhere"});
-    EXPECT_EQ(m_application.Take().at("menu_pos_key").get<std::string>(), "nowhere");
-    m_application.AskForTask("name:menu ", "stop");
-    Process known = Mw({"menu", "veskar_info"});
-    m_application.Take();
-    m_application.AskForTask("name:menu ", "stop");
-    m_application.OpenMenuPosition(0);
+    const auto asked = [this](Words arguments, std::vector<int> positions)
+    {
+        m_application.WhileHandling(
+            [this, positions]
+            {
+                m_application.AskForTask("name:menu ", "stop");
+                for (const int position : positions)
+                {
+                    m_application.OpenMenuPosition(position);
+                }
+            });
+        Process mw = Mw(std::move(arguments));
+        m_application.Take();
+        EXPECT_EQ(mw.Status(), 0);
+        return mw.Output();
+    };
     const std::string task = "{\"task\":\"name:menu \",\"action\":\"stop\"}\n";
-    EXPECT_EQ(known.Status(), 0);
-    EXPECT_EQ(known.Output(), task + "{\"menuPosition\":0}\n");
-    EXPECT_EQ(unknown.Status(), 3);
-    EXPECT_EQ(unknown.Output(), task);
+    EXPECT_EQ(asked({"--no-wait", "menu", "veskar_info"}, {0}), "");
+    EXPECT_EQ(asked({"raw", "signal_type_key=signal_menu_pos", "menu_pos_key=nowhere"}, {}), task);
+    m_application.OpenMenuPosition(0); // somebody else's
+    EXPECT_EQ(asked({"menu", "veskar_menu"}, {1}), task + "{\"menuPosition\":1}\n");
 }
 
 TEST_F(MwTest, LogTellsOfAPinItsLengthOnly)

@@ -5,6 +5,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -21,7 +22,8 @@ constexpr auto s_footer =
 standard output.
 
 Exit status:
-  0   answered; or taken by the application, where nothing is waited for (close, sequence, --no-wait)
+  0   answered; or taken by the application, where no answer comes (close, sequence, --no-wait, a screen or
+      menu position that is not known, of which a warning tells)
   1   the viewer pressed Back
   2   closed without an answer: by Exit, a close request, another screen, or the screen's own time-out
   3   no answer within --timeout
@@ -160,7 +162,8 @@ void AddOthers(CLI::App& app, Requests& requests)
         ->required();
 
     Request& raw = requests[s_raw];
-    app.add_subcommand(s_raw, "Exactly these values; waits if they ask for a screen, with the ids among them")
+    app.add_subcommand(s_raw,
+                       "Exactly these values; waits if they ask for a known kind of screen, with the ids among them")
         ->add_option_function<Texts>(
             "KEY=VALUE",
             [&raw](const Texts& words)
@@ -177,21 +180,42 @@ void AddOthers(CLI::App& app, Requests& requests)
             "A text, or with KEY[]=VALUE one more element of a list")
         ->required();
 }
+
+/** Whether the word is an option, of any kind, whose value is the next word. */
+bool AwaitsValue(const CLI::App& app, const std::string& word)
+{
+    if (word.rfind("--", 0) != 0)
+    {
+        return false;
+    }
+    auto apps = app.get_subcommands([](const CLI::App*) { return true; });
+    apps.push_back(&app);
+    return std::any_of(apps.begin(), apps.end(),
+                       [&word](const CLI::App* each)
+                       {
+                           const CLI::Option* option = each->get_option_no_throw(word);
+                           return option != nullptr && option->get_items_expected_max() > 0;
+                       });
+}
+
 /** The arguments in the library's order, which is backwards; --title= in two words, as it takes no empty text in one.
  */
-Texts Arguments(int argc, char** argv)
+Texts Arguments(const CLI::App& app, int argc, char** argv)
 {
     Texts arguments;
-    for (int i = argc - 1; i > 0; --i)
+    bool isValue = false;
+    for (int i = 1; i < argc; ++i)
     {
         const std::string word = argv[i];
-        const bool isEmptyOption = word.rfind("--", 0) == 0 && word.find('=') == word.size() - 1;
+        const bool isEmptyOption = !isValue && word.rfind("--", 0) == 0 && word.find('=') == word.size() - 1;
+        arguments.push_back(isEmptyOption ? word.substr(0, word.size() - 1) : word);
         if (isEmptyOption)
         {
             arguments.emplace_back();
         }
-        arguments.push_back(isEmptyOption ? word.substr(0, word.size() - 1) : word);
+        isValue = !isValue && AwaitsValue(app, word);
     }
+    std::reverse(arguments.begin(), arguments.end());
     return arguments;
 }
 } // namespace
@@ -211,7 +235,7 @@ std::variant<Command, int> ParseCommandLine(int argc, char** argv)
     app.footer(s_footer);
     try
     {
-        app.parse(Arguments(argc, argv));
+        app.parse(Arguments(app, argc, argv));
     }
     catch (const CLI::ParseError& error)
     {

@@ -1,10 +1,8 @@
 #include "Desk.h"
 
-#include "DeskBus.h"
 #include "ServeOnce.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace veskar
 {
@@ -52,29 +50,15 @@ void DeskConnection::Tell(const Request& request)
         .withArguments(OnTheBus(request));
 }
 
-int DeskConnection::OpenMenu(const Request& request, const TaskRequested& taskRequested)
+DeskConnection::Menu DeskConnection::OpenMenu(const Request& request)
 {
-    std::optional<int> opened;
-    m_desk->uponSignal(Desk::taskRequested)
-        .onInterface(Desk::interface)
-        .call([&taskRequested](const std::string& task, const std::string& action) { taskRequested(task, action); });
-    m_desk->uponSignal(Desk::menuPositionOpened)
-        .onInterface(Desk::interface)
-        .call([&opened](std::int32_t position) { opened = position; });
-    m_desk->finishRegistration();
-
+    Menu menu;
     m_desk->callMethod(Desk::openMenu)
         .onInterface(Desk::interface)
         .withTimeout(m_TimeLeft())
-        .withArguments(OnTheBus(request));
-    while (!opened)
-    {
-        if (!ServeOnce(*m_connection, m_deadline))
-        {
-            throw sdbus::Error{s_timeout, ""};
-        }
-    }
-    return *opened;
+        .withArguments(OnTheBus(request))
+        .storeResultsTo(menu.tasks, menu.positions);
+    return menu;
 }
 
 std::chrono::microseconds DeskConnection::m_TimeLeft() const

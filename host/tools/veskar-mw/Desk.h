@@ -1,13 +1,13 @@
 /** veskar-mw's side of the bus: a request goes to the daemon, which sends it on and hands back what comes of it. */
 #pragma once
 
+#include "DeskBus.h"
 #include "Report.h"
 #include "Request.h"
 
 #include <sdbus-c++/sdbus-c++.h>
 
 #include <chrono>
-#include <functional>
 #include <memory>
 
 namespace veskar
@@ -26,9 +26,13 @@ public:
     /** Returns once the application has taken the request. */
     void Tell(const Request& request);
 
-    using TaskRequested = std::function<void(const std::string& task, const std::string& action)>;
-    /** Opens a menu, reports the task that the context manager was asked for, and waits for the position. */
-    int OpenMenu(const Request& request, const TaskRequested& taskRequested);
+    struct Menu
+    {
+        Desk::Tasks tasks;
+        Desk::Positions positions;
+    };
+    /** Opens a menu: what the context manager was asked for, and the position; none for a position not known. */
+    Menu OpenMenu(const Request& request);
 
 private:
     std::chrono::microseconds m_TimeLeft() const;

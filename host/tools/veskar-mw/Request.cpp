@@ -1,5 +1,8 @@
 #include "Request.h"
 
+#include "ScreenKinds.h"
+
+#include <algorithm>
 #include <sstream>
 #include <stdexcept>
 
@@ -104,13 +107,18 @@ Request& Request::SetIds(int uiId, std::uint8_t sourceId)
 
 bool Request::AsksForScreen() const
 {
-    return m_Is(s_signalType, s_screenSignal) && m_Text(s_screenType) != nullptr && !m_Is(s_screenType, s_closeType) &&
-           m_Text(s_uiId) != nullptr && m_Text(s_sourceId) != nullptr;
+    return m_Is(s_signalType, s_screenSignal) && m_IsKnownKind() && m_Text(s_uiId) != nullptr &&
+           m_Text(s_sourceId) != nullptr;
 }
 
 bool Request::AsksForClose() const
 {
     return m_Is(s_signalType, s_screenSignal) && m_Is(s_screenType, s_closeType);
+}
+
+bool Request::IsOfUnknownKind() const
+{
+    return m_Is(s_signalType, s_screenSignal) && !m_IsKnownKind() && !AsksForClose();
 }
 
 bool Request::AsksForMenu() const
@@ -126,6 +134,13 @@ int Request::UiId() const
 std::uint8_t Request::SourceId() const
 {
     return static_cast<std::uint8_t>(m_Number(s_sourceId));
+}
+
+bool Request::m_IsKnownKind() const
+{
+    const auto& kinds = ScreenKinds();
+    return std::any_of(kinds.begin(), kinds.end(),
+                       [this](const ScreenKind& kind) { return m_Is(s_screenType, kind.uiType.c_str()); });
 }
 
 bool Request::m_Is(const char* key, const char* value) const

@@ -40,12 +40,15 @@ public:
     /** Whether the application will show a screen for it, which ends in an answer with the ids below. */
     bool AsksForScreen() const;
     bool AsksForClose() const;
+    /** For a screen, but of a kind that the application does not have. */
+    bool IsOfUnknownKind() const;
     bool AsksForMenu() const;
     /** The ids as the application reads them: 0 for a text without a number, and of the source the low 8 bits. */
     int UiId() const;
     std::uint8_t SourceId() const;
 
 private:
+    bool m_IsKnownKind() const;
     bool m_Is(const char* key, const char* value) const;
     const std::string* m_Text(const char* key) const;
     int m_Number(const char* key) const;

@@ -28,6 +28,10 @@ void WarnOfSilence(const Request& request, bool waits)
     {
         Say("a close with a source id of 0 to 253 sends no answer: who waits for the screen's answer waits in vain");
     }
+    if (request.IsOfUnknownKind())
+    {
+        Say("no screen is of this kind: the request is sent, and no answer waited for");
+    }
     if (waits && (request.UiId() == nobodysUiId || request.SourceId() == nobodysSourceId))
     {
         Say("a screen with ui id 0 or source id 100 is never answered");
@@ -36,8 +40,19 @@ void WarnOfSilence(const Request& request, bool waits)
 
 int OpenMenu(DeskConnection& desk, const Request& request)
 {
-    PrintLine(MenuPositionToJson(desk.OpenMenu(request, [](const std::string& task, const std::string& action)
-                                               { PrintLine(TaskToJson(task, action)); })));
+    const DeskConnection::Menu menu = desk.OpenMenu(request);
+    for (const auto& task : menu.tasks)
+    {
+        PrintLine(TaskToJson(task.get<0>(), task.get<1>()));
+    }
+    for (const int position : menu.positions)
+    {
+        PrintLine(MenuPositionToJson(position));
+    }
+    if (menu.positions.empty())
+    {
+        Say("the application opened no menu position for it");
+    }
     return ExitStatus::answered;
 }
 
