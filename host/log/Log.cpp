@@ -146,6 +146,7 @@ std::string Format(const char* format, va_list arguments)
 {
     va_list again;
     va_copy(again, arguments);
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): it does not know a copy of a parameter
     const int length = vsnprintf(nullptr, 0, format, again);
     va_end(again);
     std::string text(static_cast<size_t>(std::max(length, 0)), '\0');

@@ -159,7 +159,7 @@ TEST_F(MwTest, RawWaitsForTheScreenWithTheIdsAmongItsValues)
 
 TEST_F(MwTest, MenuTellsTheTaskAndThePositionOfItsOwnRequest)
 {
-    const auto asked = [this](Words arguments, std::vector<int> positions)
+    const auto asked = [this](const Words& arguments, const std::vector<int>& positions)
     {
         m_application.WhileHandling(
             [this, positions]
@@ -170,7 +170,7 @@ TEST_F(MwTest, MenuTellsTheTaskAndThePositionOfItsOwnRequest)
                     m_application.OpenMenuPosition(position);
                 }
             });
-        Process mw = Mw(std::move(arguments));
+        Process mw = Mw(arguments);
         m_application.Take();
         EXPECT_EQ(mw.Status(), 0);
         return mw.Output();

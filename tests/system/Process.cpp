@@ -45,7 +45,7 @@ bool WaitUntil(const std::function<bool()>& predicate, std::chrono::milliseconds
     return true;
 }
 
-Process::Process(const Words& command) : m_output(memfd_create("output", MFD_CLOEXEC))
+Process::Process(const Words& command) : m_pid(-1), m_output(memfd_create("output", MFD_CLOEXEC))
 {
     std::vector<char*> arguments;
     for (const std::string& argument : command)

@@ -21,19 +21,19 @@ Words Rows(int count)
 /** A picture of one grey, in the TV's own folder. */
 std::string GreyImage(const std::string& name, int side, unsigned char grey)
 {
-    const std::string path = Environment("XDG_RUNTIME_DIR") + "/" + name + ".pgm";
+    std::string path = Environment("XDG_RUNTIME_DIR") + "/" + name + ".pgm";
     std::ofstream file(path, std::ios::binary);
     file << "P5\n" << side << ' ' << side << "\n255\n";
-    std::fill_n(std::ostreambuf_iterator<char>(file), side * side, static_cast<char>(grey));
+    std::fill_n(std::ostreambuf_iterator<char>(file), static_cast<std::size_t>(side) * side, static_cast<char>(grey));
     return path;
 }
 
-/** The memory that a process holds, in MiB. */
+/** The memory that a process holds, in MiB; a page has 4 KiB. */
 long ResidentMemory(unsigned pid)
 {
     long pages = 0;
     std::ifstream("/proc/" + std::to_string(pid) + "/statm") >> pages >> pages;
-    return pages * 4096 / (1024 * 1024);
+    return pages * 4 / 1024;
 }
 
 /** Waits until the setting that tells whether the number pad is shown has this value. */
