@@ -2,6 +2,7 @@
 
 #include "Print.h"
 
+#include <optional>
 #include <sstream>
 #include <utility>
 
@@ -37,18 +38,29 @@ std::string NameOf(const ScreenIds& screen)
     return "ui " + std::to_string(screen.uiId) + ", source " + std::to_string(screen.sourceId);
 }
 
+std::optional<std::string> TextOf(const RequestData& request, const char* key)
+{
+    const auto found = request.find(key);
+    const bool isText = found != request.end() && found->second.containsValueOfType<std::string>();
+    return isText ? std::optional{found->second.get<std::string>()} : std::nullopt;
+}
+
 /** The kind of request, as far as one line tells. */
 std::string NameOf(const RequestData& request)
 {
     for (const char* key : {"signal_tvservice_key", "menu_pos_key", "signal_type_key"})
     {
-        const auto found = request.find(key);
-        if (found != request.end() && found->second.containsValueOfType<std::string>())
+        if (const auto text = TextOf(request, key))
         {
-            return Quoted(found->second.get<std::string>());
+            return Quoted(*text);
         }
     }
     return "of no kind";
+}
+
+bool IsMenuRequest(const RequestData& request)
+{
+    return TextOf(request, "signal_type_key") == "signal_menu_pos";
 }
 
 /** The library's results can only be moved, and a callback must be copyable. */
@@ -232,24 +244,50 @@ void Middleware::m_OwnerChanged(const std::string& name, const std::string& oldO
 
 void Middleware::m_Forward(const RequestData& request, Delivered delivered)
 {
+    if (!IsMenuRequest(request))
+    {
+        m_Send(request, std::move(delivered));
+        return;
+    }
+    m_menus.emplace_back(request, std::move(delivered));
+    if (m_menus.size() == 1)
+    {
+        m_ForwardNextMenu();
+    }
+}
+
+void Middleware::m_ForwardNextMenu()
+{
+    m_tasks.clear();
+    m_positions.clear();
+    m_Send(m_menus.front().first,
+           [this](const sdbus::Error* refusal)
+           {
+               m_menus.front().second(refusal);
+               m_menus.pop_front();
+               if (!m_menus.empty())
+               {
+                   m_ForwardNextMenu();
+               }
+           });
+}
+
+void Middleware::m_Send(const RequestData& request, Delivered delivered)
+{
     m_application->callMethodAsync(Applications::appControl)
         .onInterface(Applications::interface)
         .withArguments(request)
         .uponReplyInvoke(
-            [this, delivered = std::move(delivered)](const sdbus::Error* error)
+            [delivered = std::move(delivered)](const sdbus::Error* error)
             {
                 if (error == nullptr)
                 {
                     delivered(nullptr);
+                    return;
                 }
-                else
-                {
-                    const sdbus::Error refusal = DeskError(*error);
-                    Print("the request was not taken: " + std::string{refusal.what()});
-                    delivered(&refusal);
-                }
-                m_tasks.clear();
-                m_positions.clear();
+                const sdbus::Error refusal = DeskError(*error);
+                Print("the request was not taken: " + std::string{refusal.what()});
+                delivered(&refusal);
             });
 }
 

@@ -4,9 +4,11 @@
 #include "DeskBus.h"
 #include "Screens.h"
 
+#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace veskar
 {
@@ -36,6 +38,8 @@ private:
     void m_OwnerChanged(const std::string& name, const std::string& oldOwner, const std::string& newOwner);
 
     void m_Forward(const RequestData& request, Delivered delivered);
+    void m_ForwardNextMenu();
+    void m_Send(const RequestData& request, Delivered delivered);
     std::string m_Caller() const;
 
     std::unique_ptr<sdbus::IObject> m_object;
@@ -45,8 +49,13 @@ private:
     /** The application's process, by the name that no other one ever has; empty while there is none. */
     std::string m_owner;
     /**
-     * What the menu request being handled has brought so far. The application handles one request after the other and
-     * replies last: so what came just before a request's reply came because of it, whoever else opens menus.
+     * The menu requests that have no reply yet. Only the first one was sent: where a leaving process passes requests
+     * on, their replies come through it, and nothing would tell which of several brought which position.
+     */
+    std::deque<std::pair<RequestData, Delivered>> m_menus;
+    /**
+     * What the menu request that was sent has brought so far. The application asks for the task first and replies last:
+     * so what came since the last task came because of it, whoever else opened menus before.
      */
     Desk::Tasks m_tasks;
     Desk::Positions m_positions;

@@ -34,6 +34,15 @@ RequestData FakeApplication::Take()
     return request;
 }
 
+void FakeApplication::HandleSent()
+{
+    // The reply comes after it.
+    m_middleware->callMethod("Ping").onInterface("org.freedesktop.DBus.Peer");
+    while (m_bus->processPendingRequest())
+    {
+    }
+}
+
 void FakeApplication::m_Handle(const RequestData& request)
 {
     m_taken.push_back(request);

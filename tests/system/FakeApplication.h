@@ -9,7 +9,7 @@
 
 /**
  * Takes the application's place on the bus and does with a request what a test says. It handles requests only inside
- * `Take`, so that nothing happens that the test did not ask for.
+ * `Take` and `HandleSent`, so that nothing happens that the test did not ask for.
  */
 class FakeApplication
 {
@@ -18,6 +18,8 @@ public:
 
     /** Handles requests until one more was taken, and returns it: the sender has its reply then. */
     veskar::RequestData Take();
+    /** Handles what the daemon has sent until now, if anything; `Take` still returns it. */
+    void HandleSent();
     /** The next request runs this before its reply; an sdbus::Error that it throws is the reply. */
     void WhileHandling(std::function<void()> action) { m_whileHandling = std::move(action); }
 

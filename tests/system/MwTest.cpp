@@ -182,6 +182,37 @@ TEST_F(MwTest, MenuTellsTheTaskAndThePositionOfItsOwnRequest)
     EXPECT_EQ(asked({"menu", "veskar_menu"}, {1}), task + "{\"menuPosition\":1}\n");
 }
 
+TEST_F(MwTest, MenuTellsItsOwnPositionAlsoWhenALeavingProcessRepliesAfterTheNextOneHasOpenedAnother)
+{
+    const auto opens = [this](int position)
+    {
+        m_application.AskForTask("name:menu ", "stop");
+        m_application.OpenMenuPosition(position);
+    };
+    m_application.Leave();
+    FakeApplication leaving;
+    leaving.Arrive();
+    std::unique_ptr<Process> second;
+    leaving.WhileHandling(
+        [&]
+        {
+            leaving.Leave();
+            m_application.Arrive();
+            opens(0);
+            second = std::make_unique<Process>(Mw({"menu", "veskar_menu"}));
+            EXPECT_TRUE(WaitUntil([this] { return CountInLog("menu request \"veskar_menu\"") == 1; }));
+            m_application.WhileHandling([opens] { opens(1); });
+            m_application.HandleSent();
+        });
+    Process first = Mw({"menu", "veskar_info"});
+    leaving.Take();
+    m_application.Take();
+    const std::string task = "{\"task\":\"name:menu \",\"action\":\"stop\"}\n";
+    EXPECT_EQ(first.Status() + second->Status(), 0);
+    EXPECT_EQ(first.Output(), task + "{\"menuPosition\":0}\n");
+    EXPECT_EQ(second->Output(), task + "{\"menuPosition\":1}\n");
+}
+
 TEST_F(MwTest, LogTellsOfAPinItsLengthOnly)
 {
     Process mw = Shown(1, "pin");
