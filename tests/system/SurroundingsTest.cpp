@@ -2,6 +2,9 @@
 
 #include "Tv.h"
 
+#include <filesystem>
+#include <fstream>
+
 namespace
 {
 
@@ -69,4 +72,19 @@ TEST_F(Surroundings, a_menu_position_reaches_the_middleware_and_its_screen_follo
     Process screen = SendMessage(7, 255, {"--button", "OK"});
     Press({"Return"});
     ExpectAnswer(screen, Answer(7, 255, 0, 1, 0));
+}
+
+TEST_F(Surroundings, a_command_in_a_tv_finds_a_bus_that_was_slow_to_listen)
+{
+    const std::string folder = Environment("XDG_RUNTIME_DIR");
+    const std::string slowBus = folder + "/dbus-daemon";
+    std::ofstream(slowBus)
+        << "#!/bin/sh\n"
+           "bus=$(sed -n 's/.*unix:path=\\(.*\\)<.*/\\1/p' \"${1#*=}\")\n"
+           "perl -MSocket -e 'socket S, PF_UNIX, SOCK_STREAM, 0; bind S, sockaddr_un(shift)' \"$bus\"\n"
+           "sleep 0.5\n"
+           "exec /usr/bin/dbus-daemon \"$@\"\n";
+    std::filesystem::permissions(slowBus, std::filesystem::perms::owner_all);
+    Process tv({"env", "PATH=" + folder + ":" + Environment("PATH"), "veskar-tv", "--", "veskar-mw", "sequence"});
+    EXPECT_EQ(tv.Status(), 0);
 }
