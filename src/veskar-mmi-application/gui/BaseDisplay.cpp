@@ -61,7 +61,7 @@ BaseDisplay::BaseDisplay(IUserInteraction& userInteraction, Evas_Object* mainWin
                          bool hasBottomText)
     : t_mainWindow(mainWindow), t_popup(nullptr), t_subtitleLabel(nullptr), t_buttonLabels(buttonLabels), t_buttons{},
       t_popupStyle(popupStyle), t_hasBottomText(hasBottomText), t_displayedButtons(0),
-      t_userInteraction(userInteraction)
+      t_userInteraction(userInteraction), m_wholeFrames(mainWindow)
 {
     EFL_GUARD(elm_app_base_scale_set, BASE_SCALE);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "IUserInteraction.h"
+#include "WholeFrames.h"
 
 #include <array>
 #include <string>
@@ -127,6 +128,9 @@ protected:
     unsigned char t_displayedButtons;
     std::string t_ttsText;
     IUserInteraction& t_userInteraction;
+
+private:
+    WholeFrames m_wholeFrames;
 };
 
 } // namespace VESKAR_APP
