@@ -1,6 +1,7 @@
 #include "ImageListPopup.h"
 
 #include "EflGuard.h"
+#include "ImageFile.h"
 #include "ListRow.h"
 #include "MenuList.h"
 #include "Names.h"
@@ -192,7 +193,7 @@ void ImageListPopup::m_UpdateImage()
         LOG_ERROR("Error creating an image object!");
         return;
     }
-    if (!EFL_GUARD(elm_image_file_set, m_image, path.c_str(), nullptr))
+    if (!SetImageFile(m_image, path))
     {
         LOG_ERROR("Loading the image file has failed :" << path);
         return;

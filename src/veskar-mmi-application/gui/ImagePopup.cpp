@@ -1,6 +1,7 @@
 #include "ImagePopup.h"
 
 #include "EflGuard.h"
+#include "ImageFile.h"
 #include "Log.h"
 #include "Names.h"
 #include "ScaledSize.h"
@@ -24,7 +25,7 @@ Evas_Object* ImagePopup::m_CreateWindowContent(Evas_Object* layout, Evas_Object*
     LOG_ENTRY();
     LOG_DEBUG("Loading the image file: " << m_imageLocation << " width:" << m_width << " height:" << m_height);
     m_image = EFL_GUARD(elm_image_add, layout);
-    if (!EFL_GUARD(elm_image_file_set, m_image, m_imageLocation.c_str(), nullptr))
+    if (!SetImageFile(m_image, m_imageLocation))
     {
         LOG_ERROR("Loading the image file has failed :" << m_imageLocation);
     }
