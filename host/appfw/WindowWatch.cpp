@@ -7,6 +7,18 @@
 namespace veskar
 {
 
+namespace
+{
+
+constexpr const char* WATCH_KEY = "veskar.watch";
+
+Ecore_Evas* CanvasOf(Evas_Object* window)
+{
+    return ecore_evas_ecore_evas_get(evas_object_evas_get(window));
+}
+
+} // namespace
+
 WindowWatch::WindowWatch(Changed changed) : m_changed(std::move(changed)), m_window(FirstWindow())
 {
     if (m_window == nullptr)
@@ -16,6 +28,15 @@ WindowWatch::WindowWatch(Changed changed) : m_changed(std::move(changed)), m_win
     evas_object_event_callback_add(m_window, EVAS_CALLBACK_SHOW, s_OnShow, this);
     evas_object_event_callback_add(m_window, EVAS_CALLBACK_HIDE, s_OnHide, this);
     evas_object_event_callback_add(m_window, EVAS_CALLBACK_DEL, s_OnDeleted, this);
+    static const Elm_Win_Trap trap = []
+    {
+        Elm_Win_Trap calls{};
+        calls.version = ELM_WIN_TRAP_VERSION;
+        calls.hide = s_OnLeavingScreen;
+        return calls;
+    }();
+    evas_object_data_set(m_window, WATCH_KEY, this);
+    elm_win_trap_set(&trap);
     m_SetShown(evas_object_visible_get(m_window));
 }
 
@@ -31,10 +52,13 @@ void WindowWatch::m_Forget()
         ecore_timer_del(m_redraw);
         m_redraw = nullptr;
     }
+    m_StayOnScreen();
     if (m_window == nullptr)
     {
         return;
     }
+    elm_win_trap_set(nullptr);
+    evas_object_data_del(m_window, WATCH_KEY);
     evas_object_event_callback_del_full(m_window, EVAS_CALLBACK_SHOW, s_OnShow, this);
     evas_object_event_callback_del_full(m_window, EVAS_CALLBACK_HIDE, s_OnHide, this);
     evas_object_event_callback_del_full(m_window, EVAS_CALLBACK_DEL, s_OnDeleted, this);
@@ -43,15 +67,25 @@ void WindowWatch::m_Forget()
 
 void WindowWatch::m_SetShown(bool shown)
 {
-    if (shown && m_redraw == nullptr)
+    if (shown && m_redraw == nullptr && m_leave == nullptr)
     {
         m_redraw = ecore_timer_add(0, s_OnRedraw, this);
     }
+    m_StayOnScreen();
     // The toolkit tells of each call, also when it changes nothing.
     if (shown != m_shown)
     {
         m_shown = shown;
         m_changed(shown);
+    }
+}
+
+void WindowWatch::m_StayOnScreen()
+{
+    if (m_leave != nullptr)
+    {
+        ecore_job_del(m_leave);
+        m_leave = nullptr;
     }
 }
 
@@ -63,6 +97,27 @@ void WindowWatch::s_OnShow(void* data, Evas*, Evas_Object*, void*)
 void WindowWatch::s_OnHide(void* data, Evas*, Evas_Object*, void*)
 {
     static_cast<WindowWatch*>(data)->m_SetShown(false);
+}
+
+Eina_Bool WindowWatch::s_OnLeavingScreen(void*, Evas_Object* window)
+{
+    auto* watch = static_cast<WindowWatch*>(evas_object_data_get(window, WATCH_KEY));
+    if (watch == nullptr)
+    {
+        return EINA_TRUE;
+    }
+    if (watch->m_leave == nullptr)
+    {
+        watch->m_leave = ecore_job_add(s_OnStillHidden, watch);
+    }
+    return EINA_FALSE;
+}
+
+void WindowWatch::s_OnStillHidden(void* data)
+{
+    auto* watch = static_cast<WindowWatch*>(data);
+    watch->m_leave = nullptr;
+    ecore_evas_hide(CanvasOf(watch->m_window));
 }
 
 void WindowWatch::s_OnDeleted(void* data, Evas*, Evas_Object*, void*)
@@ -87,7 +142,7 @@ Eina_Bool WindowWatch::s_OnRedraw(void* data)
         int height = 0;
         evas_output_size_get(canvas, &width, &height);
         evas_damage_rectangle_add(canvas, 0, 0, width, height);
-        ecore_evas_manual_render(ecore_evas_ecore_evas_get(canvas));
+        ecore_evas_manual_render(CanvasOf(watch->m_window));
     }
     return ECORE_CALLBACK_CANCEL;
 }
