@@ -1,6 +1,0 @@
-# Sends keys to the compositor and takes screenshots. (veskar-tv beside it is a script and needs no building.)
-find_package(CLI11 REQUIRED)
-add_executable(veskar-remote ${CMAKE_CURRENT_LIST_DIR}/veskar-remote.cpp)
-target_link_libraries(veskar-remote PRIVATE veskar-compile-options veskar-remote-client CLI11::CLI11)
-install(TARGETS veskar-remote)
-install(PROGRAMS ${CMAKE_CURRENT_LIST_DIR}/veskar-tv DESTINATION ${CMAKE_INSTALL_BINDIR})
