@@ -23,13 +23,13 @@ struct Free
 /** A key in an error text: a long one is cut, at the beginning of a character. */
 std::string Quoted(const char* key)
 {
-    constexpr size_t longest = 100;
+    constexpr size_t LONGEST = 100;
     size_t length = strlen(key);
-    if (length <= longest)
+    if (length <= LONGEST)
     {
         return "\"" + std::string(key) + "\"";
     }
-    for (length = longest; (key[length] & 0xC0) == 0x80; --length)
+    for (length = LONGEST; (key[length] & 0xC0) == 0x80; --length)
     {
     }
     return "\"" + std::string(key, length) + "...\"";
@@ -56,7 +56,7 @@ public:
         Eldbus_Message_Iter* entry = nullptr;
         while (eldbus_message_iter_get_and_next(entries, 'e', &entry))
         {
-            if (auto refusal = ReadEntry(entry))
+            if (auto refusal = m_ReadEntry(entry))
             {
                 return refusal;
             }
@@ -65,7 +65,7 @@ public:
     }
 
 private:
-    Refusal ReadEntry(Eldbus_Message_Iter* entry)
+    Refusal m_ReadEntry(Eldbus_Message_Iter* entry)
     {
         const char* key = nullptr;
         Eldbus_Message_Iter* value = nullptr;
@@ -73,38 +73,38 @@ private:
         {
             return "the arguments are not a{sv}";
         }
-        if (strlen(key) > LongestText)
+        if (strlen(key) > LONGEST_TEXT)
         {
             return "the key " + Quoted(key) + " is too long";
         }
-        if (++m_keys > MostElements)
+        if (++m_keys > MOST_ELEMENTS)
         {
-            return "the key " + Quoted(key) + " comes after " + std::to_string(MostElements) + " others";
+            return "the key " + Quoted(key) + " comes after " + std::to_string(MOST_ELEMENTS) + " others";
         }
-        if (auto refusal = Count(key, key))
+        if (auto refusal = m_Count(key, key))
         {
             return refusal;
         }
         const std::unique_ptr<char, Free> type(eldbus_message_iter_signature_get(value));
         if (strcmp(type.get(), "s") == 0)
         {
-            return ReadText(key, value);
+            return m_ReadText(key, value);
         }
         if (strcmp(type.get(), "as") == 0)
         {
-            return ReadArray(key, value);
+            return m_ReadArray(key, value);
         }
         return Refuse(key, std::string("is of type ") + type.get() + ", neither a string nor an array of strings");
     }
 
-    Refusal ReadText(const char* key, Eldbus_Message_Iter* value)
+    Refusal m_ReadText(const char* key, Eldbus_Message_Iter* value)
     {
         const char* text = nullptr;
         if (!eldbus_message_iter_arguments_get(value, "s", &text))
         {
             return Refuse(key, "cannot be read");
         }
-        if (auto refusal = Count(key, text))
+        if (auto refusal = m_Count(key, text))
         {
             return refusal;
         }
@@ -112,7 +112,7 @@ private:
         return std::nullopt;
     }
 
-    Refusal ReadArray(const char* key, Eldbus_Message_Iter* value)
+    Refusal m_ReadArray(const char* key, Eldbus_Message_Iter* value)
     {
         Eldbus_Message_Iter* elements = nullptr;
         if (!eldbus_message_iter_arguments_get(value, "as", &elements))
@@ -123,11 +123,11 @@ private:
         const char* element = nullptr;
         while (eldbus_message_iter_get_and_next(elements, 's', &element))
         {
-            if (array.size() == MostElements)
+            if (array.size() == MOST_ELEMENTS)
             {
-                return Refuse(key, "has more than " + std::to_string(MostElements) + " elements");
+                return Refuse(key, "has more than " + std::to_string(MOST_ELEMENTS) + " elements");
             }
-            if (auto refusal = Count(key, element))
+            if (auto refusal = m_Count(key, element))
             {
                 return refusal;
             }
@@ -137,18 +137,18 @@ private:
         return std::nullopt;
     }
 
-    Refusal Count(const char* key, const char* text)
+    Refusal m_Count(const char* key, const char* text)
     {
         const size_t length = strlen(text);
-        if (length > LongestText)
+        if (length > LONGEST_TEXT)
         {
             return Refuse(key, "holds a string of " + std::to_string(length) + " bytes, more than " +
-                                   std::to_string(LongestText));
+                                   std::to_string(LONGEST_TEXT));
         }
-        m_bytes += std::max(length, SmallestText);
-        if (m_bytes > LargestRequest)
+        m_bytes += std::max(length, SMALLEST_TEXT);
+        if (m_bytes > LARGEST_REQUEST)
         {
-            return Quoted(key) + " brings the request over " + std::to_string(LargestRequest) + " bytes";
+            return Quoted(key) + " brings the request over " + std::to_string(LARGEST_REQUEST) + " bytes";
         }
         return std::nullopt;
     }
@@ -218,7 +218,7 @@ BusMessage EncodeAppControl(const std::string& appId, const std::string& busName
     {
         return nullptr;
     }
-    auto call = NewCall(busName, Applications::PathOf(appId), Applications::interface, Applications::appControl);
+    auto call = NewCall(busName, PathOf(appId), Applications::INTERFACE, Applications::APP_CONTROL);
     auto* arguments = eldbus_message_iter_get(call.get());
     auto* entries = eldbus_message_iter_container_new(arguments, 'a', "{sv}");
     for (const auto& [key, value] : request.data)

@@ -14,12 +14,12 @@ namespace veskar
  * What a request may hold at most, so that a faulty sender cannot stop the screen: bytes of a text, elements of an
  * array and keys, and bytes of all keys and values together. A short text counts for what it takes in memory.
  */
-constexpr size_t LongestText = 256UL * 1024;
-constexpr size_t MostElements = 20'000;
-constexpr size_t LargestRequest = 8UL * 1024 * 1024;
-constexpr size_t SmallestText = sizeof(std::string);
+constexpr size_t LONGEST_TEXT = 256UL * 1024;
+constexpr size_t MOST_ELEMENTS = 20'000;
+constexpr size_t LARGEST_REQUEST = 8UL * 1024 * 1024;
+constexpr size_t SMALLEST_TEXT = sizeof(std::string);
 
-constexpr const char* RefusedError = "org.tizen.Application1.Error.Refused";
+constexpr const char* REFUSED_ERROR = "org.tizen.Application1.Error.Refused";
 
 /**
  * Reads the arguments of an AppControl call into `request`; of a key given twice the last value stays. Returns why the

@@ -21,7 +21,7 @@ namespace
 {
 
 /** Seconds in which a busy TV starts any program that a last message goes to; no hung one keeps the process longer. */
-constexpr double LongestFarewell = 10;
+constexpr double LONGEST_FAREWELL = 10;
 
 /** An id that leaves room for the name under which a process of it leaves. */
 bool CanRunAs(const std::string& id)
@@ -123,7 +123,7 @@ int Application::m_RunOwner(int argc, char** argv)
     else
     {
         name.Release();
-        m_RefuseCalls(RefusedError, "the application could not be created");
+        m_RefuseCalls(REFUSED_ERROR, "the application could not be created");
         m_AwaitOutgoing();
     }
     elm_shutdown();
@@ -150,7 +150,7 @@ void Application::m_RunLoop()
 {
     const WindowWatch window([this](bool shown)
                              { m_queue->AddWindowEvent(shown ? LifecycleKind::Resume : LifecycleKind::Pause); });
-    const SettingsWatch language({LanguageKey, OrientationKey}, [this] { m_LanguageFileChanged(); });
+    const SettingsWatch language({LANGUAGE_KEY, ORIENTATION_KEY}, [this] { m_LanguageFileChanged(); });
     m_queue->Start();
     elm_run();
     m_queue->Stop();
@@ -246,7 +246,7 @@ void Application::m_HandOver(OwnName& name)
         m_StartNext();
     }
     m_AwaitOutgoing();
-    m_RefuseCalls(RefusedError, "the next process of the application did not ask for the request");
+    m_RefuseCalls(REFUSED_ERROR, "the next process of the application did not ask for the request");
 }
 
 void Application::m_StartNext()
@@ -324,7 +324,7 @@ void Application::m_AwaitOutgoing()
     {
         return m_bus->IsGone() || (m_outgoing->Empty() && !m_queue->HoldsRequest());
     };
-    if (!TurnMainLoopUntil(done, LongestFarewell))
+    if (!TurnMainLoopUntil(done, LONGEST_FAREWELL))
     {
         APPFW_WARN("not everybody has replied: what was sent to a program that did not start is lost");
     }

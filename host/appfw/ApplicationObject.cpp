@@ -9,11 +9,11 @@ namespace veskar
 namespace
 {
 
-constexpr const char* OwnerKey = "owner";
+constexpr const char* OWNER_KEY = "owner";
 
 ApplicationObject* OwnerOf(const Eldbus_Service_Interface* object)
 {
-    return static_cast<ApplicationObject*>(eldbus_service_object_data_get(object, OwnerKey));
+    return static_cast<ApplicationObject*>(eldbus_service_object_data_get(object, OWNER_KEY));
 }
 
 } // namespace
@@ -24,18 +24,18 @@ ApplicationObject::ApplicationObject(Eldbus_Connection* connection, const std::s
     // The library keeps pointers to these.
     static const Eldbus_Arg_Info requestArguments[] = {{"a{sv}", "data"}, {nullptr, nullptr}};
     static const Eldbus_Method methods[] = {
-        {Applications::appControl.c_str(), requestArguments, nullptr, s_OnAppControl, 0},
-        {"Pause", nullptr, nullptr, s_OnCall<LifecycleKind::Pause>, 0},
-        {"Resume", nullptr, nullptr, s_OnCall<LifecycleKind::Resume>, 0},
-        {"Terminate", nullptr, nullptr, s_OnCall<LifecycleKind::Terminate>, 0},
+        {Applications::APP_CONTROL, requestArguments, nullptr, s_OnAppControl, 0},
+        {Applications::PAUSE, nullptr, nullptr, s_OnCall<LifecycleKind::Pause>, 0},
+        {Applications::RESUME, nullptr, nullptr, s_OnCall<LifecycleKind::Resume>, 0},
+        {Applications::TERMINATE, nullptr, nullptr, s_OnCall<LifecycleKind::Terminate>, 0},
         {},
     };
     static const Eldbus_Service_Interface_Desc description = {
-        Applications::interface.c_str(), methods, nullptr, nullptr, nullptr, nullptr};
-    m_object.reset(eldbus_service_interface_register(connection, Applications::PathOf(appId).c_str(), &description));
+        Applications::INTERFACE, methods, nullptr, nullptr, nullptr, nullptr};
+    m_object.reset(eldbus_service_interface_register(connection, PathOf(appId).c_str(), &description));
     if (m_object)
     {
-        eldbus_service_object_data_set(m_object.get(), OwnerKey, this);
+        eldbus_service_object_data_set(m_object.get(), OWNER_KEY, this);
     }
 }
 
@@ -45,7 +45,7 @@ Eldbus_Message* ApplicationObject::s_OnAppControl(const Eldbus_Service_Interface
     if (const auto refusal = DecodeAppControl(call, *request))
     {
         APPFW_ERROR("request refused: %s", refusal->c_str());
-        return eldbus_message_error_new(call, RefusedError, refusal->c_str());
+        return eldbus_message_error_new(call, REFUSED_ERROR, refusal->c_str());
     }
     OwnerOf(object)->m_received({LifecycleKind::Request, std::move(request), ShareMessage(call)});
     return nullptr;

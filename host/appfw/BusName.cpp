@@ -17,7 +17,7 @@ bool IsApplicationId(const char* id)
 std::string OwnApplicationId()
 {
     const char* id = getenv("VESKAR_APP_ID");
-    return id != nullptr && *id != '\0' ? id : Applications::dialogues;
+    return id != nullptr && *id != '\0' ? id : Applications::DIALOGUES;
 }
 
 bool IsBusText(const std::string& text)

@@ -4,19 +4,12 @@
 
 namespace veskar
 {
-namespace
-{
-
-constexpr const char* Daemon = "org.freedesktop.DBus";
-constexpr const char* DaemonPath = "/org/freedesktop/DBus";
-
-} // namespace
 
 BusNames::BusNames(Eldbus_Connection* connection) : m_connection(connection)
 {
     // The changes first, so that none falls between the list and them.
-    m_ownerChanges =
-        eldbus_signal_handler_add(m_connection, Daemon, DaemonPath, Daemon, "NameOwnerChanged", s_OnOwnerChanged, this);
+    m_ownerChanges = eldbus_signal_handler_add(m_connection, ELDBUS_FDO_BUS, ELDBUS_FDO_PATH, ELDBUS_FDO_INTERFACE,
+                                               "NameOwnerChanged", s_OnOwnerChanged, this);
     m_Ask("ListNames", m_owned);
     m_Ask("ListActivatableNames", m_activatable);
 }
@@ -35,8 +28,8 @@ BusNames::~BusNames()
 
 void BusNames::m_Ask(const char* method, Question& question)
 {
-    auto* call = eldbus_message_method_call_new(Daemon, DaemonPath, Daemon, method);
-    question.pending = eldbus_connection_send(m_connection, call, s_OnNames, &question, -1);
+    auto call = NewCall(ELDBUS_FDO_BUS, ELDBUS_FDO_PATH, ELDBUS_FDO_INTERFACE, method);
+    question.pending = eldbus_connection_send(m_connection, call.release(), s_OnNames, &question, -1);
 }
 
 void BusNames::s_OnNames(void* data, const Eldbus_Message* reply, Eldbus_Pending*)

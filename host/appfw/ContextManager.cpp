@@ -8,8 +8,8 @@
 namespace
 {
 
-constexpr int InvalidParameter = -22;
-constexpr int Failed = -1;
+constexpr int INVALID_PARAMETER = -22;
+constexpr int FAILED = -1;
 
 } // namespace
 
@@ -18,13 +18,13 @@ int app_context_manager_request_task(const char* task, const char* action)
     using namespace veskar;
     if (task == nullptr || action == nullptr || !IsBusText(task) || !IsBusText(action))
     {
-        return InvalidParameter;
+        return INVALID_PARAMETER;
     }
-    auto call = NewCall(Manager::busName, Manager::path, Manager::interface, Manager::requestTask);
+    auto call = NewCall(Manager::BUS_NAME, PathOf(Manager::BUS_NAME), Manager::INTERFACE, Manager::REQUEST_TASK);
     eldbus_message_arguments_append(call.get(), "ss", task, action);
     const auto report = [](const Eldbus_Message* reply)
     {
         LogRefusal(reply, "the context manager");
     };
-    return Application::Instance().Send(std::move(call), report) ? 0 : Failed;
+    return Application::Instance().Send(std::move(call), report) ? 0 : FAILED;
 }

@@ -11,10 +11,10 @@ namespace veskar
 namespace
 {
 
-constexpr const char* OwnerKey = "owner";
+constexpr const char* OWNER_KEY = "owner";
 
 /** In milliseconds. A process that leaves does nothing else; one that takes longer hangs. */
-constexpr double LongestAnswer = 2000;
+constexpr double LONGEST_ANSWER = 2000;
 
 /** Who has answered. */
 using Answer = std::optional<std::string>;
@@ -32,14 +32,14 @@ Leaving::Leaving(Eldbus_Connection* connection, const BusWatch& bus, const std::
     : m_asked(std::move(asked)), m_name(connection, bus, Applications::LeavingNameOf(appId))
 {
     // The library keeps pointers to these.
-    static const Eldbus_Method methods[] = {{Applications::takeOver.c_str(), nullptr, nullptr, s_OnTakeOver, 0}, {}};
+    static const Eldbus_Method methods[] = {{Applications::TAKE_OVER, nullptr, nullptr, s_OnTakeOver, 0}, {}};
     static const Eldbus_Service_Interface_Desc description = {
-        Applications::leavingInterface.c_str(), methods, nullptr, nullptr, nullptr, nullptr};
-    const std::string path = Applications::PathOf(Applications::LeavingNameOf(appId));
+        Applications::LEAVING_INTERFACE, methods, nullptr, nullptr, nullptr, nullptr};
+    const std::string path = PathOf(Applications::LeavingNameOf(appId));
     m_object.reset(eldbus_service_interface_register(connection, path.c_str(), &description));
     if (m_object)
     {
-        eldbus_service_object_data_set(m_object.get(), OwnerKey, this);
+        eldbus_service_object_data_set(m_object.get(), OWNER_KEY, this);
     }
     m_name.RequestFromAny();
 }
@@ -51,16 +51,16 @@ Leaving::~Leaving()
 
 Eldbus_Message* Leaving::s_OnTakeOver(const Eldbus_Service_Interface* object, const Eldbus_Message* call)
 {
-    static_cast<Leaving*>(eldbus_service_object_data_get(object, OwnerKey))->m_asked(eldbus_message_sender_get(call));
+    static_cast<Leaving*>(eldbus_service_object_data_get(object, OWNER_KEY))->m_asked(eldbus_message_sender_get(call));
     return eldbus_message_method_return_new(call);
 }
 
 std::string TakeOver(Eldbus_Connection* connection, const BusWatch& bus, const std::string& appId)
 {
     const std::string name = Applications::LeavingNameOf(appId);
-    auto call = NewCall(name, Applications::PathOf(name), Applications::leavingInterface, Applications::takeOver);
+    auto call = NewCall(name, PathOf(name), Applications::LEAVING_INTERFACE, Applications::TAKE_OVER);
     Answer answer;
-    auto* sent = eldbus_connection_send(connection, call.release(), OnAnswer, &answer, LongestAnswer);
+    auto* sent = eldbus_connection_send(connection, call.release(), OnAnswer, &answer, LONGEST_ANSWER);
     if (sent == nullptr)
     {
         return "";

@@ -10,7 +10,7 @@ namespace veskar
 namespace
 {
 
-constexpr double BusDefaultTimeout = -1;
+constexpr double BUS_DEFAULT_TIMEOUT = -1;
 
 } // namespace
 
@@ -27,7 +27,7 @@ OutgoingCalls::~OutgoingCalls()
 bool OutgoingCalls::Send(Eldbus_Connection* connection, BusMessage call, Done done)
 {
     auto& kept = m_calls.emplace_back(Call{this, std::move(done), nullptr});
-    kept.pending = eldbus_connection_send(connection, call.release(), s_OnReply, &kept, BusDefaultTimeout);
+    kept.pending = eldbus_connection_send(connection, call.release(), s_OnReply, &kept, BUS_DEFAULT_TIMEOUT);
     if (kept.pending == nullptr)
     {
         // The library does not run the callback of a call that it could not send.

@@ -7,7 +7,7 @@
 namespace
 {
 
-constexpr double designScale = 2.0;
+constexpr double DESIGN_SCALE = 2.0;
 
 /**
  * Labels mix texts that bring sizes of their own, scaled already, with texts that leave the size to the theme; so the
@@ -15,7 +15,7 @@ constexpr double designScale = 2.0;
  */
 void ScaleLabels()
 {
-    const double percent = 100.0 * elm_config_scale_get() / designScale;
+    const double percent = 100.0 * elm_config_scale_get() / DESIGN_SCALE;
     for (const char* textClass : {"veskar/message", "veskar/cell"})
     {
         edje_text_class_set(textClass, "Sans:style=Regular", static_cast<Evas_Font_Size>(-percent));

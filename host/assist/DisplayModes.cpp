@@ -79,7 +79,7 @@ DisplayModes::DisplayModes() : m_plainTheme(LoadedTheme()), m_theme(m_plainTheme
         ASSIST_WARN("no theme of the TV is loaded: enlarged text and high contrast show in texts alone");
         return;
     }
-    m_settings.emplace(std::initializer_list<const char*>{EnlargedTextKey, HighContrastKey},
+    m_settings.emplace(std::initializer_list<const char*>{ENLARGED_TEXT_KEY, HIGH_CONTRAST_KEY},
                        [this] { m_SettingsChanged(); });
     m_WatchWindow();
     m_Apply();
@@ -109,7 +109,7 @@ void DisplayModes::s_OnWindowHidden(void* data, Evas*, Evas_Object*, void*)
 
 void DisplayModes::m_Apply()
 {
-    const auto theme = ThemeFor(m_plainTheme, IsSet(EnlargedTextKey), IsSet(HighContrastKey));
+    const auto theme = ThemeFor(m_plainTheme, IsSet(ENLARGED_TEXT_KEY), IsSet(HIGH_CONTRAST_KEY));
     if (theme == m_theme)
     {
         return;

@@ -9,10 +9,10 @@ namespace veskar
 namespace
 {
 
-constexpr char separator[] = ", ";
+constexpr char SEPARATOR[] = ", ";
 // The parts of the theme's rows.
-constexpr char rowTextPart[] = "elm.text";
-constexpr char rowContentPart[] = "elm.swallow.icon";
+constexpr char ROW_TEXT_PART[] = "elm.text";
+constexpr char ROW_CONTENT_PART[] = "elm.swallow.icon";
 
 struct TickWords
 {
@@ -21,7 +21,7 @@ struct TickWords
     const char* notTicked;
 };
 
-constexpr TickWords words[] = {
+constexpr TickWords WORDS[] = {
     {"en", "ticked", "not ticked"},       {"ar", "محدد", "غير محدد"},
     {"de", "angehakt", "nicht angehakt"}, {"el", "επιλεγμένο", "μη επιλεγμένο"},
     {"es", "marcado", "no marcado"},      {"fr", "coché", "non coché"},
@@ -45,7 +45,7 @@ std::string OrEmpty(const char* text)
 /** The cells of a row are labels in a box. */
 std::string CellsOf(Elm_Object_Item* row)
 {
-    const Evas_Object* content = elm_object_item_part_content_get(row, rowContentPart);
+    const Evas_Object* content = elm_object_item_part_content_get(row, ROW_CONTENT_PART);
     std::string text;
     if (!Is(content, "elm_box"))
     {
@@ -56,7 +56,7 @@ std::string CellsOf(Elm_Object_Item* row)
     EINA_LIST_FREE(cells, cell)
     {
         const std::string next = OrEmpty(elm_object_text_get(static_cast<Evas_Object*>(cell)));
-        text += text.empty() || next.empty() ? next : separator + next;
+        text += text.empty() || next.empty() ? next : SEPARATOR + next;
     }
     return text;
 }
@@ -91,7 +91,7 @@ std::string TextOf(const Focused& focused)
         return Is(focused.object, "elm_button") ? OrEmpty(elm_object_text_get(focused.object)) : std::string();
     }
     const std::string cells = CellsOf(focused.row);
-    return cells.empty() ? OrEmpty(elm_object_item_part_text_get(focused.row, rowTextPart)) : cells;
+    return cells.empty() ? OrEmpty(elm_object_item_part_text_get(focused.row, ROW_TEXT_PART)) : cells;
 }
 
 std::string TickOf(const Focused& focused, const std::string& locale)
@@ -101,10 +101,10 @@ std::string TickOf(const Focused& focused, const std::string& locale)
         return {};
     }
     const auto* found =
-        std::find_if(std::begin(words), std::end(words),
+        std::find_if(std::begin(WORDS), std::end(WORDS),
                      [&locale](const TickWords& candidate)
                      { return locale.compare(0, std::strlen(candidate.language), candidate.language) == 0; });
-    const TickWords& spoken = found == std::end(words) ? words[0] : *found;
+    const TickWords& spoken = found == std::end(WORDS) ? WORDS[0] : *found;
     return focused.ticked ? spoken.ticked : spoken.notTicked;
 }
 

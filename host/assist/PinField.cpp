@@ -10,7 +10,7 @@ namespace veskar
 namespace
 {
 
-constexpr char fieldKey[] = "veskar_pin_field";
+constexpr char FIELD_KEY[] = "veskar_pin_field";
 
 /**
  * The field: one cell for each digit in a row. Holds the digits; the cells know only whether they are filled and whose
@@ -20,11 +20,14 @@ class PinField
 {
 public:
     PinField(Evas_Object* object, int length, Ea_Pin_Entered_Cb entered);
-    ~PinField() { evas_object_data_del(m_object, fieldKey); }
+    ~PinField() { evas_object_data_del(m_object, FIELD_KEY); }
     PinField(const PinField&) = delete;
     PinField& operator=(const PinField&) = delete;
 
-    static PinField* Of(const Ea_Pin* object) { return static_cast<PinField*>(evas_object_data_get(object, fieldKey)); }
+    static PinField* Of(const Ea_Pin* object)
+    {
+        return static_cast<PinField*>(evas_object_data_get(object, FIELD_KEY));
+    }
 
     void Reset();
     std::string_view Text() const { return m_digits.View(); }
@@ -66,7 +69,7 @@ PinField::PinField(Evas_Object* object, int length, Ea_Pin_Entered_Cb entered)
     elm_layout_signal_callback_add(m_object, "elm,action,focus", "elm", s_OnFocus, this);
     elm_layout_signal_callback_add(m_object, "elm,action,unfocus", "elm", s_OnUnfocus, this);
     elm_layout_signal_callback_add(m_object, "elm,action,click", "elm", s_OnClick, this);
-    evas_object_data_set(m_object, fieldKey, this);
+    evas_object_data_set(m_object, FIELD_KEY, this);
 }
 
 void PinField::m_AddCell()

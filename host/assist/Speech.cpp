@@ -32,9 +32,9 @@ using Connection = std::unique_ptr<SPDConnection, CloseConnection>;
 /** Nothing where no dispatcher is running: a TV without a voice starts none. */
 Connection Connect()
 {
-    constexpr int startNone = 0;
+    constexpr int START_NONE = 0;
     char* error = nullptr;
-    Connection connection(spd_open2("veskar-tv", "voice-guide", nullptr, SPD_MODE_SINGLE, nullptr, startNone, &error));
+    Connection connection(spd_open2("veskar-tv", "voice-guide", nullptr, SPD_MODE_SINGLE, nullptr, START_NONE, &error));
     const std::unique_ptr<char, decltype(&std::free)> message(error, std::free);
     if (!connection)
     {

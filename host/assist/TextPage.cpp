@@ -14,7 +14,7 @@ namespace veskar
 namespace
 {
 
-constexpr char dataKey[] = "veskar_text_page";
+constexpr char DATA_KEY[] = "veskar_text_page";
 
 struct FreeText
 {
@@ -130,7 +130,7 @@ public:
 
     static TextPage* Of(const Evas_Object* object)
     {
-        return static_cast<TextPage*>(evas_object_data_get(object, dataKey));
+        return static_cast<TextPage*>(evas_object_data_get(object, DATA_KEY));
     }
 
     void SetText(const char* markup);
@@ -183,12 +183,12 @@ TextPage::TextPage(Evas_Object* scroller)
     evas_object_event_callback_add(m_scroller, EVAS_CALLBACK_RESIZE, s_OnResize, this);
     evas_object_event_callback_add(m_content, EVAS_CALLBACK_RESIZE, s_OnResize, this);
     evas_object_event_callback_add(m_scroller, EVAS_CALLBACK_DEL, s_OnDeletion, this);
-    evas_object_data_set(m_scroller, dataKey, this);
+    evas_object_data_set(m_scroller, DATA_KEY, this);
 }
 
 TextPage::~TextPage()
 {
-    evas_object_data_del(m_scroller, dataKey);
+    evas_object_data_del(m_scroller, DATA_KEY);
     // The textblock goes before the style that it was given.
     evas_object_del(m_text);
     if (m_pending)

@@ -37,12 +37,12 @@ std::string Plain(const std::string& markup)
 bool IsOn()
 {
     int value = 0;
-    return vconf_get_int(VoiceGuideKey, &value) == 0 && value != 0;
+    return vconf_get_int(VOICE_GUIDE_KEY, &value) == 0 && value != 0;
 }
 
 std::string Language()
 {
-    const Text language(vconf_get_str(LanguageKey), std::free);
+    const Text language(vconf_get_str(LANGUAGE_KEY), std::free);
     return language ? language.get() : "";
 }
 

@@ -6,54 +6,65 @@
 
 namespace veskar
 {
-/** What every application of the TV has on the bus. Its id is its bus name. */
-namespace Applications
-{
-inline const std::string dialogues = "org.tizen.veskar-app";
-inline const std::string interface = "org.tizen.Application1";
-inline const std::string appControl = "AppControl";
 
-/** Where the application of that id lives: "org.tizen.veskar-app" at "/org/tizen/veskar_app". */
-inline std::string PathOf(const std::string& id)
+/** Where the owner of a bus name has its object: "org.tizen.veskar-app" at "/org/tizen/veskar_app". */
+inline std::string PathOf(const std::string& busName)
 {
-    std::string path = "/" + id;
+    std::string path = "/" + busName;
     std::replace(path.begin(), path.end(), '.', '/');
     std::replace(path.begin(), path.end(), '-', '_');
     return path;
 }
+
+/** What every application of the TV has on the bus. Its id is its bus name. */
+namespace Applications
+{
+
+inline constexpr const char* DIALOGUES = "org.tizen.veskar-app";
+inline constexpr const char* NUMBER_PAD = "org.tizen.function-osd";
+
+inline constexpr const char* INTERFACE = "org.tizen.Application1";
+inline constexpr const char* APP_CONTROL = "AppControl";
+inline constexpr const char* PAUSE = "Pause";
+inline constexpr const char* RESUME = "Resume";
+inline constexpr const char* TERMINATE = "Terminate";
 
 /** Owned by a process of that id on its way out: under it, the next process asks for the calls that this one holds. */
 inline std::string LeavingNameOf(const std::string& id)
 {
     return id + ".leaving";
 }
-inline const std::string leavingInterface = "org.tizen.LeavingApplication1";
-inline const std::string takeOver = "TakeOver";
+inline constexpr const char* LEAVING_INTERFACE = "org.tizen.LeavingApplication1";
+inline constexpr const char* TAKE_OVER = "TakeOver";
+
 } // namespace Applications
 
 /** Where the application's answers and menu positions go. */
 namespace Controller
 {
-inline const std::string busName = "org.tizen.veskar-middleware";
-inline const std::string path = "/org/tizen/veskar_middleware";
-inline const std::string interface = "org.tizen.VesKarController1";
-inline const std::string sendResponse = "SendResponse";
-inline const std::string openMenuPosition = "OpenMenuPosition";
+
+inline constexpr const char* BUS_NAME = "org.tizen.veskar-middleware";
+inline constexpr const char* INTERFACE = "org.tizen.VesKarController1";
+inline constexpr const char* SEND_RESPONSE = "SendResponse";
+inline constexpr const char* OPEN_MENU_POSITION = "OpenMenuPosition";
 
 /** The kinds of an answer. */
 enum Kind : int
 {
-    answered = 0,
-    closed = 2,
-    back = 3
+    Answered = 0,
+    Closed = 2,
+    Back = 3
 };
+
 } // namespace Controller
 
 namespace Manager
 {
-inline const std::string busName = "org.tizen.context-manager";
-inline const std::string path = "/org/tizen/context_manager";
-inline const std::string interface = "org.tizen.ContextManager1";
-inline const std::string requestTask = "RequestTask";
+
+inline constexpr const char* BUS_NAME = "org.tizen.context-manager";
+inline constexpr const char* INTERFACE = "org.tizen.ContextManager1";
+inline constexpr const char* REQUEST_TASK = "RequestTask";
+
 } // namespace Manager
+
 } // namespace veskar

@@ -9,7 +9,7 @@ namespace veskar
 namespace
 {
 
-void setRegion(pixman_region32_t& region, int width, int height)
+void SetRegion(pixman_region32_t& region, int width, int height)
 {
     pixman_region32_fini(&region);
     pixman_region32_init_rect(&region, 0, 0, static_cast<unsigned>(width), static_cast<unsigned>(height));
@@ -19,40 +19,40 @@ void setRegion(pixman_region32_t& region, int width, int height)
 
 Backdrop::Backdrop(weston_compositor* compositor, std::function<void()> shown)
     : m_compositor(compositor), m_shown(std::move(shown)),
-      m_pictures(compositor->wl_display, drawLandscape,
-                 [this](wl_resource* buffer, int width, int height) { show(buffer, width, height); }),
-      m_outputCreated(compositor->output_created_signal, [this](void*) { redraw(); }),
-      m_outputResized(compositor->output_resized_signal, [this](void*) { redraw(); })
+      m_pictures(compositor->wl_display, DrawLandscape,
+                 [this](wl_resource* buffer, int width, int height) { m_Show(buffer, width, height); }),
+      m_outputCreated(compositor->output_created_signal, [this](void*) { m_Redraw(); }),
+      m_outputResized(compositor->output_resized_signal, [this](void*) { m_Redraw(); })
 {
     weston_layer_init(&m_layer, compositor);
     // The shell's own background lies at BACKGROUND.
     weston_layer_set_position(&m_layer, static_cast<weston_layer_position>(WESTON_LAYER_POSITION_BACKGROUND + 1));
-    redraw();
+    m_Redraw();
 }
 
 Backdrop::~Backdrop()
 {
-    clear();
+    m_Clear();
     weston_layer_fini(&m_layer);
 }
 
-void Backdrop::redraw()
+void Backdrop::m_Redraw()
 {
-    if (const weston_output* output = firstOutput(m_compositor))
+    if (const weston_output* output = FirstOutput(m_compositor))
     {
-        m_pictures.request(output->width, output->height);
+        m_pictures.Request(output->width, output->height);
     }
 }
 
-void Backdrop::show(wl_resource* buffer, int width, int height)
+void Backdrop::m_Show(wl_resource* buffer, int width, int height)
 {
-    clear();
+    m_Clear();
     m_surface = weston_surface_create(m_compositor);
     weston_view* view = weston_view_create(m_surface);
     m_compositor->renderer->attach(m_surface, weston_buffer_from_resource(buffer));
     weston_surface_set_size(m_surface, width, height);
-    setRegion(m_surface->opaque, width, height);
-    setRegion(m_surface->input, 0, 0); // a click is for nobody
+    SetRegion(m_surface->opaque, width, height);
+    SetRegion(m_surface->input, 0, 0); // a click is for nobody
     m_surface->is_mapped = true;
     view->is_mapped = true;
     weston_view_set_position(view, 0, 0);
@@ -62,7 +62,7 @@ void Backdrop::show(wl_resource* buffer, int width, int height)
     m_shown();
 }
 
-void Backdrop::clear()
+void Backdrop::m_Clear()
 {
     if (m_surface != nullptr)
     {

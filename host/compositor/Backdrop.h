@@ -18,9 +18,9 @@ public:
     Backdrop& operator=(const Backdrop&) = delete;
 
 private:
-    void redraw();
-    void show(wl_resource* buffer, int width, int height);
-    void clear();
+    void m_Redraw();
+    void m_Show(wl_resource* buffer, int width, int height);
+    void m_Clear();
 
     weston_compositor* m_compositor;
     std::function<void()> m_shown;

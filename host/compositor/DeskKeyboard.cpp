@@ -75,14 +75,14 @@ constexpr Typed TYPED[] = {
 
 } // namespace
 
-const Key* deskKey(uint32_t code)
+const Key* DeskKey(uint32_t code)
 {
     const auto* found =
         std::find_if(std::begin(TYPED), std::end(TYPED), [code](const Typed& typed) { return typed.code == code; });
-    return found == std::end(TYPED) ? nullptr : keyByName(found->key);
+    return found == std::end(TYPED) ? nullptr : KeyByName(found->key);
 }
 
-std::string deskKeyboardHelp()
+std::string DeskKeyboardHelp()
 {
     std::ostringstream help;
     help << "The keyboard plays the remote control:\n"

@@ -10,9 +10,9 @@ namespace veskar
 
 /** The remote's key for a code as the backend reports it (Linux' input event codes); null for one that means nothing.
  */
-const Key* deskKey(uint32_t code);
+const Key* DeskKey(uint32_t code);
 
 /** One line for each typed key, for a person who sits before the window. */
-std::string deskKeyboardHelp();
+std::string DeskKeyboardHelp();
 
 } // namespace veskar

@@ -8,14 +8,14 @@ namespace veskar
 namespace
 {
 
-bool isRegistration(GrabMode mode)
+bool IsRegistration(GrabMode mode)
 {
     return mode == GrabMode::Registered;
 }
 
 } // namespace
 
-const char* nameOf(GrabMode mode)
+const char* NameOf(GrabMode mode)
 {
     switch (mode)
     {
@@ -29,16 +29,16 @@ const char* nameOf(GrabMode mode)
     return "unknown";
 }
 
-bool GrabTable::add(wl_client* client, weston_surface* surface, const Key& key, GrabMode mode)
+bool GrabTable::Add(wl_client* client, weston_surface* surface, const Key& key, GrabMode mode)
 {
-    const weston_surface* holder = exclusiveHolder(key);
+    const weston_surface* holder = ExclusiveHolder(key);
     if (mode == GrabMode::Exclusive && holder != nullptr && holder != surface)
     {
         return false;
     }
     m_grabs.remove_if(
         [&](const Grab& grab)
-        { return grab.surface == surface && grab.key == &key && isRegistration(grab.mode) == isRegistration(mode); });
+        { return grab.surface == surface && grab.key == &key && IsRegistration(grab.mode) == IsRegistration(mode); });
     m_grabs.push_back({surface, client, &key, mode, nullptr});
     const auto added = std::prev(m_grabs.end());
     added->surfaceGone =
@@ -46,25 +46,25 @@ bool GrabTable::add(wl_client* client, weston_surface* surface, const Key& key, 
     return true;
 }
 
-void GrabTable::remove(weston_surface* surface, const Key& key, GrabMode mode)
+void GrabTable::Remove(weston_surface* surface, const Key& key, GrabMode mode)
 {
     m_grabs.remove_if([&](const Grab& grab)
                       { return grab.surface == surface && grab.key == &key && grab.mode == mode; });
 }
 
-void GrabTable::removeClient(wl_client* client)
+void GrabTable::RemoveClient(wl_client* client)
 {
     m_grabs.remove_if([client](const Grab& grab) { return grab.client == client; });
 }
 
-bool GrabTable::holds(weston_surface* surface, const Key& key, GrabMode mode) const
+bool GrabTable::Holds(weston_surface* surface, const Key& key, GrabMode mode) const
 {
     return std::any_of(m_grabs.begin(), m_grabs.end(),
                        [&](const Grab& grab)
                        { return grab.surface == surface && grab.key == &key && grab.mode == mode; });
 }
 
-weston_surface* GrabTable::holder(const Key& key, GrabMode mode,
+weston_surface* GrabTable::Holder(const Key& key, GrabMode mode,
                                   const std::function<bool(weston_surface*)>& accepts) const
 {
     const auto found =
@@ -73,9 +73,9 @@ weston_surface* GrabTable::holder(const Key& key, GrabMode mode,
     return found == m_grabs.end() ? nullptr : found->surface;
 }
 
-weston_surface* GrabTable::exclusiveHolder(const Key& key) const
+weston_surface* GrabTable::ExclusiveHolder(const Key& key) const
 {
-    return holder(key, GrabMode::Exclusive, [](weston_surface*) { return true; });
+    return Holder(key, GrabMode::Exclusive, [](weston_surface*) { return true; });
 }
 
 } // namespace veskar

@@ -19,7 +19,7 @@ enum class GrabMode
     Registered = 5
 };
 
-const char* nameOf(GrabMode mode);
+const char* NameOf(GrabMode mode);
 
 struct Grab
 {
@@ -38,23 +38,23 @@ public:
      * registration of a key, and beside it at most one grab in one of the other two modes: the newer replaces the
      * older.
      */
-    bool add(wl_client* client, weston_surface* surface, const Key& key, GrabMode mode);
+    bool Add(wl_client* client, weston_surface* surface, const Key& key, GrabMode mode);
 
     /** Nothing happens where there is no such grab. */
-    void remove(weston_surface* surface, const Key& key, GrabMode mode);
+    void Remove(weston_surface* surface, const Key& key, GrabMode mode);
 
     /** Ends every grab of this client; to be called before the client is gone. */
-    void removeClient(wl_client* client);
+    void RemoveClient(wl_client* client);
 
-    bool holds(weston_surface* surface, const Key& key, GrabMode mode) const;
+    bool Holds(weston_surface* surface, const Key& key, GrabMode mode) const;
 
     /** A surface that holds the key in this mode and that is accepted, or null. */
-    weston_surface* holder(const Key& key, GrabMode mode, const std::function<bool(weston_surface*)>& accepts) const;
+    weston_surface* Holder(const Key& key, GrabMode mode, const std::function<bool(weston_surface*)>& accepts) const;
 
     /** The surface that holds the key exclusively, or null. */
-    weston_surface* exclusiveHolder(const Key& key) const;
+    weston_surface* ExclusiveHolder(const Key& key) const;
 
-    const std::list<Grab>& all() const { return m_grabs; }
+    const std::list<Grab>& All() const { return m_grabs; }
 
 private:
     std::list<Grab> m_grabs;

@@ -18,11 +18,11 @@ public:
     KeyRouter(const KeyRouter&) = delete;
     KeyRouter& operator=(const KeyRouter&) = delete;
 
-    GrabTable& grabs() { return m_grabs; }
+    GrabTable& Grabs() { return m_grabs; }
 
 private:
-    static void bind(wl_client* client, void* self, uint32_t version, uint32_t id);
-    static void unbind(wl_resource* resource);
+    static void s_Bind(wl_client* client, void* self, uint32_t version, uint32_t id);
+    static void s_Unbind(wl_resource* resource);
 
     GrabTable& m_grabs;
     wl_global* m_global;

@@ -47,35 +47,35 @@ constexpr const char* NAMES[] = {
     "XF86PanelUp", "XF86PanelDown", "XF86PanelPlus", "XF86PanelMinus", "XF86PanelEnter", "XF86PanelExit",
     "XF86WheelLeftKey", "XF86WheelRightKey", "XF86FactoryMode"};
 
-uint32_t symbolOf(const char* name, uint32_t index)
+uint32_t SymbolOf(const char* name, uint32_t index)
 {
     const xkb_keysym_t known = xkb_keysym_from_name(name, XKB_KEYSYM_NO_FLAGS);
     return known != XKB_KEY_NoSymbol ? known : FIRST_OWN_SYMBOL + index;
 }
 
-std::vector<Key> makeKeys()
+std::vector<Key> MakeKeys()
 {
     std::vector<Key> keys;
     keys.reserve(std::size(NAMES));
     for (const char* name : NAMES)
     {
         const auto index = static_cast<uint32_t>(keys.size());
-        keys.push_back({name, FIRST_CODE + index, symbolOf(name, index)});
+        keys.push_back({name, FIRST_CODE + index, SymbolOf(name, index)});
     }
     return keys;
 }
 
-bool sameIgnoringCase(const std::string& left, const char* right)
+bool SameIgnoringCase(const std::string& left, const char* right)
 {
     return strcasecmp(left.c_str(), right) == 0;
 }
 
-std::string keycodeLine(const Key& key)
+std::string KeycodeLine(const Key& key)
 {
     return "<K" + std::to_string(key.code) + "> = " + std::to_string(key.code + XKB_OFFSET) + ";\n";
 }
 
-std::string symbolLine(const Key& key)
+std::string SymbolLine(const Key& key)
 {
     char symbol[16];
     std::snprintf(symbol, sizeof symbol, "0x%x", key.symbol);
@@ -84,37 +84,37 @@ std::string symbolLine(const Key& key)
 
 } // namespace
 
-const std::vector<Key>& allKeys()
+const std::vector<Key>& AllKeys()
 {
-    static const std::vector<Key> keys = makeKeys();
+    static const std::vector<Key> keys = MakeKeys();
     return keys;
 }
 
-const Key* keyByCode(uint32_t code)
+const Key* KeyByCode(uint32_t code)
 {
-    const std::vector<Key>& keys = allKeys();
+    const std::vector<Key>& keys = AllKeys();
     return code < FIRST_CODE || code - FIRST_CODE >= keys.size() ? nullptr : &keys[code - FIRST_CODE];
 }
 
-const Key* keyByName(std::string_view name)
+const Key* KeyByName(std::string_view name)
 {
-    const std::vector<Key>& keys = allKeys();
+    const std::vector<Key>& keys = AllKeys();
     const auto found = std::find_if(keys.begin(), keys.end(), [name](const Key& key) { return name == key.name; });
     return found == keys.end() ? nullptr : &*found;
 }
 
-const Key* keyByShortName(std::string_view name)
+const Key* KeyByShortName(std::string_view name)
 {
-    if (const Key* exact = keyByName(name))
+    if (const Key* exact = KeyByName(name))
     {
         return exact;
     }
     for (const char* prefix : {"", "XF86", "XF86Audio"})
     {
         const std::string full = prefix + std::string(name);
-        for (const Key& key : allKeys())
+        for (const Key& key : AllKeys())
         {
-            if (sameIgnoringCase(full, key.name))
+            if (SameIgnoringCase(full, key.name))
             {
                 return &key;
             }
@@ -123,16 +123,16 @@ const Key* keyByShortName(std::string_view name)
     return nullptr;
 }
 
-std::string keymapText()
+std::string KeymapText()
 {
     std::string codes;
     std::string symbols;
-    for (const Key& key : allKeys())
+    for (const Key& key : AllKeys())
     {
-        codes += keycodeLine(key);
-        symbols += symbolLine(key);
+        codes += KeycodeLine(key);
+        symbols += SymbolLine(key);
     }
-    const uint32_t last = FIRST_CODE + static_cast<uint32_t>(allKeys().size()) + XKB_OFFSET;
+    const uint32_t last = FIRST_CODE + static_cast<uint32_t>(AllKeys().size()) + XKB_OFFSET;
     return "xkb_keymap {\n"
            "xkb_keycodes \"remote\" {\nminimum = 8;\nmaximum = " +
            std::to_string(last) + ";\n" + codes +

@@ -21,18 +21,18 @@ struct Key
     uint32_t symbol;
 };
 
-const std::vector<Key>& allKeys();
+const std::vector<Key>& AllKeys();
 
 /** Null when there is no such key. */
-const Key* keyByCode(uint32_t code);
+const Key* KeyByCode(uint32_t code);
 
 /** By platform name only. */
-const Key* keyByName(std::string_view name);
+const Key* KeyByName(std::string_view name);
 
 /** By platform name, or by the part of it that a person would type ("Back", "more", "play"). */
-const Key* keyByShortName(std::string_view name);
+const Key* KeyByShortName(std::string_view name);
 
 /** An XKB keymap (text format 1) in which each key's code gives its symbol; it depends on no installed XKB data. */
-std::string keymapText();
+std::string KeymapText();
 
 } // namespace veskar

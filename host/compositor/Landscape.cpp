@@ -26,7 +26,7 @@ constexpr Colour operator+(Colour left, Colour right)
     return {left.red + right.red, left.green + right.green, left.blue + right.blue};
 }
 
-constexpr Colour mix(Colour from, Colour to, float share)
+constexpr Colour Mix(Colour from, Colour to, float share)
 {
     return from * (1 - share) + to * share;
 }
@@ -46,36 +46,36 @@ constexpr float SUN_Y = 0.585F;
 constexpr float SUN_RADIUS = 0.048F;
 constexpr int RANGES = 5;
 
-float smooth(float from, float to, float value)
+float Smooth(float from, float to, float value)
 {
     const float share = std::clamp((value - from) / (to - from), 0.0F, 1.0F);
     return share * share * (3 - 2 * share);
 }
 
 /** A number in 0..1 that looks random and is always the same for the same place. */
-float noiseAt(int x, int y)
+float NoiseAt(int x, int y)
 {
     auto bits = static_cast<uint32_t>(x) * 374761393U + static_cast<uint32_t>(y) * 668265263U;
     bits = (bits ^ (bits >> 13)) * 1274126177U;
     return static_cast<float>((bits ^ (bits >> 16)) & 0xffffU) / 65535.0F;
 }
 
-float smoothNoise(float at, int seed)
+float SmoothNoise(float at, int seed)
 {
     const float cell = std::floor(at);
     const int index = static_cast<int>(cell);
-    return noiseAt(index, seed) + (noiseAt(index + 1, seed) - noiseAt(index, seed)) * smooth(0, 1, at - cell);
+    return NoiseAt(index, seed) + (NoiseAt(index + 1, seed) - NoiseAt(index, seed)) * Smooth(0, 1, at - cell);
 }
 
 /** The ridge of one range of hills, from the farthest (0) to the nearest. */
-float ridgeAt(float x, int range)
+float RidgeAt(float x, int range)
 {
     float height = 0;
     float size = 0.5F;
     float places = 2.2F + 0.5F * static_cast<float>(range);
     for (int octave = 0; octave < 6; ++octave)
     {
-        height += size * smoothNoise(x * places, range * 16 + octave);
+        height += size * SmoothNoise(x * places, range * 16 + octave);
         size *= 0.5F;
         places *= 2.1F;
     }
@@ -95,66 +95,66 @@ public:
             ridge.reserve(static_cast<size_t>(width));
             for (int column = 0; column < width; ++column)
             {
-                ridge.push_back(ridgeAt(static_cast<float>(column) / m_height, range));
+                ridge.push_back(RidgeAt(static_cast<float>(column) / m_height, range));
             }
         }
     }
 
-    Colour at(int column, float y) const
+    Colour At(int column, float y) const
     {
         for (int range = RANGES - 1; range >= 0; --range)
         {
             if (y > m_ridges[range][static_cast<size_t>(column)])
             {
-                return hill(range, y - m_ridges[range][static_cast<size_t>(column)]);
+                return Hill(range, y - m_ridges[range][static_cast<size_t>(column)]);
             }
         }
-        return sky(column, y);
+        return m_Sky(column, y);
     }
 
 private:
-    static Colour hill(int range, float depth)
+    static Colour Hill(int range, float depth)
     {
         const float nearness = static_cast<float>(range) / (RANGES - 1);
-        const Colour body = mix(FAR_HILL, NEAR_HILL, std::pow(nearness, 0.7F));
+        const Colour body = Mix(FAR_HILL, NEAR_HILL, std::pow(nearness, 0.7F));
         // Mist lies in the valleys before the next range.
-        return mix(body, mix(AFTERGLOW, body, nearness), 0.55F * smooth(0.0F, 0.16F, depth));
+        return Mix(body, Mix(AFTERGLOW, body, nearness), 0.55F * Smooth(0.0F, 0.16F, depth));
     }
 
-    Colour sky(int column, float y) const
+    Colour m_Sky(int column, float y) const
     {
         const float x = static_cast<float>(column) / m_height;
         const float level = y / WATERLINE;
-        Colour colour = mix(NIGHT, DUSK, smooth(0.0F, 0.62F, level));
-        colour = mix(colour, AFTERGLOW, smooth(0.42F, 0.92F, level));
+        Colour colour = Mix(NIGHT, DUSK, Smooth(0.0F, 0.62F, level));
+        colour = Mix(colour, AFTERGLOW, Smooth(0.42F, 0.92F, level));
         const float distance = std::hypot(x - SUN_X, y - SUN_Y);
-        colour = mix(colour, GOLD, 0.85F * std::exp(-distance * 4.2F));
-        colour = mix(colour, mix(GOLD, AFTERGLOW, 0.35F), 0.55F * cloud(x, y) * smooth(0.15F, 0.7F, level));
-        colour = mix(colour, SUN, 1 - smooth(SUN_RADIUS - 0.0015F, SUN_RADIUS + 0.0015F, distance));
-        return colour + Colour{255, 255, 255} * (star(column, y) * (1 - smooth(0.05F, 0.5F, level)));
+        colour = Mix(colour, GOLD, 0.85F * std::exp(-distance * 4.2F));
+        colour = Mix(colour, Mix(GOLD, AFTERGLOW, 0.35F), 0.55F * Cloud(x, y) * Smooth(0.15F, 0.7F, level));
+        colour = Mix(colour, SUN, 1 - Smooth(SUN_RADIUS - 0.0015F, SUN_RADIUS + 0.0015F, distance));
+        return colour + Colour{255, 255, 255} * (m_Star(column, y) * (1 - Smooth(0.05F, 0.5F, level)));
     }
 
-    static float cloud(float x, float y)
+    static float Cloud(float x, float y)
     {
-        const float band = smoothNoise(y * 26 + smoothNoise(x * 1.7F, 91) * 3, 92);
-        return smooth(0.55F, 0.95F, band * (0.55F + 0.6F * smoothNoise(x * 2.3F + y * 5, 93)));
+        const float band = SmoothNoise(y * 26 + SmoothNoise(x * 1.7F, 91) * 3, 92);
+        return Smooth(0.55F, 0.95F, band * (0.55F + 0.6F * SmoothNoise(x * 2.3F + y * 5, 93)));
     }
 
     /** Few cells of the sky hold a star, each a soft dot. */
-    float star(int column, float y) const
+    float m_Star(int column, float y) const
     {
         const float cell = m_height / 60;
         const float across = static_cast<float>(column) / cell;
         const float down = y * m_height / cell;
         const int cellX = static_cast<int>(across);
         const int cellY = static_cast<int>(down);
-        if (noiseAt(cellX, 1000 + cellY) < 0.82F)
+        if (NoiseAt(cellX, 1000 + cellY) < 0.82F)
         {
             return 0;
         }
-        const float dx = across - static_cast<float>(cellX) - 0.2F - 0.6F * noiseAt(cellX, 2000 + cellY);
-        const float dy = down - static_cast<float>(cellY) - 0.2F - 0.6F * noiseAt(cellX, 3000 + cellY);
-        const float size = 0.03F + 0.05F * noiseAt(cellX, 4000 + cellY);
+        const float dx = across - static_cast<float>(cellX) - 0.2F - 0.6F * NoiseAt(cellX, 2000 + cellY);
+        const float dy = down - static_cast<float>(cellY) - 0.2F - 0.6F * NoiseAt(cellX, 3000 + cellY);
+        const float size = 0.03F + 0.05F * NoiseAt(cellX, 4000 + cellY);
         return 0.8F * std::exp(-(dx * dx + dy * dy) / (size * size));
     }
 
@@ -163,19 +163,19 @@ private:
 };
 
 /** The lake mirrors the scene, darker towards the viewer and broken by ripples that grow with nearness. */
-Colour water(const Scene& scene, int column, int row, int width, int height)
+Colour Water(const Scene& scene, int column, int row, int width, int height)
 {
     const float y = static_cast<float>(row) / static_cast<float>(height);
     const float depth = (y - WATERLINE) / (1 - WATERLINE);
     const float x = static_cast<float>(column) / static_cast<float>(height);
-    const float wave = smoothNoise(x * (9 - 5 * depth) + std::floor(depth * 90) * 7.31F, 77) - 0.5F;
+    const float wave = SmoothNoise(x * (9 - 5 * depth) + std::floor(depth * 90) * 7.31F, 77) - 0.5F;
     const float mirrored = WATERLINE - (y - WATERLINE) * 1.05F + wave * 0.035F * (0.15F + depth);
     const int shifted = column + static_cast<int>(wave * 26 * depth * static_cast<float>(height) / 1080);
-    const Colour seen = scene.at(std::clamp(shifted, 0, width - 1), std::clamp(mirrored, 0.0F, WATERLINE - 0.002F));
-    return mix(seen, NIGHT, 0.22F + 0.45F * depth) + GOLD * (0.05F * std::max(0.0F, wave) * (1 - depth));
+    const Colour seen = scene.At(std::clamp(shifted, 0, width - 1), std::clamp(mirrored, 0.0F, WATERLINE - 0.002F));
+    return Mix(seen, NIGHT, 0.22F + 0.45F * depth) + GOLD * (0.05F * std::max(0.0F, wave) * (1 - depth));
 }
 
-uint32_t packed(Colour colour, float dither)
+uint32_t Packed(Colour colour, float dither)
 {
     const auto level = [dither](float value)
     {
@@ -186,7 +186,7 @@ uint32_t packed(Colour colour, float dither)
 
 } // namespace
 
-std::vector<uint32_t> drawLandscape(int width, int height)
+std::vector<uint32_t> DrawLandscape(int width, int height)
 {
     const Scene scene(width, height);
     std::vector<uint32_t> pixels;
@@ -196,9 +196,9 @@ std::vector<uint32_t> drawLandscape(int width, int height)
         const float y = static_cast<float>(row) / static_cast<float>(height);
         for (int column = 0; column < width; ++column)
         {
-            const Colour colour = y < WATERLINE ? scene.at(column, y) : water(scene, column, row, width, height);
+            const Colour colour = y < WATERLINE ? scene.At(column, y) : Water(scene, column, row, width, height);
             // Long gradients show bands without it.
-            pixels.push_back(packed(colour, noiseAt(column, row)));
+            pixels.push_back(Packed(colour, NoiseAt(column, row)));
         }
     }
     return pixels;

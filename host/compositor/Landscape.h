@@ -8,6 +8,6 @@ namespace veskar
 {
 
 /** Rows from the top, 0x00RRGGBB. The same size gives the same picture. */
-std::vector<uint32_t> drawLandscape(int width, int height);
+std::vector<uint32_t> DrawLandscape(int width, int height);
 
 } // namespace veskar

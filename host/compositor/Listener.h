@@ -20,7 +20,7 @@ public:
 
     Listener(wl_signal& signal, Handler handler) : m_handler(std::move(handler))
     {
-        m_hook.listener.notify = notify;
+        m_hook.listener.notify = s_Notify;
         m_hook.self = this;
         wl_signal_add(&signal, &m_hook.listener);
     }
@@ -37,7 +37,7 @@ private:
         Listener* self;
     };
 
-    static void notify(wl_listener* listener, void* data)
+    static void s_Notify(wl_listener* listener, void* data)
     {
         const Handler handler = reinterpret_cast<Hook*>(listener)->self->m_handler; // it may destroy the Listener
         handler(data);

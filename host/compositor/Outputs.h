@@ -7,7 +7,7 @@ namespace veskar
 {
 
 /** Null while the backend has none. */
-inline weston_output* firstOutput(weston_compositor* compositor)
+inline weston_output* FirstOutput(weston_compositor* compositor)
 {
     weston_output* output;
     wl_list_for_each(output, &compositor->output_list, link)

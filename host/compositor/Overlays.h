@@ -25,8 +25,8 @@ public:
     Overlays& operator=(const Overlays&) = delete;
 
 private:
-    void onActivated(weston_surface* surface);
-    void stayOver(weston_surface* screen);
+    void m_OnActivated(weston_surface* surface);
+    void m_StayOver(weston_surface* screen);
 
     const Seat& m_seat;
     const WindowStack& m_windows;

@@ -14,24 +14,24 @@ namespace veskar
 namespace
 {
 
-[[noreturn]] void fail(const char* what)
+[[noreturn]] void Fail(const char* what)
 {
     throw std::system_error(errno, std::generic_category(), what);
 }
 
 /** A file in memory with these pixels; the caller closes it. */
-int fileOf(const std::vector<uint32_t>& pixels)
+int FileOf(const std::vector<uint32_t>& pixels)
 {
     const int fd = memfd_create("veskar-picture", MFD_CLOEXEC);
     const size_t size = pixels.size() * sizeof(uint32_t);
     if (fd < 0 || write(fd, pixels.data(), size) != static_cast<ssize_t>(size))
     {
-        fail("memory for a picture");
+        Fail("memory for a picture");
     }
     return fd;
 }
 
-void ignoreRemoval(void*, wl_registry*, uint32_t) {}
+void IgnoreRemoval(void*, wl_registry*, uint32_t) {}
 
 } // namespace
 
@@ -41,13 +41,13 @@ PictureClient::PictureClient(wl_display* server, Draw draw, Ready ready)
     int ends[2];
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) < 0)
     {
-        fail("socketpair");
+        Fail("socketpair");
     }
     m_serverEnd = wl_client_create(server, ends[0]);
     m_clientEnd = wl_display_connect_to_fd(ends[1]);
-    m_source = wl_event_loop_add_fd(wl_display_get_event_loop(server), ends[1], WL_EVENT_READABLE, onReadable, this);
+    m_source = wl_event_loop_add_fd(wl_display_get_event_loop(server), ends[1], WL_EVENT_READABLE, s_OnReadable, this);
     m_registry = wl_display_get_registry(m_clientEnd);
-    static const wl_registry_listener listener = {onGlobal, ignoreRemoval};
+    static const wl_registry_listener listener = {s_OnGlobal, IgnoreRemoval};
     wl_registry_add_listener(m_registry, &listener, this);
     wl_display_flush(m_clientEnd);
 }
@@ -67,17 +67,17 @@ PictureClient::~PictureClient()
     wl_display_disconnect(m_clientEnd);
 }
 
-void PictureClient::request(int width, int height)
+void PictureClient::Request(int width, int height)
 {
     m_width = width;
     m_height = height;
     if (m_shm != nullptr && m_making == nullptr)
     {
-        makeBuffer();
+        m_MakeBuffer();
     }
 }
 
-int PictureClient::onReadable(int, uint32_t, void* data)
+int PictureClient::s_OnReadable(int, uint32_t, void* data)
 {
     auto* self = static_cast<PictureClient*>(data);
     wl_display_dispatch(self->m_clientEnd); // does not wait: there is something to read
@@ -85,7 +85,7 @@ int PictureClient::onReadable(int, uint32_t, void* data)
     return 0;
 }
 
-void PictureClient::onGlobal(void* data, wl_registry* registry, uint32_t name, const char* interface, uint32_t)
+void PictureClient::s_OnGlobal(void* data, wl_registry* registry, uint32_t name, const char* interface, uint32_t)
 {
     auto* self = static_cast<PictureClient*>(data);
     if (std::strcmp(interface, wl_shm_interface.name) != 0)
@@ -95,26 +95,26 @@ void PictureClient::onGlobal(void* data, wl_registry* registry, uint32_t name, c
     self->m_shm = static_cast<wl_shm*>(wl_registry_bind(registry, name, &wl_shm_interface, 1));
     if (self->m_width > 0)
     {
-        self->makeBuffer();
+        self->m_MakeBuffer();
     }
 }
 
-void PictureClient::makeBuffer()
+void PictureClient::m_MakeBuffer()
 {
-    const int fd = fileOf(m_draw(m_width, m_height));
+    const int fd = FileOf(m_draw(m_width, m_height));
     const int stride = m_width * static_cast<int>(sizeof(uint32_t));
     wl_shm_pool* pool = wl_shm_create_pool(m_shm, fd, stride * m_height);
     m_making = wl_shm_pool_create_buffer(pool, 0, m_width, m_height, stride, WL_SHM_FORMAT_XRGB8888);
     wl_shm_pool_destroy(pool);
     close(fd);
 
-    static const wl_callback_listener listener = {onBufferMade};
+    static const wl_callback_listener listener = {s_OnBufferMade};
     m_made = wl_display_sync(m_clientEnd);
     wl_callback_add_listener(m_made, &listener, this);
     wl_display_flush(m_clientEnd);
 }
 
-void PictureClient::onBufferMade(void* data, wl_callback* callback, uint32_t)
+void PictureClient::s_OnBufferMade(void* data, wl_callback* callback, uint32_t)
 {
     auto* self = static_cast<PictureClient*>(data);
     wl_callback_destroy(callback);
@@ -135,7 +135,7 @@ void PictureClient::onBufferMade(void* data, wl_callback* callback, uint32_t)
     }
     if (width != self->m_width || height != self->m_height)
     {
-        self->makeBuffer();
+        self->m_MakeBuffer();
     }
 }
 

@@ -35,14 +35,14 @@ public:
     PictureClient& operator=(const PictureClient&) = delete;
 
     /** `ready` is called later, from the event loop; a newer request replaces one that is still under way. */
-    void request(int width, int height);
+    void Request(int width, int height);
 
 private:
-    static int onReadable(int fd, uint32_t mask, void* self);
-    static void onGlobal(void* self, wl_registry* registry, uint32_t name, const char* interface, uint32_t version);
-    static void onBufferMade(void* self, wl_callback* callback, uint32_t serial);
+    static int s_OnReadable(int fd, uint32_t mask, void* self);
+    static void s_OnGlobal(void* self, wl_registry* registry, uint32_t name, const char* interface, uint32_t version);
+    static void s_OnBufferMade(void* self, wl_callback* callback, uint32_t serial);
 
-    void makeBuffer();
+    void m_MakeBuffer();
 
     Draw m_draw;
     Ready m_ready;

@@ -18,7 +18,7 @@ struct FileClose
 };
 
 // libpng reports errors by longjmp, which skips destructors: nothing here but pointers and what the caller owns.
-bool encode(const Picture& picture, FILE* file)
+bool Encode(const Picture& picture, FILE* file)
 {
     png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
     png_infop info = png == nullptr ? nullptr : png_create_info_struct(png);
@@ -46,7 +46,7 @@ bool encode(const Picture& picture, FILE* file)
 
 } // namespace
 
-std::string writePng(const Picture& picture, const std::string& path)
+std::string WritePng(const Picture& picture, const std::string& path)
 {
     const std::string temporary = path + ".part";
     std::unique_ptr<FILE, FileClose> file(std::fopen(temporary.c_str(), "wb"));
@@ -54,7 +54,7 @@ std::string writePng(const Picture& picture, const std::string& path)
     {
         return path + ": " + std::strerror(errno);
     }
-    const bool written = encode(picture, file.get()) && std::fflush(file.get()) == 0;
+    const bool written = Encode(picture, file.get()) && std::fflush(file.get()) == 0;
     file.reset();
     if (written && std::rename(temporary.c_str(), path.c_str()) == 0)
     {

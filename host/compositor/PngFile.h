@@ -18,6 +18,6 @@ struct Picture
 
 /** Written beside `path` and then renamed, so that a file under that name is always complete. Returns what went wrong.
  */
-std::string writePng(const Picture& picture, const std::string& path);
+std::string WritePng(const Picture& picture, const std::string& path);
 
 } // namespace veskar

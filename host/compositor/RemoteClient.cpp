@@ -14,7 +14,7 @@ namespace
 
 constexpr const char* REFUSED = "error ";
 
-int connectTo(const std::string& path)
+int ConnectTo(const std::string& path)
 {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -35,14 +35,14 @@ int connectTo(const std::string& path)
 
 } // namespace
 
-RemoteClient::RemoteClient(const std::string& path) : m_fd(connectTo(path)) {}
+RemoteClient::RemoteClient(const std::string& path) : m_fd(ConnectTo(path)) {}
 
 RemoteClient::~RemoteClient()
 {
     close(m_fd);
 }
 
-std::vector<std::string> RemoteClient::ask(const std::string& command)
+std::vector<std::string> RemoteClient::Ask(const std::string& command)
 {
     if (command.find('\n') != std::string::npos)
     {
@@ -56,7 +56,7 @@ std::vector<std::string> RemoteClient::ask(const std::string& command)
     std::vector<std::string> lines;
     for (;;)
     {
-        const std::string reply = readLine();
+        const std::string reply = m_ReadLine();
         if (reply == "ok")
         {
             return lines;
@@ -69,7 +69,7 @@ std::vector<std::string> RemoteClient::ask(const std::string& command)
     }
 }
 
-std::string RemoteClient::readLine()
+std::string RemoteClient::m_ReadLine()
 {
     size_t end;
     while ((end = m_received.find('\n')) == std::string::npos)

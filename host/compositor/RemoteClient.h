@@ -31,10 +31,10 @@ public:
     RemoteClient& operator=(const RemoteClient&) = delete;
 
     /** Sends one command line and waits for its reply's lines. Throws RemoteRefusal and RemoteUnreachable. */
-    std::vector<std::string> ask(const std::string& command);
+    std::vector<std::string> Ask(const std::string& command);
 
 private:
-    std::string readLine();
+    std::string m_ReadLine();
 
     int m_fd;
     std::string m_received;

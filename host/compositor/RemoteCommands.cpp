@@ -10,13 +10,13 @@ namespace
 {
 
 /** All of the named keys, or the first name that is none in `unknown`. */
-std::vector<const Key*> keysIn(const std::string& words, std::string& unknown)
+std::vector<const Key*> KeysIn(const std::string& words, std::string& unknown)
 {
     std::vector<const Key*> keys;
     std::istringstream stream(words);
     for (std::string name; stream >> name;)
     {
-        const Key* key = keyByShortName(name);
+        const Key* key = KeyByShortName(name);
         if (key == nullptr)
         {
             unknown = name;
@@ -28,12 +28,12 @@ std::vector<const Key*> keysIn(const std::string& words, std::string& unknown)
 }
 
 /** A command that does something with each of the keys that it names, or with none when one name is unknown. */
-RemoteCommand forEachKey(std::function<void(const Key&)> action)
+RemoteCommand ForEachKey(std::function<void(const Key&)> action)
 {
     return [action = std::move(action)](const std::string& words, const RemoteAnswer& answer)
     {
         std::string unknown;
-        const std::vector<const Key*> keys = keysIn(words, unknown);
+        const std::vector<const Key*> keys = KeysIn(words, unknown);
         if (keys.empty())
         {
             answer({{}, unknown.empty() ? "which key?" : "unknown key \"" + unknown + "\""});
@@ -47,7 +47,7 @@ RemoteCommand forEachKey(std::function<void(const Key&)> action)
     };
 }
 
-std::string programName(pid_t pid)
+std::string ProgramName(pid_t pid)
 {
     std::ifstream file("/proc/" + std::to_string(pid) + "/comm");
     std::string name;
@@ -55,46 +55,46 @@ std::string programName(pid_t pid)
     return name.empty() ? "?" : name;
 }
 
-std::string lineOf(const Grab& grab)
+std::string LineOf(const Grab& grab)
 {
     pid_t pid = 0;
     wl_client_get_credentials(grab.client, &pid, nullptr, nullptr);
-    return std::string(grab.key->name) + " " + nameOf(grab.mode) + " " + std::to_string(pid) + "/" + programName(pid);
+    return std::string(grab.key->name) + " " + NameOf(grab.mode) + " " + std::to_string(pid) + "/" + ProgramName(pid);
 }
 
 } // namespace
 
-void setRemoteCommands(RemoteSocket& socket, Seat& seat, const GrabTable& grabs, Screenshots& screenshots)
+void SetRemoteCommands(RemoteSocket& socket, Seat& seat, const GrabTable& grabs, Screenshots& screenshots)
 {
-    socket.setCommand("press", forEachKey(
+    socket.SetCommand("press", ForEachKey(
                                    [&seat](const Key& key)
                                    {
-                                       seat.inject(key, WL_KEYBOARD_KEY_STATE_PRESSED);
-                                       seat.inject(key, WL_KEYBOARD_KEY_STATE_RELEASED);
+                                       seat.Inject(key, WL_KEYBOARD_KEY_STATE_PRESSED);
+                                       seat.Inject(key, WL_KEYBOARD_KEY_STATE_RELEASED);
                                    }));
-    socket.setCommand("down", forEachKey([&seat](const Key& key) { seat.inject(key, WL_KEYBOARD_KEY_STATE_PRESSED); }));
-    socket.setCommand("up", forEachKey([&seat](const Key& key) { seat.inject(key, WL_KEYBOARD_KEY_STATE_RELEASED); }));
-    socket.setCommand("keys",
+    socket.SetCommand("down", ForEachKey([&seat](const Key& key) { seat.Inject(key, WL_KEYBOARD_KEY_STATE_PRESSED); }));
+    socket.SetCommand("up", ForEachKey([&seat](const Key& key) { seat.Inject(key, WL_KEYBOARD_KEY_STATE_RELEASED); }));
+    socket.SetCommand("keys",
                       [](const std::string&, const RemoteAnswer& answer)
                       {
                           RemoteReply reply;
-                          for (const Key& key : allKeys())
+                          for (const Key& key : AllKeys())
                           {
                               reply.lines.emplace_back(key.name);
                           }
                           answer(reply);
                       });
-    socket.setCommand("grabs",
+    socket.SetCommand("grabs",
                       [&grabs](const std::string&, const RemoteAnswer& answer)
                       {
                           RemoteReply reply;
-                          for (const Grab& grab : grabs.all())
+                          for (const Grab& grab : grabs.All())
                           {
-                              reply.lines.push_back(lineOf(grab));
+                              reply.lines.push_back(LineOf(grab));
                           }
                           answer(reply);
                       });
-    socket.setCommand("shot",
+    socket.SetCommand("shot",
                       [&screenshots](const std::string& path, const RemoteAnswer& answer)
                       {
                           if (path.empty() || path.front() != '/')
@@ -102,7 +102,7 @@ void setRemoteCommands(RemoteSocket& socket, Seat& seat, const GrabTable& grabs,
                               answer({{}, "an absolute path is needed"});
                               return;
                           }
-                          screenshots.take(path, [answer](const std::string& error) { answer({{}, error}); });
+                          screenshots.Take(path, [answer](const std::string& error) { answer({{}, error}); });
                       });
 }
 

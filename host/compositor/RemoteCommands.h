@@ -16,6 +16,6 @@ namespace veskar
 {
 
 /** Everything given must outlive the socket. */
-void setRemoteCommands(RemoteSocket& socket, Seat& seat, const GrabTable& grabs, Screenshots& screenshots);
+void SetRemoteCommands(RemoteSocket& socket, Seat& seat, const GrabTable& grabs, Screenshots& screenshots);
 
 } // namespace veskar

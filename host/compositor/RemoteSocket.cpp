@@ -16,25 +16,25 @@ namespace
 
 constexpr size_t LONGEST_LINE = 16384;
 
-[[noreturn]] void fail(const std::string& what)
+[[noreturn]] void Fail(const std::string& what)
 {
     throw std::system_error(errno, std::generic_category(), what);
 }
 
-int listenAt(const std::string& path)
+int ListenAt(const std::string& path)
 {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     if (path.size() >= sizeof address.sun_path)
     {
         errno = ENAMETOOLONG;
-        fail(path);
+        Fail(path);
     }
     std::memcpy(address.sun_path, path.c_str(), path.size());
     const int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     if (fd < 0)
     {
-        fail("socket");
+        Fail("socket");
     }
     unlink(path.c_str());
     if (bind(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) < 0 || listen(fd, SOMAXCONN) < 0)
@@ -42,12 +42,12 @@ int listenAt(const std::string& path)
         const int reason = errno;
         close(fd);
         errno = reason;
-        fail(path);
+        Fail(path);
     }
     return fd;
 }
 
-std::string textOf(const RemoteReply& reply)
+std::string TextOf(const RemoteReply& reply)
 {
     std::string text;
     for (const std::string& line : reply.lines)
@@ -65,15 +65,15 @@ class RemoteSocket::Connection : public std::enable_shared_from_this<Connection>
 public:
     Connection(RemoteSocket& socket, int fd) : m_socket(socket), m_fd(fd) {}
 
-    ~Connection() { disconnect(); }
+    ~Connection() { Disconnect(); }
 
-    bool watch(wl_event_loop* loop)
+    bool Watch(wl_event_loop* loop)
     {
-        m_source = wl_event_loop_add_fd(loop, m_fd, WL_EVENT_READABLE, onReadable, this);
+        m_source = wl_event_loop_add_fd(loop, m_fd, WL_EVENT_READABLE, s_OnReadable, this);
         return m_source != nullptr;
     }
 
-    void disconnect()
+    void Disconnect()
     {
         if (m_source != nullptr)
         {
@@ -87,25 +87,25 @@ public:
         }
     }
 
-    void answer(const RemoteReply& reply)
+    void Answer(const RemoteReply& reply)
     {
         m_busy = false;
-        const std::string text = textOf(reply);
+        const std::string text = TextOf(reply);
         // No reply is as long as a socket's buffer: one that does not fit has no reader.
         if (m_fd < 0 ||
             send(m_fd, text.data(), text.size(), MSG_DONTWAIT | MSG_NOSIGNAL) != static_cast<ssize_t>(text.size()))
         {
-            hangUp();
+            m_HangUp();
             return;
         }
         if (!m_running)
         {
-            runLines();
+            m_RunLines();
         }
     }
 
 private:
-    static int onReadable(int, uint32_t, void* data)
+    static int s_OnReadable(int, uint32_t, void* data)
     {
         const auto self = static_cast<Connection*>(data)->shared_from_this();
         char block[4096];
@@ -114,16 +114,16 @@ private:
         {
             if (count == 0 || (errno != EAGAIN && errno != EINTR))
             {
-                self->hangUp();
+                self->m_HangUp();
             }
             return 0;
         }
         self->m_received.append(block, static_cast<size_t>(count));
-        self->runLines();
+        self->m_RunLines();
         return 0;
     }
 
-    void runLines()
+    void m_RunLines()
     {
         m_running = true;
         while (!m_busy && m_fd >= 0)
@@ -136,19 +136,19 @@ private:
             const std::string line = m_received.substr(0, end);
             m_received.erase(0, end + 1);
             m_busy = true;
-            m_socket.run(shared_from_this(), line);
+            m_socket.m_Run(shared_from_this(), line);
         }
         m_running = false;
         if (m_received.size() > LONGEST_LINE)
         {
-            hangUp();
+            m_HangUp();
         }
     }
 
-    void hangUp()
+    void m_HangUp()
     {
-        disconnect();
-        m_socket.drop(this);
+        Disconnect();
+        m_socket.m_Drop(this);
     }
 
     RemoteSocket& m_socket;
@@ -160,8 +160,8 @@ private:
 };
 
 RemoteSocket::RemoteSocket(wl_event_loop* loop, const std::string& path)
-    : m_loop(loop), m_path(path), m_fd(listenAt(path)),
-      m_source(wl_event_loop_add_fd(loop, m_fd, WL_EVENT_READABLE, onConnect, this))
+    : m_loop(loop), m_path(path), m_fd(ListenAt(path)),
+      m_source(wl_event_loop_add_fd(loop, m_fd, WL_EVENT_READABLE, s_OnConnect, this))
 {
 }
 
@@ -169,14 +169,14 @@ RemoteSocket::~RemoteSocket()
 {
     for (const auto& connection : m_connections)
     {
-        connection->disconnect();
+        connection->Disconnect();
     }
     wl_event_source_remove(m_source);
     close(m_fd);
     unlink(m_path.c_str());
 }
 
-int RemoteSocket::onConnect(int fd, uint32_t, void* data)
+int RemoteSocket::s_OnConnect(int fd, uint32_t, void* data)
 {
     auto& self = *static_cast<RemoteSocket*>(data);
     const int accepted = accept4(fd, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
@@ -185,14 +185,14 @@ int RemoteSocket::onConnect(int fd, uint32_t, void* data)
         return 0;
     }
     auto connection = std::make_shared<Connection>(self, accepted);
-    if (connection->watch(self.m_loop))
+    if (connection->Watch(self.m_loop))
     {
         self.m_connections.push_back(std::move(connection));
     }
     return 0;
 }
 
-void RemoteSocket::run(const std::shared_ptr<Connection>& connection, const std::string& line)
+void RemoteSocket::m_Run(const std::shared_ptr<Connection>& connection, const std::string& line)
 {
     const size_t space = line.find(' ');
     const std::string name = line.substr(0, space);
@@ -201,7 +201,7 @@ void RemoteSocket::run(const std::shared_ptr<Connection>& connection, const std:
     {
         if (const auto alive = weak.lock())
         {
-            alive->answer(reply);
+            alive->Answer(reply);
         }
     };
     const auto command = m_commands.find(name);
@@ -213,7 +213,7 @@ void RemoteSocket::run(const std::shared_ptr<Connection>& connection, const std:
     command->second(words, answer);
 }
 
-void RemoteSocket::drop(const Connection* connection)
+void RemoteSocket::m_Drop(const Connection* connection)
 {
     m_connections.erase(std::remove_if(m_connections.begin(), m_connections.end(),
                                        [connection](const auto& each) { return each.get() == connection; }),

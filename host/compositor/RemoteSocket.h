@@ -38,14 +38,14 @@ public:
     RemoteSocket(const RemoteSocket&) = delete;
     RemoteSocket& operator=(const RemoteSocket&) = delete;
 
-    void setCommand(const std::string& name, RemoteCommand command) { m_commands[name] = std::move(command); }
+    void SetCommand(const std::string& name, RemoteCommand command) { m_commands[name] = std::move(command); }
 
 private:
     class Connection;
 
-    static int onConnect(int fd, uint32_t mask, void* self);
-    void run(const std::shared_ptr<Connection>& connection, const std::string& line);
-    void drop(const Connection* connection);
+    static int s_OnConnect(int fd, uint32_t mask, void* self);
+    void m_Run(const std::shared_ptr<Connection>& connection, const std::string& line);
+    void m_Drop(const Connection* connection);
 
     wl_event_loop* m_loop;
     std::string m_path;

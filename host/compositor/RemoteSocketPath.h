@@ -8,7 +8,7 @@ namespace veskar
 {
 
 /** $VESKAR_REMOTE_SOCKET, else "veskar-remote" in the runtime directory; empty when neither is known. */
-inline std::string remoteSocketPath()
+inline std::string RemoteSocketPath()
 {
     if (const char* path = std::getenv("VESKAR_REMOTE_SOCKET"))
     {

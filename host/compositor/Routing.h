@@ -34,13 +34,13 @@ private:
         Routing* self;
     };
 
-    static void onKey(weston_keyboard_grab* grab, const timespec* time, uint32_t code, uint32_t state);
+    static void s_OnKey(weston_keyboard_grab* grab, const timespec* time, uint32_t code, uint32_t state);
 
-    void keyDown(const timespec* time, const Key& key);
-    void keyUp(const timespec* time, const Key& key);
-    weston_surface* targetOf(const Key& key) const;
-    void lendFocus(weston_surface* target);
-    void giveFocusBack();
+    void m_KeyDown(const timespec* time, const Key& key);
+    void m_KeyUp(const timespec* time, const Key& key);
+    weston_surface* m_TargetOf(const Key& key) const;
+    void m_LendFocus(weston_surface* target);
+    void m_GiveFocusBack();
 
     Seat& m_seat;
     const GrabTable& m_grabs;

@@ -9,7 +9,7 @@ namespace veskar
 namespace
 {
 
-std::string writeFrame(weston_output* output, const std::string& path)
+std::string WriteFrame(weston_output* output, const std::string& path)
 {
     Picture picture;
     picture.width = static_cast<uint32_t>(output->current_mode->width);
@@ -20,7 +20,7 @@ std::string writeFrame(weston_output* output, const std::string& path)
     {
         return "the output cannot be read";
     }
-    return writePng(picture, path);
+    return WritePng(picture, path);
 }
 
 } // namespace
@@ -33,9 +33,9 @@ Screenshots::~Screenshots()
     }
 }
 
-void Screenshots::take(const std::string& path, Done done)
+void Screenshots::Take(const std::string& path, Done done)
 {
-    weston_output* output = firstOutput(m_compositor);
+    weston_output* output = FirstOutput(m_compositor);
     if (output == nullptr)
     {
         done("there is no output");
@@ -44,14 +44,14 @@ void Screenshots::take(const std::string& path, Done done)
     m_pending.push_back({output, path, std::move(done), nullptr, nullptr});
     const auto pending = std::prev(m_pending.end());
     pending->frame = std::make_unique<Listener>(output->frame_signal, [this, pending](void*)
-                                                { finish(pending, writeFrame(pending->output, pending->path)); });
+                                                { m_Finish(pending, WriteFrame(pending->output, pending->path)); });
     pending->outputGone = std::make_unique<Listener>(output->destroy_signal, [this, pending](void*)
-                                                     { finish(pending, "the output went away"); });
+                                                     { m_Finish(pending, "the output went away"); });
     weston_output_disable_planes_incr(output);
     weston_output_damage(output);
 }
 
-void Screenshots::finish(std::list<Pending>::iterator pending, const std::string& error)
+void Screenshots::m_Finish(std::list<Pending>::iterator pending, const std::string& error)
 {
     weston_output_disable_planes_decr(pending->output);
     const Done done = std::move(pending->done);

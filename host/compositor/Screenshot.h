@@ -24,7 +24,7 @@ public:
     Screenshots& operator=(const Screenshots&) = delete;
 
     /** Draws a frame and writes it; the file appears under its name when it is complete. */
-    void take(const std::string& path, Done done);
+    void Take(const std::string& path, Done done);
 
 private:
     struct Pending
@@ -36,7 +36,7 @@ private:
         std::unique_ptr<Listener> outputGone;
     };
 
-    void finish(std::list<Pending>::iterator pending, const std::string& error);
+    void m_Finish(std::list<Pending>::iterator pending, const std::string& error);
 
     weston_compositor* m_compositor;
     std::list<Pending> m_pending;

@@ -8,7 +8,7 @@ namespace veskar
 namespace
 {
 
-weston_seat* firstSeat(weston_compositor* compositor)
+weston_seat* FirstSeat(weston_compositor* compositor)
 {
     weston_seat* seat;
     wl_list_for_each(seat, &compositor->seat_list, link)
@@ -18,9 +18,9 @@ weston_seat* firstSeat(weston_compositor* compositor)
     return nullptr;
 }
 
-xkb_keymap* compileKeymap(xkb_context* context)
+xkb_keymap* CompileKeymap(xkb_context* context)
 {
-    xkb_keymap* keymap = xkb_keymap_new_from_string(context, keymapText().c_str(), XKB_KEYMAP_FORMAT_TEXT_V1,
+    xkb_keymap* keymap = xkb_keymap_new_from_string(context, KeymapText().c_str(), XKB_KEYMAP_FORMAT_TEXT_V1,
                                                     XKB_KEYMAP_COMPILE_NO_FLAGS);
     if (keymap == nullptr)
     {
@@ -32,7 +32,7 @@ xkb_keymap* compileKeymap(xkb_context* context)
 } // namespace
 
 Seat::Seat(weston_compositor* compositor)
-    : m_keymap(compileKeymap(compositor->xkb_context)), m_seat(firstSeat(compositor))
+    : m_keymap(CompileKeymap(compositor->xkb_context)), m_seat(FirstSeat(compositor))
 {
     if (m_seat == nullptr)
     {
@@ -40,7 +40,7 @@ Seat::Seat(weston_compositor* compositor)
         m_seat = m_own.get();
         weston_seat_init(m_seat, compositor, "default"); // the name by which the toolkit looks for its first seat
     }
-    if (keyboard() == nullptr && weston_seat_init_keyboard(m_seat, m_keymap.get()) < 0)
+    if (Keyboard() == nullptr && weston_seat_init_keyboard(m_seat, m_keymap.get()) < 0)
     {
         throw std::runtime_error("the seat takes no keyboard");
     }
@@ -50,7 +50,7 @@ Seat::Seat(weston_compositor* compositor)
                                             m_seat = nullptr;
                                             m_gone.reset();
                                         });
-    keepKeymap();
+    KeepKeymap();
 }
 
 Seat::~Seat()
@@ -62,14 +62,14 @@ Seat::~Seat()
     }
 }
 
-weston_keyboard* Seat::keyboard() const
+weston_keyboard* Seat::Keyboard() const
 {
     return m_seat == nullptr ? nullptr : m_seat->keyboard_state;
 }
 
-void Seat::keepKeymap()
+void Seat::KeepKeymap()
 {
-    weston_keyboard* board = keyboard();
+    weston_keyboard* board = Keyboard();
     if (board == nullptr || board->xkb_info->keymap == m_keymap.get())
     {
         return;
@@ -81,13 +81,13 @@ void Seat::keepKeymap()
     board->keys.size = pressed;
 }
 
-void Seat::inject(const Key& key, wl_keyboard_key_state state)
+void Seat::Inject(const Key& key, wl_keyboard_key_state state)
 {
-    if (keyboard() == nullptr)
+    if (Keyboard() == nullptr)
     {
         return;
     }
-    keepKeymap();
+    KeepKeymap();
     timespec now{};
     weston_compositor_get_time(&now);
     notify_key(m_seat, &now, key.code, state, STATE_UPDATE_NONE);

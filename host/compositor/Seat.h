@@ -20,15 +20,15 @@ public:
     Seat& operator=(const Seat&) = delete;
 
     /** Null once the backend has taken its seat away. */
-    weston_keyboard* keyboard() const;
+    weston_keyboard* Keyboard() const;
 
     /** The backend shows a window on a desktop, and a person can type there. */
-    bool hasRealKeyboard() const { return !m_own; }
+    bool HasRealKeyboard() const { return !m_own; }
 
     /** The backend replaces the keymap whenever the desktop's changes; ours comes back here. */
-    void keepKeymap();
+    void KeepKeymap();
 
-    void inject(const Key& key, wl_keyboard_key_state state);
+    void Inject(const Key& key, wl_keyboard_key_state state);
 
 private:
     struct KeymapDelete

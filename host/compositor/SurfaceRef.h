@@ -15,17 +15,17 @@ public:
     SurfaceRef(const SurfaceRef&) = delete;
     SurfaceRef& operator=(const SurfaceRef&) = delete;
 
-    void set(weston_surface* surface)
+    void Set(weston_surface* surface)
     {
         m_surface = surface;
         m_gone.reset();
         if (surface != nullptr)
         {
-            m_gone = std::make_unique<Listener>(surface->destroy_signal, [this](void*) { set(nullptr); });
+            m_gone = std::make_unique<Listener>(surface->destroy_signal, [this](void*) { Set(nullptr); });
         }
     }
 
-    weston_surface* get() const { return m_surface; }
+    weston_surface* Get() const { return m_surface; }
 
 private:
     weston_surface* m_surface = nullptr;

@@ -7,7 +7,7 @@ namespace
 {
 
 template <typename Send>
-void toEachKeyboardOf(weston_surface* surface, weston_keyboard* keyboard, Send send)
+void ToEachKeyboardOf(weston_surface* surface, weston_keyboard* keyboard, Send send)
 {
     wl_client* client = wl_resource_get_client(surface->resource);
     const uint32_t serial = wl_display_next_serial(keyboard->seat->compositor->wl_display);
@@ -23,20 +23,20 @@ void toEachKeyboardOf(weston_surface* surface, weston_keyboard* keyboard, Send s
 
 } // namespace
 
-void tellOfFocus(weston_keyboard* keyboard, weston_surface* surface)
+void TellOfFocus(weston_keyboard* keyboard, weston_surface* surface)
 {
     wl_array noKeys{};
     wl_array_init(&noKeys);
-    toEachKeyboardOf(surface, keyboard,
+    ToEachKeyboardOf(surface, keyboard,
                      [&](wl_resource* resource, uint32_t serial)
                      { wl_keyboard_send_enter(resource, serial, surface->resource, &noKeys); });
 }
 
-void sendUnfocused(weston_keyboard* keyboard, const timespec* time, const Key& key, wl_keyboard_key_state state,
+void SendUnfocused(weston_keyboard* keyboard, const timespec* time, const Key& key, wl_keyboard_key_state state,
                    weston_surface* surface)
 {
     const auto milliseconds = static_cast<uint32_t>(time->tv_sec * 1000 + time->tv_nsec / 1000000);
-    toEachKeyboardOf(surface, keyboard,
+    ToEachKeyboardOf(surface, keyboard,
                      [&](wl_resource* resource, uint32_t serial)
                      { wl_keyboard_send_key(resource, serial, milliseconds, key.code, state); });
 }

@@ -8,9 +8,9 @@ namespace veskar
 {
 
 /** The toolkit drops a key that comes to a window which was never told that it has the focus. */
-void tellOfFocus(weston_keyboard* keyboard, weston_surface* surface);
+void TellOfFocus(weston_keyboard* keyboard, weston_surface* surface);
 
-void sendUnfocused(weston_keyboard* keyboard, const timespec* time, const Key& key, wl_keyboard_key_state state,
+void SendUnfocused(weston_keyboard* keyboard, const timespec* time, const Key& key, wl_keyboard_key_state state,
                    weston_surface* surface);
 
 } // namespace veskar

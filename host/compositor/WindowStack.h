@@ -9,7 +9,7 @@ namespace veskar
 {
 
 /** A window over the screens rather than one of them (see Overlays.h); false for null. */
-bool isOverlay(weston_surface* surface);
+bool IsOverlay(weston_surface* surface);
 
 /** The screens: overlays are no part of it. */
 class WindowStack
@@ -22,9 +22,9 @@ public:
     explicit WindowStack(weston_compositor* compositor);
 
     /** The topmost mapped window that `accepts`; null when there is none. */
-    weston_surface* topmost(const std::function<bool(weston_surface*)>& accepts) const;
+    weston_surface* Topmost(const std::function<bool(weston_surface*)>& accepts) const;
 
-    weston_surface* topmost() const;
+    weston_surface* Topmost() const;
 
 private:
     weston_compositor* m_compositor;

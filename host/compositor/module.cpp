@@ -29,22 +29,22 @@ public:
     Tv(weston_compositor* compositor, bool withKeyRouter)
         : m_compositor(compositor), m_seat(compositor), m_windows(compositor), m_routing(m_seat, m_grabs, m_windows),
           m_overlays(compositor, m_seat, m_windows), m_screenshots(compositor),
-          m_backdrop(compositor, [this] { openSocket(); }),
+          m_backdrop(compositor, [this] { m_OpenSocket(); }),
           m_end(compositor->destroy_signal, [this](void*) { delete this; })
     {
         if (withKeyRouter)
         {
             m_keyRouter.emplace(compositor->wl_display, m_grabs);
         }
-        if (m_seat.hasRealKeyboard())
+        if (m_seat.HasRealKeyboard())
         {
-            std::cerr << deskKeyboardHelp() << std::flush;
+            std::cerr << DeskKeyboardHelp() << std::flush;
         }
     }
 
 private:
     /** When the socket is there, the TV is ready: only then can a screenshot show all of it. */
-    void openSocket()
+    void m_OpenSocket()
     {
         if (m_socket)
         {
@@ -52,8 +52,8 @@ private:
         }
         try
         {
-            m_socket.emplace(wl_display_get_event_loop(m_compositor->wl_display), remoteSocketPath());
-            setRemoteCommands(*m_socket, m_seat, m_grabs, m_screenshots);
+            m_socket.emplace(wl_display_get_event_loop(m_compositor->wl_display), RemoteSocketPath());
+            SetRemoteCommands(*m_socket, m_seat, m_grabs, m_screenshots);
         }
         catch (const std::exception& error)
         {
@@ -76,7 +76,7 @@ private:
 };
 
 /** Removes the option from the compositor's command line, which must be empty when all modules are loaded. */
-bool takeOption(const char* option, int* argc, char* argv[])
+bool TakeOption(const char* option, int* argc, char* argv[])
 {
     for (int i = 1; i < *argc; ++i)
     {
@@ -90,7 +90,7 @@ bool takeOption(const char* option, int* argc, char* argv[])
     return false;
 }
 
-bool isSet(const char* variable)
+bool IsSet(const char* variable)
 {
     const char* value = std::getenv(variable);
     return value != nullptr && std::strcmp(value, "1") == 0;
@@ -104,7 +104,7 @@ extern "C" __attribute__((visibility("default"))) int wet_module_init(weston_com
                                                                       char* argv[])
 {
     using namespace veskar;
-    const bool withKeyRouter = !takeOption("--no-keyrouter", argc, argv) && !isSet("VESKAR_NO_KEYROUTER");
+    const bool withKeyRouter = !TakeOption("--no-keyrouter", argc, argv) && !IsSet("VESKAR_NO_KEYROUTER");
     try
     {
         new Tv(compositor, withKeyRouter); // it ends itself with the compositor

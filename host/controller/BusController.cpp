@@ -16,7 +16,7 @@ using namespace veskar;
 template <typename... Args>
 bool Call(const std::string& method, const char* signature, Args... args)
 {
-    auto call = NewCall(Controller::busName, Controller::path, Controller::interface, method);
+    auto call = NewCall(Controller::BUS_NAME, PathOf(Controller::BUS_NAME), Controller::INTERFACE, method);
     const bool sent = eldbus_message_arguments_append(call.get(), signature, args...) &&
                       Application::Instance().Send(std::move(call), [](const Eldbus_Message* reply)
                                                    { LogRefusal(reply, "the middleware"); });
@@ -37,7 +37,7 @@ public:
     void Reserved3() override {}
     void Reserved4() override {}
 
-    bool OpenMenuPosition(int menuPosition) override { return Call(Controller::openMenuPosition, "i", menuPosition); }
+    bool OpenMenuPosition(int menuPosition) override { return Call(Controller::OPEN_MENU_POSITION, "i", menuPosition); }
 
     bool SendResponse(int uiId, unsigned char sourceId, int kind, unsigned char button, unsigned char item,
                       std::string data) override
@@ -49,7 +49,7 @@ public:
                         uiId, sourceId, data.size());
         }
         const bool sent =
-            fit && Call(Controller::sendResponse, "iyiyys", uiId, sourceId, kind, button, item, data.c_str());
+            fit && Call(Controller::SEND_RESPONSE, "iyiyys", uiId, sourceId, kind, button, item, data.c_str());
         // It may be a PIN, and this copy is ours.
         explicit_bzero(data.data(), data.size());
         return sent;
@@ -61,7 +61,7 @@ namespace VESKAR_API
 {
 IVesKarController* IVesKarController::Instance()
 {
-    static BusController s_controller;
-    return Application::Instance().HasBus() ? &s_controller : nullptr;
+    static BusController sController;
+    return Application::Instance().HasBus() ? &sController : nullptr;
 }
 } // namespace VESKAR_API

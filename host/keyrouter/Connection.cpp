@@ -11,49 +11,49 @@ namespace
 {
 
 /** The toolkit may have disconnected since a job was queued. */
-bool isStillConnected(const void* display)
+bool IsStillConnected(const void* display)
 {
     Ecore_Wl2_Display* connected = ecore_wl2_connected_display_get(nullptr);
     return connected != nullptr && ecore_wl2_display_get(connected) == display;
 }
 
-void dispatchWhatWasRead(void* display)
+void DispatchWhatWasRead(void* display)
 {
-    if (isStillConnected(display))
+    if (IsStillConnected(display))
     {
         wl_display_dispatch_pending(static_cast<wl_display*>(display));
     }
 }
 
-void flush(void* display)
+void Flush(void* display)
 {
-    if (isStillConnected(display))
+    if (IsStillConnected(display))
     {
         wl_display_flush(static_cast<wl_display*>(display));
     }
 }
 
-bool finish(wl_display* display, int dispatched)
+bool Finish(wl_display* display, int dispatched)
 {
-    ecore_job_add(dispatchWhatWasRead, display);
+    ecore_job_add(DispatchWhatWasRead, display);
     return dispatched >= 0;
 }
 
 } // namespace
 
-bool roundTrip(wl_display* display, wl_event_queue* queue)
+bool RoundTrip(wl_display* display, wl_event_queue* queue)
 {
-    return finish(display, wl_display_roundtrip_queue(display, queue));
+    return Finish(display, wl_display_roundtrip_queue(display, queue));
 }
 
-void flushSoon(wl_display* display)
+void FlushSoon(wl_display* display)
 {
-    ecore_job_add(flush, display);
+    ecore_job_add(Flush, display);
 }
 
-bool roundTrip(wl_display* display)
+bool RoundTrip(wl_display* display)
 {
-    return finish(display, wl_display_roundtrip(display));
+    return Finish(display, wl_display_roundtrip(display));
 }
 
 } // namespace veskar
@@ -63,6 +63,6 @@ extern "C" void ecore_wl2_sync(void)
     Ecore_Wl2_Display* connected = ecore_wl2_connected_display_get(nullptr);
     if (connected != nullptr)
     {
-        veskar::roundTrip(ecore_wl2_display_get(connected));
+        veskar::RoundTrip(ecore_wl2_display_get(connected));
     }
 }

@@ -13,12 +13,12 @@ namespace veskar
 {
 
 /** Waits until the compositor has handled all requests so far; events for `queue` are dispatched meanwhile. */
-bool roundTrip(wl_display* display, wl_event_queue* queue);
+bool RoundTrip(wl_display* display, wl_event_queue* queue);
 
 /** The same with the connection's default queue, which is the toolkit's. */
-bool roundTrip(wl_display* display);
+bool RoundTrip(wl_display* display);
 
 /** Sends what is still unsent when the main loop goes on. */
-void flushSoon(wl_display* display);
+void FlushSoon(wl_display* display);
 
 } // namespace veskar

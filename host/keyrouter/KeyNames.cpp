@@ -13,14 +13,14 @@ constexpr uint32_t XKB_OFFSET = 8;
 
 } // namespace
 
-KeyNames::KeyNames() : m_filter(ecore_event_filter_add(nullptr, rename, nullptr, this)) {}
+KeyNames::KeyNames() : m_filter(ecore_event_filter_add(nullptr, s_Rename, nullptr, this)) {}
 
 KeyNames::~KeyNames()
 {
     ecore_event_filter_del(m_filter);
 }
 
-Eina_Bool KeyNames::rename(void* data, void*, int type, void* event)
+Eina_Bool KeyNames::s_Rename(void* data, void*, int type, void* event)
 {
     if (type != ECORE_EVENT_KEY_DOWN && type != ECORE_EVENT_KEY_UP)
     {

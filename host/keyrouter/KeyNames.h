@@ -24,10 +24,10 @@ public:
     KeyNames& operator=(const KeyNames&) = delete;
 
     /** `code` as the Wayland keyboard sends it. */
-    void add(uint32_t code, const char* name) { m_names.emplace(code, name); }
+    void Add(uint32_t code, const char* name) { m_names.emplace(code, name); }
 
 private:
-    static Eina_Bool rename(void* self, void* loopData, int type, void* event);
+    static Eina_Bool s_Rename(void* self, void* loopData, int type, void* event);
 
     std::map<uint32_t, std::string> m_names; // events keep pointers to its strings, which never move
     Ecore_Event_Filter* m_filter;

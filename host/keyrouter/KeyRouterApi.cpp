@@ -12,7 +12,7 @@ namespace
  * The application's one binding; null without a router, and then every grab fails. Never destroyed: an application need
  * not finalize, and by the time of the exit handlers its connection to the compositor is gone.
  */
-std::unique_ptr<veskar::RouterBinding>& binding()
+std::unique_ptr<veskar::RouterBinding>& Binding()
 {
     static auto* one = new std::unique_ptr<veskar::RouterBinding>;
     return *one;
@@ -25,14 +25,14 @@ extern "C"
 
     int KeyRouter_Initialize(wl_display* display, wl_registry* registry, wl_seat*, unsigned int id)
     {
-        binding().reset();
+        Binding().reset();
         if (display == nullptr || registry == nullptr)
         {
             return 0;
         }
         try
         {
-            binding() = std::make_unique<veskar::RouterBinding>(display, registry, id);
+            Binding() = std::make_unique<veskar::RouterBinding>(display, registry, id);
         }
         catch (const std::runtime_error&)
         {
@@ -43,7 +43,7 @@ extern "C"
 
     void KeyRouter_Finalize(void)
     {
-        binding().reset();
+        Binding().reset();
     }
 
     void KeyRouter_Reset_KeyList(_KeyList* list)
@@ -78,11 +78,11 @@ extern "C"
 
     int KeyRouter_Set_KeyList(wl_surface* surface, const _KeyList* list)
     {
-        return binding() && surface != nullptr && binding()->grab(surface, *list) ? 1 : 0;
+        return Binding() && surface != nullptr && Binding()->Grab(surface, *list) ? 1 : 0;
     }
 
     int KeyRouter_UnSet_KeyList(wl_surface* surface, const _KeyList* list)
     {
-        return binding() && surface != nullptr && binding()->ungrab(surface, *list) ? 1 : 0;
+        return Binding() && surface != nullptr && Binding()->Ungrab(surface, *list) ? 1 : 0;
     }
 }

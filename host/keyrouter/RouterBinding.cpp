@@ -14,7 +14,7 @@ namespace
 {
 
 /** Exclusive and topmost are two strengths of one grab; a registration stands beside it. */
-std::optional<int> otherStrengthOf(int mode)
+std::optional<int> OtherStrengthOf(int mode)
 {
     switch (mode)
     {
@@ -27,7 +27,7 @@ std::optional<int> otherStrengthOf(int mode)
     }
 }
 
-tizen_keyrouter* bindOn(wl_event_queue* queue, wl_registry* registry, uint32_t globalName)
+tizen_keyrouter* BindOn(wl_event_queue* queue, wl_registry* registry, uint32_t globalName)
 {
     // What is created through the wrapper starts on its queue: no event can slip into the toolkit's.
     auto* wrapper = static_cast<wl_registry*>(wl_proxy_create_wrapper(registry));
@@ -46,11 +46,11 @@ void RouterBinding::QueueDelete::operator()(wl_event_queue* queue) const
 
 RouterBinding::RouterBinding(wl_display* display, wl_registry* registry, uint32_t globalName)
     : m_display(display), m_queue(wl_display_create_queue(display)),
-      m_router(bindOn(m_queue.get(), registry, globalName))
+      m_router(BindOn(m_queue.get(), registry, globalName))
 {
-    static const tizen_keyrouter_listener listener = {onKey, onGrabbed};
+    static const tizen_keyrouter_listener listener = {s_OnKey, s_OnGrabbed};
     tizen_keyrouter_add_listener(m_router, &listener, this);
-    if (!roundTrip(m_display, m_queue.get()))
+    if (!RoundTrip(m_display, m_queue.get()))
     {
         tizen_keyrouter_destroy(m_router);
         throw std::runtime_error("the compositor does not answer");
@@ -63,40 +63,40 @@ RouterBinding::~RouterBinding()
     wl_display_flush(m_display);
 }
 
-bool RouterBinding::grab(wl_surface* surface, const _KeyList& list)
+bool RouterBinding::Grab(wl_surface* surface, const _KeyList& list)
 {
     m_refused = false;
     for (int i = 0; i < list.count; ++i)
     {
         const Holding wanted{surface, list.keys[i].name, list.keys[i].mode};
-        if (!holds(wanted))
+        if (!m_Holds(wanted))
         {
             tizen_keyrouter_grab(m_router, surface, list.keys[i].name, static_cast<uint32_t>(list.keys[i].mode));
             m_asked.push_back(wanted);
         }
     }
-    const bool answered = m_asked.empty() || roundTrip(m_display, m_queue.get());
+    const bool answered = m_asked.empty() || RoundTrip(m_display, m_queue.get());
     m_asked.clear();
     return answered && !m_refused;
 }
 
-bool RouterBinding::ungrab(wl_surface* surface, const _KeyList& list)
+bool RouterBinding::Ungrab(wl_surface* surface, const _KeyList& list)
 {
     const size_t heldBefore = m_held.size();
     bool allReleased = true;
     for (int i = 0; i < list.count; ++i)
     {
-        allReleased = release({surface, list.keys[i].name, list.keys[i].mode}) && allReleased;
+        allReleased = m_Release({surface, list.keys[i].name, list.keys[i].mode}) && allReleased;
     }
     if (m_held.size() != heldBefore)
     {
         // Mostly they are taken again at once. Sent together, there is no moment in which nobody holds them.
-        flushSoon(m_display);
+        FlushSoon(m_display);
     }
     return allReleased && wl_display_get_error(m_display) == 0;
 }
 
-bool RouterBinding::release(const Holding& holding)
+bool RouterBinding::m_Release(const Holding& holding)
 {
     const auto& [surface, name, mode] = holding;
     if (m_held.erase(holding) > 0)
@@ -104,16 +104,16 @@ bool RouterBinding::release(const Holding& holding)
         tizen_keyrouter_ungrab(m_router, surface, name.c_str(), static_cast<uint32_t>(mode));
         return true;
     }
-    const std::optional<int> other = otherStrengthOf(mode);
-    return !other || !holds({surface, name, *other});
+    const std::optional<int> other = OtherStrengthOf(mode);
+    return !other || !m_Holds({surface, name, *other});
 }
 
-void RouterBinding::onKey(void* data, tizen_keyrouter*, const char* name, uint32_t code)
+void RouterBinding::s_OnKey(void* data, tizen_keyrouter*, const char* name, uint32_t code)
 {
-    static_cast<RouterBinding*>(data)->m_names.add(code, name);
+    static_cast<RouterBinding*>(data)->m_names.Add(code, name);
 }
 
-void RouterBinding::onGrabbed(void* data, tizen_keyrouter*, const char*, uint32_t, uint32_t result)
+void RouterBinding::s_OnGrabbed(void* data, tizen_keyrouter*, const char*, uint32_t, uint32_t result)
 {
     auto* self = static_cast<RouterBinding*>(data);
     const Holding asked = self->m_asked.front();
@@ -124,7 +124,7 @@ void RouterBinding::onGrabbed(void* data, tizen_keyrouter*, const char*, uint32_
         return;
     }
     const auto& [surface, name, mode] = asked;
-    if (const std::optional<int> replaced = otherStrengthOf(mode))
+    if (const std::optional<int> replaced = OtherStrengthOf(mode))
     {
         self->m_held.erase({surface, name, *replaced});
     }

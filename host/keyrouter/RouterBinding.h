@@ -36,19 +36,19 @@ public:
     RouterBinding& operator=(const RouterBinding&) = delete;
 
     /** False when one of the keys is refused. */
-    bool grab(wl_surface* surface, const _KeyList& list);
+    bool Grab(wl_surface* surface, const _KeyList& list);
 
     /** False when one of the keys is held, but in another mode. */
-    bool ungrab(wl_surface* surface, const _KeyList& list);
+    bool Ungrab(wl_surface* surface, const _KeyList& list);
 
 private:
     using Holding = std::tuple<wl_surface*, std::string, int>; // the surface, the key, the mode
 
-    static void onKey(void* self, tizen_keyrouter* router, const char* name, uint32_t code);
-    static void onGrabbed(void* self, tizen_keyrouter* router, const char* name, uint32_t mode, uint32_t result);
+    static void s_OnKey(void* self, tizen_keyrouter* router, const char* name, uint32_t code);
+    static void s_OnGrabbed(void* self, tizen_keyrouter* router, const char* name, uint32_t mode, uint32_t result);
 
-    bool holds(const Holding& holding) const { return m_held.count(holding) > 0; }
-    bool release(const Holding& holding);
+    bool m_Holds(const Holding& holding) const { return m_held.count(holding) > 0; }
+    bool m_Release(const Holding& holding);
 
     struct QueueDelete
     {

@@ -29,7 +29,7 @@ struct Level
     int journalPriority;
 };
 
-constexpr Level Levels[] = {
+constexpr Level LEVELS[] = {
     {DLOG_DEBUG, "debug", 'D', LOG_DEBUG},
     {DLOG_INFO, "info", 'I', LOG_INFO},
     {DLOG_WARN, "warn", 'W', LOG_WARNING},
@@ -39,8 +39,8 @@ constexpr Level Levels[] = {
 /** Priorities outside the four count as the nearest of them. */
 const Level& LevelOf(int priority)
 {
-    const Level* found = &Levels[0];
-    for (const auto& level : Levels)
+    const Level* found = &LEVELS[0];
+    for (const auto& level : LEVELS)
     {
         if (level.priority <= priority)
         {
@@ -63,7 +63,7 @@ int LowestPriority()
     {
         return DLOG_INFO;
     }
-    for (const auto& level : Levels)
+    for (const auto& level : LEVELS)
     {
         if (std::string_view(wanted) == level.name)
         {

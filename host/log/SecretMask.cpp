@@ -15,7 +15,7 @@ struct DigitText
     std::string_view after;
 };
 
-constexpr DigitText DigitTexts[] = {
+constexpr DigitText DIGIT_TEXTS[] = {
     {"Number [", "] pressed!"},
     {"PIN entered is ", ""},
     {"Key input ", " not handled."},
@@ -23,14 +23,14 @@ constexpr DigitText DigitTexts[] = {
     {"Key input KP_", " not handled."},
 };
 
-constexpr std::string_view Digits = "0123456789";
+constexpr std::string_view DIGITS = "0123456789";
 
 void MaskText(std::string& line, const DigitText& text)
 {
     for (auto at = line.find(text.before); at != std::string::npos; at = line.find(text.before, at))
     {
         at += text.before.size();
-        const auto end = std::min(line.find_first_not_of(Digits, at), line.size());
+        const auto end = std::min(line.find_first_not_of(DIGITS, at), line.size());
         if (line.compare(end, text.after.size(), text.after) == 0)
         {
             line.replace(at, end - at, end - at, '*');
@@ -42,7 +42,7 @@ void MaskText(std::string& line, const DigitText& text)
 
 void MaskTypedDigits(std::string& line)
 {
-    for (const auto& text : DigitTexts)
+    for (const auto& text : DIGIT_TEXTS)
     {
         MaskText(line, text);
     }

@@ -72,7 +72,7 @@ void NumberPad::m_TypeCurrent()
 {
     try
     {
-        RemoteClient(remoteSocketPath()).ask(std::string("press ") + m_keys.Places()[m_keys.Current()].key);
+        RemoteClient(RemoteSocketPath()).Ask(std::string("press ") + m_keys.Places()[m_keys.Current()].key);
     }
     catch (const std::exception& error)
     {

@@ -1,7 +1,7 @@
 #include "PadWindow.h"
 
-#include "AppId.h"
 #include "Log.h"
+#include "TvBus.h"
 
 #include <Ecore_Evas.h>
 #include <cstring>
@@ -15,9 +15,10 @@ namespace
 
 Evas_Object* CreateWindow()
 {
-    Evas_Object* window = elm_win_add(nullptr, APP_ID, ELM_WIN_BASIC);
+    constexpr const char* ID = Applications::NUMBER_PAD;
+    Evas_Object* window = elm_win_add(nullptr, ID, ELM_WIN_BASIC);
     // By its class the compositor knows it for a window that lies over the screens and takes no focus.
-    ecore_evas_name_class_set(ecore_evas_ecore_evas_get(evas_object_evas_get(window)), APP_ID, APP_ID);
+    ecore_evas_name_class_set(ecore_evas_ecore_evas_get(evas_object_evas_get(window)), ID, ID);
     elm_win_alpha_set(window, EINA_TRUE);
     return window;
 }

@@ -20,9 +20,9 @@ namespace
 
 void Write(bool shown)
 {
-    if (const auto error = WriteSetting(NumberPadShownKey, shown ? "1" : "0"))
+    if (const auto error = WriteSetting(NUMBER_PAD_SHOWN_KEY, shown ? "1" : "0"))
     {
-        NUMPAD_ERROR("%s cannot be set: %s", NumberPadShownKey, error.message().c_str());
+        NUMPAD_ERROR("%s cannot be set: %s", NUMBER_PAD_SHOWN_KEY, error.message().c_str());
     }
 }
 
@@ -76,7 +76,7 @@ ShownSetting::ShownSetting() : m_guard(StartGuard())
 {
     if (m_guard < 0)
     {
-        NUMPAD_WARN("no process to guard %s: %s", NumberPadShownKey, std::strerror(errno));
+        NUMPAD_WARN("no process to guard %s: %s", NUMBER_PAD_SHOWN_KEY, std::strerror(errno));
     }
 }
 
@@ -109,7 +109,7 @@ void ShownSetting::m_TellGuard() const
 {
     if (send(m_guard, &m_shown, sizeof m_shown, MSG_NOSIGNAL) < 0)
     {
-        NUMPAD_WARN("%s is not guarded: %s", NumberPadShownKey, std::strerror(errno));
+        NUMPAD_WARN("%s is not guarded: %s", NUMBER_PAD_SHOWN_KEY, std::strerror(errno));
     }
 }
 

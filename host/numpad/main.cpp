@@ -2,10 +2,10 @@
  * The TV's number pad: an application that a screen asks to show itself ("cmd" = "show", "type" = "number", or
  * "number_zip" for one that can take a digit back) and to go again ("cmd" = "hide").
  */
-#include "AppId.h"
 #include "Log.h"
 #include "PadApplication.h"
 #include "SettingKeys.h"
+#include "TvBus.h"
 
 #include <app.h>
 #include <cstdlib>
@@ -31,7 +31,7 @@ std::string TextOf(app_control_h request, const char* key)
 
 bool OnCreate(void* data)
 {
-    elm_config_mirrored_set(ua_UI_orientation_get() == veskar::RightToLeft ? EINA_TRUE : EINA_FALSE);
+    elm_config_mirrored_set(ua_UI_orientation_get() == veskar::RIGHT_TO_LEFT ? EINA_TRUE : EINA_FALSE);
     ea_init(); // the theme for the viewer's display modes
     static_cast<veskar::PadApplication*>(data)->Create();
     return true;
@@ -73,7 +73,7 @@ void OnTerminate(void* data)
 
 int main(int argc, char** argv)
 {
-    setenv("VESKAR_APP_ID", veskar::APP_ID, 1); // where the framework looks for its application's id
+    setenv("VESKAR_APP_ID", veskar::Applications::NUMBER_PAD, 1); // where the framework looks for its application's id
     veskar::PadApplication application;
     ui_app_lifecycle_callback_s callbacks{};
     callbacks.create = OnCreate;

@@ -21,25 +21,25 @@ using RequestData = std::map<std::string, sdbus::Variant>;
  */
 namespace Desk
 {
-inline const std::string interface = "org.tizen.VesKarDesk1";
+inline constexpr const char* INTERFACE = "org.tizen.VesKarDesk1";
 
 /** Ask(i uiId, y sourceId, a{sv} request) → (i uiId, y sourceId, i kind, y button, y item, s data): the answer. */
-inline const std::string ask = "Ask";
+inline constexpr const char* ASK = "Ask";
 /** Tell(a{sv} request) → (): the application took the request; nothing more is waited for. */
-inline const std::string tell = "Tell";
+inline constexpr const char* TELL = "Tell";
 /**
  * OpenMenu(a{sv} request) → (a(ss) tasks, ai positions): as Tell; the tasks, each with its action, and the menu
  * positions that the application asked for because of it.
  */
-inline const std::string openMenu = "OpenMenu";
+inline constexpr const char* OPEN_MENU = "OpenMenu";
 using Tasks = std::vector<sdbus::Struct<std::string, std::string>>;
 using Positions = std::vector<std::int32_t>;
 
 /** The application refused the request; the message is its own. */
-inline const std::string refused = "org.tizen.VesKarDesk1.Error.Refused";
+inline constexpr const char* REFUSED = "org.tizen.VesKarDesk1.Error.Refused";
 /** There is no such application, or it could not be started. */
-inline const std::string noApplication = "org.tizen.VesKarDesk1.Error.NoApplication";
+inline constexpr const char* NO_APPLICATION = "org.tizen.VesKarDesk1.Error.NoApplication";
 /** The application went away without an answer. */
-inline const std::string gone = "org.tizen.VesKarDesk1.Error.Gone";
+inline constexpr const char* GONE = "org.tizen.VesKarDesk1.Error.Gone";
 } // namespace Desk
 } // namespace veskar

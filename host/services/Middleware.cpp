@@ -23,14 +23,14 @@ sdbus::Error DeskError(const sdbus::Error& error)
 {
     if (IsNoApplication(error.getName()))
     {
-        return sdbus::Error{Desk::noApplication, error.getMessage()};
+        return sdbus::Error{Desk::NO_APPLICATION, error.getMessage()};
     }
     if (error.getName() == "org.freedesktop.DBus.Error.NoReply" ||
         error.getName() == "org.freedesktop.DBus.Error.Timeout")
     {
-        return sdbus::Error{Desk::gone, "the application did not take the request: " + error.getMessage()};
+        return sdbus::Error{Desk::GONE, "the application did not take the request: " + error.getMessage()};
     }
-    return sdbus::Error{Desk::refused, error.getMessage() + " (" + error.getName() + ")"};
+    return sdbus::Error{Desk::REFUSED, error.getMessage() + " (" + error.getName() + ")"};
 }
 
 std::string NameOf(const ScreenIds& screen)
@@ -82,9 +82,8 @@ void Reply(const sdbus::Result<>& result, const sdbus::Error* refusal)
 } // namespace
 
 Middleware::Middleware(sdbus::IConnection& connection)
-    : m_object(sdbus::createObject(connection, Controller::path)),
-      m_application(
-          sdbus::createProxy(connection, Applications::dialogues, Applications::PathOf(Applications::dialogues))),
+    : m_object(sdbus::createObject(connection, PathOf(Controller::BUS_NAME))),
+      m_application(sdbus::createProxy(connection, Applications::DIALOGUES, PathOf(Applications::DIALOGUES))),
       m_bus(sdbus::createProxy(connection, "org.freedesktop.DBus", "/org/freedesktop/DBus"))
 {
     m_RegisterController();
@@ -101,37 +100,37 @@ void Middleware::TaskRequested(const std::string& task, const std::string& actio
 
 void Middleware::m_RegisterController()
 {
-    m_object->registerMethod(Controller::sendResponse)
-        .onInterface(Controller::interface)
+    m_object->registerMethod(Controller::SEND_RESPONSE)
+        .onInterface(Controller::INTERFACE)
         .withInputParamNames("uiId", "sourceId", "kind", "button", "item", "data")
         .implementedAs(
             [this](std::int32_t uiId, std::uint8_t sourceId, std::int32_t kind, std::uint8_t button, std::uint8_t item,
                    const std::string& data) {
                 m_SendResponse({{uiId, sourceId}, kind, button, item, data});
             });
-    m_object->registerMethod(Controller::openMenuPosition)
-        .onInterface(Controller::interface)
+    m_object->registerMethod(Controller::OPEN_MENU_POSITION)
+        .onInterface(Controller::INTERFACE)
         .withInputParamNames("position")
         .implementedAs([this](std::int32_t position) { m_OpenMenuPosition(position); });
 }
 
 void Middleware::m_RegisterDesk()
 {
-    m_object->registerMethod(Desk::ask)
-        .onInterface(Desk::interface)
+    m_object->registerMethod(Desk::ASK)
+        .onInterface(Desk::INTERFACE)
         .withInputParamNames("uiId", "sourceId", "request")
         .withOutputParamNames("uiId", "sourceId", "kind", "button", "item", "data")
         .implementedAs(
             [this](Waiter::Result&& result, std::int32_t uiId, std::uint8_t sourceId, const RequestData& request) {
                 m_Ask(std::move(result), {uiId, sourceId}, request);
             });
-    m_object->registerMethod(Desk::tell)
-        .onInterface(Desk::interface)
+    m_object->registerMethod(Desk::TELL)
+        .onInterface(Desk::INTERFACE)
         .withInputParamNames("request")
         .implementedAs([this](sdbus::Result<>&& result, const RequestData& request)
                        { m_Tell(std::move(result), request); });
-    m_object->registerMethod(Desk::openMenu)
-        .onInterface(Desk::interface)
+    m_object->registerMethod(Desk::OPEN_MENU)
+        .onInterface(Desk::INTERFACE)
         .withInputParamNames("request")
         .withOutputParamNames("tasks", "positions")
         .implementedAs([this](MenuResult&& result, const RequestData& request)
@@ -149,7 +148,7 @@ void Middleware::m_WatchNames()
     {
         m_bus->callMethod("GetNameOwner")
             .onInterface("org.freedesktop.DBus")
-            .withArguments(Applications::dialogues)
+            .withArguments(Applications::DIALOGUES)
             .storeResultsTo(m_owner);
     }
     catch (const sdbus::Error&)
@@ -207,7 +206,7 @@ void Middleware::m_SendResponse(const Answer& answer)
 {
     const std::size_t waiters = m_screens.Answered(answer, m_Caller());
     std::ostringstream line;
-    line << Controller::sendResponse << " " << NameOf(answer.screen) << ", kind " << answer.kind << ", button "
+    line << Controller::SEND_RESPONSE << " " << NameOf(answer.screen) << ", kind " << answer.kind << ", button "
          << int{answer.button} << ", item " << int{answer.item} << ", data " << Secret(answer.data) << "; "
          << (waiters == 0 ? "nobody" : std::to_string(waiters)) << " waited for it";
     Print(line.str());
@@ -215,13 +214,13 @@ void Middleware::m_SendResponse(const Answer& answer)
 
 void Middleware::m_OpenMenuPosition(std::int32_t position)
 {
-    Print(Controller::openMenuPosition + " " + std::to_string(position));
+    Print(std::string(Controller::OPEN_MENU_POSITION) + " " + std::to_string(position));
     m_positions = {position};
 }
 
 void Middleware::m_OwnerChanged(const std::string& name, const std::string& oldOwner, const std::string& newOwner)
 {
-    if (name == Applications::dialogues)
+    if (name == Applications::DIALOGUES)
     {
         Print(name + (newOwner.empty() ? " left the bus" : " is on the bus"));
         m_owner = newOwner;
@@ -274,8 +273,8 @@ void Middleware::m_ForwardNextMenu()
 
 void Middleware::m_Send(const RequestData& request, Delivered delivered)
 {
-    m_application->callMethodAsync(Applications::appControl)
-        .onInterface(Applications::interface)
+    m_application->callMethodAsync(Applications::APP_CONTROL)
+        .onInterface(Applications::INTERFACE)
         .withArguments(request)
         .uponReplyInvoke(
             [delivered = std::move(delivered)](const sdbus::Error* error)

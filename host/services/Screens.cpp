@@ -10,7 +10,7 @@ namespace
 {
 sdbus::Error Gone()
 {
-    return sdbus::Error{Desk::gone, "the application went away without an answer"};
+    return sdbus::Error{Desk::GONE, "the application went away without an answer"};
 }
 } // namespace
 

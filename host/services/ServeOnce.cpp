@@ -9,13 +9,13 @@ namespace veskar
 {
 namespace
 {
-constexpr int s_noTimeout = -1;
+constexpr int NO_TIMEOUT = -1;
 
 int MillisecondsUntil(Clock::time_point deadline)
 {
-    if (deadline == never)
+    if (deadline == NEVER)
     {
-        return s_noTimeout;
+        return NO_TIMEOUT;
     }
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
     return static_cast<int>(std::clamp<decltype(left)>(left, 0, std::numeric_limits<int>::max()));
@@ -23,7 +23,7 @@ int MillisecondsUntil(Clock::time_point deadline)
 
 int Shorter(int left, int right)
 {
-    if (left == s_noTimeout || right == s_noTimeout)
+    if (left == NO_TIMEOUT || right == NO_TIMEOUT)
     {
         return std::max(left, right);
     }
@@ -37,7 +37,7 @@ bool ServeOnce(sdbus::IConnection& connection, Clock::time_point deadline)
     {
         return true;
     }
-    if (deadline != never && Clock::now() >= deadline)
+    if (deadline != NEVER && Clock::now() >= deadline)
     {
         return false;
     }

@@ -8,7 +8,7 @@
 namespace veskar
 {
 using Clock = std::chrono::steady_clock;
-inline constexpr Clock::time_point never = Clock::time_point::max();
+inline constexpr Clock::time_point NEVER = Clock::time_point::max();
 
 /**
  * Handles one message of the connection, or waits until there may be one. False once the deadline has passed without

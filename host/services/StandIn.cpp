@@ -38,8 +38,7 @@ std::string TextOf(const RequestData& request)
 } // namespace
 
 StandIn::StandIn(sdbus::IConnection& connection, const std::string& appId, std::function<void()> terminated)
-    : m_appId(appId), m_terminated(std::move(terminated)),
-      m_object(sdbus::createObject(connection, Applications::PathOf(appId)))
+    : m_appId(appId), m_terminated(std::move(terminated)), m_object(sdbus::createObject(connection, PathOf(appId)))
 {
     m_RegisterMethods();
     connection.requestName(m_appId);
@@ -48,22 +47,22 @@ StandIn::StandIn(sdbus::IConnection& connection, const std::string& appId, std::
 
 void StandIn::m_RegisterMethods()
 {
-    m_object->registerMethod(Applications::appControl)
-        .onInterface(Applications::interface)
+    m_object->registerMethod(Applications::APP_CONTROL)
+        .onInterface(Applications::INTERFACE)
         .withInputParamNames("request")
-        .implementedAs([this](const RequestData& request) { m_Say(Applications::appControl + TextOf(request)); });
-    for (const char* method : {"Pause", "Resume"})
+        .implementedAs([this](const RequestData& request) { m_Say(Applications::APP_CONTROL + TextOf(request)); });
+    for (const char* method : {Applications::PAUSE, Applications::RESUME})
     {
         m_object->registerMethod(method)
-            .onInterface(Applications::interface)
+            .onInterface(Applications::INTERFACE)
             .implementedAs([this, method] { m_Say(method); });
     }
-    m_object->registerMethod("Terminate")
-        .onInterface(Applications::interface)
+    m_object->registerMethod(Applications::TERMINATE)
+        .onInterface(Applications::INTERFACE)
         .implementedAs(
             [this]
             {
-                m_Say("Terminate");
+                m_Say(Applications::TERMINATE);
                 m_terminated();
             });
     m_object->finishRegistration();

@@ -13,8 +13,8 @@ using namespace veskar;
 namespace
 {
 /** Exit statuses, as <sysexits.h> numbers them. */
-constexpr int s_badUsage = 64;
-constexpr int s_unavailable = 69;
+constexpr int BAD_USAGE = 64;
+constexpr int UNAVAILABLE = 69;
 
 /**
  * False when another process has the name. The bus starts one process for each name that is called while nobody has
@@ -41,15 +41,15 @@ void ServeTv(sdbus::IConnection& connection)
     ContextManager contextManager(connection, [&middleware](const std::string& task, const std::string& action)
                                   { middleware.TaskRequested(task, action); });
     // The objects are there by now: the message that started this process is delivered with the name.
-    if (!OwnName(connection, Controller::busName))
+    if (!OwnName(connection, Controller::BUS_NAME))
     {
         return;
     }
     // Somebody may stand in for the context manager alone.
-    OwnName(connection, Manager::busName);
+    OwnName(connection, Manager::BUS_NAME);
     while (true)
     {
-        ServeOnce(connection, never);
+        ServeOnce(connection, NEVER);
     }
 }
 
@@ -69,7 +69,7 @@ void ServeStandIns(sdbus::IConnection& connection, const std::vector<std::string
     }
     while (running > 0)
     {
-        ServeOnce(connection, never);
+        ServeOnce(connection, NEVER);
     }
 }
 } // namespace
@@ -88,7 +88,7 @@ int main(int argc, char** argv)
     }
     catch (const CLI::ParseError& error)
     {
-        return app.exit(error) == 0 ? 0 : s_badUsage;
+        return app.exit(error) == 0 ? 0 : BAD_USAGE;
     }
 
     try
@@ -108,6 +108,6 @@ int main(int argc, char** argv)
     {
         const bool busEnded = error.getName() == "org.freedesktop.DBus.Error.Disconnected";
         Print(busEnded ? "the bus ended" : error.what());
-        return busEnded ? 0 : s_unavailable;
+        return busEnded ? 0 : UNAVAILABLE;
     }
 }

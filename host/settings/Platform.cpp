@@ -11,8 +11,8 @@
 namespace
 {
 
-constexpr int Failed = -1;
-constexpr int InvalidParameter = -22;
+constexpr int FAILED = -1;
+constexpr int INVALID_PARAMETER = -22;
 
 bool IsFeature(const char* key)
 {
@@ -26,7 +26,7 @@ int vconf_get_int(const char* key, int* value)
     const auto number = key != nullptr && !IsFeature(key) ? veskar::ReadWholeNumber(key) : std::nullopt;
     if (!number || value == nullptr)
     {
-        return Failed;
+        return FAILED;
     }
     *value = *number;
     return 0;
@@ -48,7 +48,7 @@ int system_info_get_custom_bool(const char* key, bool* value)
     const auto number = key != nullptr && IsFeature(key) ? veskar::ReadWholeNumber(key) : std::nullopt;
     if (!number || value == nullptr)
     {
-        return InvalidParameter;
+        return INVALID_PARAMETER;
     }
     *value = *number != 0;
     return 0;
@@ -56,5 +56,5 @@ int system_info_get_custom_bool(const char* key, bool* value)
 
 int ua_UI_orientation_get(void)
 {
-    return veskar::ReadWholeNumber(veskar::OrientationKey).value_or(0);
+    return veskar::ReadWholeNumber(veskar::ORIENTATION_KEY).value_or(0);
 }

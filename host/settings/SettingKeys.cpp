@@ -10,21 +10,21 @@ namespace veskar
 namespace
 {
 
-constexpr SettingKey Keys[] = {
-    {LanguageKey, SettingType::Text, "language of the toolkit's own texts, as a locale (ko_KR.utf8)"},
-    {OrientationKey, SettingType::Integer, "direction of the user interface: 1 right-to-left, 0 left-to-right"},
-    {EnlargedTextKey, SettingType::Integer, "enlarged text: 1 on, 0 off"},
-    {HighContrastKey, SettingType::Integer, "high contrast: 1 on, 0 off"},
-    {VoiceGuideKey, SettingType::Integer, "voice guide: 1 on, 0 off"},
-    {NumberPadShownKey, SettingType::Integer, "1 while the number pad is on the screen"},
+constexpr SettingKey KEYS[] = {
+    {LANGUAGE_KEY, SettingType::Text, "language of the toolkit's own texts, as a locale (ko_KR.utf8)"},
+    {ORIENTATION_KEY, SettingType::Integer, "direction of the user interface: 1 right-to-left, 0 left-to-right"},
+    {ENLARGED_TEXT_KEY, SettingType::Integer, "enlarged text: 1 on, 0 off"},
+    {HIGH_CONTRAST_KEY, SettingType::Integer, "high contrast: 1 on, 0 off"},
+    {VOICE_GUIDE_KEY, SettingType::Integer, "voice guide: 1 on, 0 off"},
+    {NUMBER_PAD_SHOWN_KEY, SettingType::Integer, "1 while the number pad is on the screen"},
     {"memory/ephotel/hotelmenu/hotelfactorymode", SettingType::Switch, "the hotel factory menu started the dialogue"},
     {"com.brelmon/featureconf/bt_profile_bt_smart_control", SettingType::Switch,
      "the set has a smart remote without digit keys, so a PIN may ask for the number pad"},
     {"com.brelmon/featureconf/product.b2b_option_support", SettingType::Switch, "the set is a hotel model"},
 };
 
-constexpr std::string_view Yes[] = {"1", "true", "on", "yes"};
-constexpr std::string_view No[] = {"0", "false", "off", "no"};
+constexpr std::string_view YES[] = {"1", "true", "on", "yes"};
+constexpr std::string_view NO[] = {"0", "false", "off", "no"};
 
 template <size_t Count>
 bool Contains(const std::string_view (&words)[Count], std::string_view word)
@@ -34,8 +34,8 @@ bool Contains(const std::string_view (&words)[Count], std::string_view word)
 
 bool NormaliseSwitch(std::string& value)
 {
-    const bool yes = Contains(Yes, value);
-    if (!yes && !Contains(No, value))
+    const bool yes = Contains(YES, value);
+    if (!yes && !Contains(NO, value))
     {
         return false;
     }
@@ -47,7 +47,7 @@ bool NormaliseSwitch(std::string& value)
 
 SettingKeyRange KnownSettings()
 {
-    return {std::begin(Keys), std::end(Keys)};
+    return {std::begin(KEYS), std::end(KEYS)};
 }
 
 const SettingKey* FindSetting(std::string_view key)

@@ -31,15 +31,15 @@ struct SettingKeyRange
     const SettingKey* end() const { return last; }
 };
 
-constexpr const char* LanguageKey = "db/menu_widget/language";
-constexpr const char* OrientationKey = "db/menu_widget/orientation";
-constexpr const char* EnlargedTextKey = "db/menu/system/accessibility/focuszoom";
-constexpr const char* HighContrastKey = "db/menu/system/accessibility/highcontrast";
-constexpr const char* VoiceGuideKey = "db/menu/system/accessibility/voiceguide";
-constexpr const char* NumberPadShownKey = "memory/function-osd/number_pad_show";
+constexpr const char* LANGUAGE_KEY = "db/menu_widget/language";
+constexpr const char* ORIENTATION_KEY = "db/menu_widget/orientation";
+constexpr const char* ENLARGED_TEXT_KEY = "db/menu/system/accessibility/focuszoom";
+constexpr const char* HIGH_CONTRAST_KEY = "db/menu/system/accessibility/highcontrast";
+constexpr const char* VOICE_GUIDE_KEY = "db/menu/system/accessibility/voiceguide";
+constexpr const char* NUMBER_PAD_SHOWN_KEY = "memory/function-osd/number_pad_show";
 
 /** The orientation's value; every other is left-to-right. */
-constexpr int RightToLeft = 1;
+constexpr int RIGHT_TO_LEFT = 1;
 
 SettingKeyRange KnownSettings();
 

@@ -23,7 +23,7 @@ constexpr int NO_COMPOSITOR = 69;
 
 using Keys = std::vector<std::string>;
 
-void pressAll(veskar::RemoteClient& remote, const Keys& keys, std::chrono::milliseconds gap)
+void PressAll(veskar::RemoteClient& remote, const Keys& keys, std::chrono::milliseconds gap)
 {
     for (size_t i = 0; i < keys.size(); ++i)
     {
@@ -31,12 +31,12 @@ void pressAll(veskar::RemoteClient& remote, const Keys& keys, std::chrono::milli
         {
             std::this_thread::sleep_for(gap);
         }
-        remote.ask("press " + keys[i]);
+        remote.Ask("press " + keys[i]);
     }
 }
 
 /** The compositor's folder is another one, so it is told the whole path. */
-std::string wholePath(const std::string& file)
+std::string WholePath(const std::string& file)
 {
     std::error_code error;
     const std::filesystem::path path = std::filesystem::absolute(file, error);
@@ -47,7 +47,7 @@ std::string wholePath(const std::string& file)
     return path.string();
 }
 
-void print(const std::vector<std::string>& lines)
+void Print(const std::vector<std::string>& lines)
 {
     for (const std::string& line : lines)
     {
@@ -55,7 +55,7 @@ void print(const std::vector<std::string>& lines)
     }
 }
 
-int run(int argc, char* argv[])
+int Run(int argc, char* argv[])
 {
     CLI::App app{"The remote control of a desk TV"};
     app.require_subcommand(1);
@@ -78,7 +78,7 @@ int run(int argc, char* argv[])
         {
             action = [&](auto& remote)
             {
-                pressAll(remote, keys, std::chrono::milliseconds(gap));
+                PressAll(remote, keys, std::chrono::milliseconds(gap));
             };
         });
 
@@ -91,7 +91,7 @@ int run(int argc, char* argv[])
             {
                 action = [&, name](auto& remote)
                 {
-                    remote.ask(name + (" " + key));
+                    remote.Ask(name + (" " + key));
                 };
             });
     }
@@ -103,7 +103,7 @@ int run(int argc, char* argv[])
         {
             action = [&](auto& remote)
             {
-                remote.ask("shot " + wholePath(file));
+                remote.Ask("shot " + WholePath(file));
             };
         });
 
@@ -116,7 +116,7 @@ int run(int argc, char* argv[])
                 {
                     action = [name](auto& remote)
                     {
-                        print(remote.ask(name));
+                        Print(remote.Ask(name));
                     };
                 });
     }
@@ -129,7 +129,7 @@ int run(int argc, char* argv[])
     {
         return app.exit(error) == 0 ? 0 : BAD_USAGE;
     }
-    veskar::RemoteClient remote(veskar::remoteSocketPath());
+    veskar::RemoteClient remote(veskar::RemoteSocketPath());
     action(remote);
     return 0;
 }
@@ -140,7 +140,7 @@ int main(int argc, char* argv[])
 {
     try
     {
-        return run(argc, argv);
+        return Run(argc, argv);
     }
     catch (const veskar::RemoteRefusal& refusal)
     {

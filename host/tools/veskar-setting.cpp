@@ -12,7 +12,7 @@
 namespace
 {
 
-constexpr int NotSet = 1;
+constexpr int NOT_SET = 1;
 
 struct Arguments
 {
@@ -58,7 +58,7 @@ int Get(const Arguments& arguments)
     if (!value)
     {
         fprintf(stderr, "veskar-setting: \"%s\" is not set\n", arguments.key.c_str());
-        return NotSet;
+        return NOT_SET;
     }
     printf("%s\n", value->c_str());
     return EX_OK;

@@ -61,12 +61,12 @@ TEST_F(Appfw, the_request_that_starts_the_process_comes_between_create_and_resum
 TEST_F(Appfw, each_hide_and_show_is_told_before_the_next_request)
 {
     SendRaw(Request("start"));
-    const std::string id = Applications::dialogues;
-    auto application = sdbus::createProxy(*m_bus, id, Applications::PathOf(id));
+    const std::string id = Applications::DIALOGUES;
+    auto application = sdbus::createProxy(*m_bus, id, PathOf(id));
     for (const char* action : {"replace", "replace", "hide", "hide", "show"})
     {
-        application->callMethod(Applications::appControl)
-            .onInterface(Applications::interface)
+        application->callMethod(Applications::APP_CONTROL)
+            .onInterface(Applications::INTERFACE)
             .withArguments(Request(action, action))
             .dontExpectReply();
     }
@@ -95,8 +95,8 @@ TEST_F(Appfw, a_signal_ends_it_through_terminate)
 
 TEST_F(Appfw, what_is_no_string_or_too_large_is_refused_by_its_key_and_never_seen)
 {
-    constexpr std::size_t longest = 256UL * 1024;
-    const std::string longText(longest, 'x');
+    constexpr std::size_t LONGEST = 256UL * 1024;
+    const std::string longText(LONGEST, 'x');
     EXPECT_EQ(SendRaw({{"name", std::string("whole")}, {"a", longText}, {"b", Events(20000, "x")}}), "");
     Events large(31, longText);
     large.push_back(longText.substr(sizeof(std::string))); // the key counts too
@@ -139,14 +139,13 @@ TEST_F(Appfw, requests_are_told_once_and_in_their_order_whenever_the_process_end
     std::atomic<int> taken{0};
     auto connection = sdbus::createSessionBusConnection();
     connection->enterEventLoopAsync();
-    auto application =
-        sdbus::createProxy(*connection, Applications::dialogues, Applications::PathOf(Applications::dialogues));
+    auto application = sdbus::createProxy(*connection, Applications::DIALOGUES, PathOf(Applications::DIALOGUES));
     for (int sent = 1; sent <= ROUNDS * BURST; ++sent)
     {
         // The second end falls into what the first process could not take any more.
         const auto request = Request(std::to_string(sent), sent % BURST == 1 || sent % BURST == 4 ? "end" : "");
-        application->callMethodAsync(Applications::appControl)
-            .onInterface(Applications::interface)
+        application->callMethodAsync(Applications::APP_CONTROL)
+            .onInterface(Applications::INTERFACE)
             .withArguments(request)
             .uponReplyInvoke([&taken](const sdbus::Error* error) { taken += error == nullptr ? 1 : 0; });
         std::this_thread::sleep_for(std::chrono::microseconds(moment(random)));
@@ -168,7 +167,7 @@ TEST_F(Appfw, requests_are_told_once_and_in_their_order_whenever_the_process_end
 
 TEST_F(Appfw, a_leaving_process_that_hangs_does_not_keep_the_next_one_for_ever)
 {
-    const std::string leaving = Applications::LeavingNameOf(Applications::dialogues);
+    const std::string leaving = Applications::LeavingNameOf(Applications::DIALOGUES);
     m_bus->requestName(leaving); // and answers nothing
     EXPECT_EQ(SendRaw(Request("first")), "");
     m_bus->releaseName(leaving);

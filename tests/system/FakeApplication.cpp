@@ -9,12 +9,12 @@ using namespace veskar;
 
 FakeApplication::FakeApplication()
     : m_bus(sdbus::createSessionBusConnection()),
-      m_middleware(sdbus::createProxy(*m_bus, Controller::busName, Controller::path)),
-      m_contextManager(sdbus::createProxy(*m_bus, Manager::busName, Manager::path)),
-      m_object(sdbus::createObject(*m_bus, Applications::PathOf(Applications::dialogues)))
+      m_middleware(sdbus::createProxy(*m_bus, Controller::BUS_NAME, PathOf(Controller::BUS_NAME))),
+      m_contextManager(sdbus::createProxy(*m_bus, Manager::BUS_NAME, PathOf(Manager::BUS_NAME))),
+      m_object(sdbus::createObject(*m_bus, PathOf(Applications::DIALOGUES)))
 {
-    m_object->registerMethod(Applications::appControl)
-        .onInterface(Applications::interface)
+    m_object->registerMethod(Applications::APP_CONTROL)
+        .onInterface(Applications::INTERFACE)
         .implementedAs([this](const RequestData& request) { m_Handle(request); });
     m_object->finishRegistration();
 }
@@ -54,8 +54,8 @@ void FakeApplication::m_Handle(const RequestData& request)
 
 void FakeApplication::Answer(int uiId, int sourceId, int kind, int button, int item, const std::string& data)
 {
-    m_middleware->callMethod(Controller::sendResponse)
-        .onInterface(Controller::interface)
+    m_middleware->callMethod(Controller::SEND_RESPONSE)
+        .onInterface(Controller::INTERFACE)
         .withArguments(std::int32_t{uiId}, static_cast<std::uint8_t>(sourceId), std::int32_t{kind},
                        static_cast<std::uint8_t>(button), static_cast<std::uint8_t>(item), data)
         .dontExpectReply();
@@ -63,16 +63,16 @@ void FakeApplication::Answer(int uiId, int sourceId, int kind, int button, int i
 
 void FakeApplication::AskForTask(const std::string& task, const std::string& action)
 {
-    m_contextManager->callMethod(Manager::requestTask)
-        .onInterface(Manager::interface)
+    m_contextManager->callMethod(Manager::REQUEST_TASK)
+        .onInterface(Manager::INTERFACE)
         .withArguments(task, action)
         .dontExpectReply();
 }
 
 void FakeApplication::OpenMenuPosition(int position)
 {
-    m_middleware->callMethod(Controller::openMenuPosition)
-        .onInterface(Controller::interface)
+    m_middleware->callMethod(Controller::OPEN_MENU_POSITION)
+        .onInterface(Controller::INTERFACE)
         .withArguments(std::int32_t{position})
         .dontExpectReply();
 }

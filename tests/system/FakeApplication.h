@@ -28,8 +28,8 @@ public:
     void OpenMenuPosition(int position);
 
     /** Has the name only in between. */
-    void Arrive() { m_bus->requestName(veskar::Applications::dialogues); }
-    void Leave() { m_bus->releaseName(veskar::Applications::dialogues); }
+    void Arrive() { m_bus->requestName(veskar::Applications::DIALOGUES); }
+    void Leave() { m_bus->releaseName(veskar::Applications::DIALOGUES); }
 
 private:
     void m_Handle(const veskar::RequestData& request);

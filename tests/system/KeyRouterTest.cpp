@@ -19,7 +19,7 @@ protected:
     void SetUp() override
     {
         // The compositor may still have to notice that the clients of the test before have gone.
-        ASSERT_TRUE(WaitUntil([this] { return m_remote.ask("grabs").empty(); }));
+        ASSERT_TRUE(WaitUntil([this] { return m_remote.Ask("grabs").empty(); }));
         m_lower.emplace().Show();
         m_upper.emplace().Show();
     }
@@ -33,7 +33,7 @@ protected:
     /** Presses a key and lets it go; the names of the windows that heard exactly this. */
     std::string WhoHears(const std::string& key)
     {
-        m_remote.ask("press " + key);
+        m_remote.Ask("press " + key);
         std::string who;
         const std::pair<const char*, std::optional<WaylandWindow>*> windows[] = {
             {"lower", &m_lower}, {"upper", &m_upper}, {"third", &m_third}};
@@ -48,7 +48,7 @@ protected:
         return who;
     }
 
-    veskar::RemoteClient m_remote{veskar::remoteSocketPath()};
+    veskar::RemoteClient m_remote{veskar::RemoteSocketPath()};
     std::optional<WaylandWindow> m_lower;
     std::optional<WaylandWindow> m_upper;
     std::optional<WaylandWindow> m_third;
@@ -121,9 +121,9 @@ TEST_F(KeyRouter, sends_a_topmost_key_to_its_holder_only_while_that_is_the_topmo
 
 TEST_F(KeyRouter, lets_a_key_up_where_it_went_down)
 {
-    m_remote.ask("down 5");
+    m_remote.Ask("down 5");
     m_third.emplace().Show();
-    m_remote.ask("up 5");
+    m_remote.Ask("up 5");
     EXPECT_EQ(m_upper->Heard(), (std::vector<std::string>{"5 down", "5 up"}));
     EXPECT_TRUE(m_third->Heard().empty());
 }
@@ -140,11 +140,11 @@ TEST_F(KeyRouter, forgets_the_grabs_and_the_held_key_of_a_client_that_dies)
 {
     EXPECT_TRUE(m_upper->Grab("XF86Exit", KEYROUTER_MODE_EXCLUSIVE));
     EXPECT_TRUE(m_upper->Grab("Up", KEYROUTER_MODE_REGISTERED));
-    EXPECT_EQ(m_remote.ask("grabs").size(), 2U);
-    m_remote.ask("down Exit");
+    EXPECT_EQ(m_remote.Ask("grabs").size(), 2U);
+    m_remote.Ask("down Exit");
     CloseUpper();
-    EXPECT_TRUE(m_remote.ask("grabs").empty());
-    m_remote.ask("up Exit");
+    EXPECT_TRUE(m_remote.Ask("grabs").empty());
+    m_remote.Ask("up Exit");
     EXPECT_TRUE(m_lower->Heard().empty());
     EXPECT_EQ(WhoHears("XF86Exit"), "lower");
 }
@@ -153,7 +153,7 @@ TEST_F(KeyRouter, forgets_the_grabs_of_a_client_that_has_done_with_it)
 {
     EXPECT_TRUE(m_upper->Grab("XF86Exit", KEYROUTER_MODE_EXCLUSIVE));
     m_upper->Unbind();
-    EXPECT_TRUE(WaitUntil([this] { return m_remote.ask("grabs").empty(); }));
+    EXPECT_TRUE(WaitUntil([this] { return m_remote.Ask("grabs").empty(); }));
 }
 
 TEST_F(KeyRouter, releases_what_is_not_held_but_not_what_is_held_in_the_other_strength)
@@ -162,15 +162,15 @@ TEST_F(KeyRouter, releases_what_is_not_held_but_not_what_is_held_in_the_other_st
     EXPECT_TRUE(m_upper->Grab("XF86Info", KEYROUTER_MODE_TOPMOST));
     EXPECT_FALSE(m_upper->Ungrab("XF86Info", KEYROUTER_MODE_EXCLUSIVE));
     EXPECT_TRUE(m_upper->Ungrab("XF86Info", KEYROUTER_MODE_REGISTERED));
-    EXPECT_EQ(m_remote.ask("grabs").size(), 1U);
+    EXPECT_EQ(m_remote.Ask("grabs").size(), 1U);
     EXPECT_TRUE(m_upper->Ungrab("XF86Info", KEYROUTER_MODE_TOPMOST));
-    EXPECT_TRUE(m_remote.ask("grabs").empty());
+    EXPECT_TRUE(m_remote.Ask("grabs").empty());
 }
 
 TEST_F(KeyRouter, refuses_a_key_that_does_not_exist)
 {
     EXPECT_FALSE(m_upper->Grab("XF86Nonsense", KEYROUTER_MODE_REGISTERED));
-    EXPECT_THROW(m_remote.ask("press Nonsense"), veskar::RemoteRefusal);
+    EXPECT_THROW(m_remote.Ask("press Nonsense"), veskar::RemoteRefusal);
 }
 
 TEST_F(KeyRouter, lies_in_a_compositor_that_shows_lower_windows_through_the_upper_ones)

@@ -5,7 +5,7 @@
 
 #include <unistd.h>
 
-using veskar::Applications::interface;
+using veskar::Applications::INTERFACE;
 
 namespace
 {
@@ -132,9 +132,7 @@ void TvTest::EndApplication()
 
 void TvTest::Call(const std::string& method, const std::string& application)
 {
-    sdbus::createProxy(*m_bus, application, veskar::Applications::PathOf(application))
-        ->callMethod(method)
-        .onInterface(interface);
+    sdbus::createProxy(*m_bus, application, veskar::PathOf(application))->callMethod(method).onInterface(INTERFACE);
 }
 
 Process TvTest::StandFor(const std::string& applications)
@@ -162,8 +160,8 @@ std::string TvTest::SendRaw(const std::map<std::string, sdbus::Variant>& values,
 {
     try
     {
-        auto target = sdbus::createProxy(*m_bus, application, veskar::Applications::PathOf(application));
-        target->callMethod("AppControl").onInterface(interface).withArguments(values);
+        auto target = sdbus::createProxy(*m_bus, application, veskar::PathOf(application));
+        target->callMethod("AppControl").onInterface(INTERFACE).withArguments(values);
         return "";
     }
     catch (const sdbus::Error& error)

@@ -58,7 +58,7 @@ protected:
 
     bool IsApplicationRunning() { return ApplicationPid() != 0; }
     /** 0 when it does not run. */
-    unsigned ApplicationPid(const std::string& application = veskar::Applications::dialogues);
+    unsigned ApplicationPid(const std::string& application = veskar::Applications::DIALOGUES);
     /** Ends the application as the TV would, and waits until it is gone. */
     void EndApplication();
     bool WaitForApplicationEnd()
@@ -67,7 +67,7 @@ protected:
     }
 
     /** What the TV says to an application: "Pause", "Resume" or "Terminate". */
-    void Call(const std::string& method, const std::string& application = veskar::Applications::dialogues);
+    void Call(const std::string& method, const std::string& application = veskar::Applications::DIALOGUES);
 
     /** Owns the names of these applications and prints what they are asked, as long as the process lives. */
     static Process StandFor(const std::string& applications);
@@ -78,7 +78,7 @@ protected:
 
     /** The middleware's call itself, for what the tool would not send; the error's name, or nothing. */
     std::string SendRaw(const std::map<std::string, sdbus::Variant>& values,
-                        const std::string& application = veskar::Applications::dialogues);
+                        const std::string& application = veskar::Applications::DIALOGUES);
 
     std::unique_ptr<sdbus::IConnection> m_bus;
 

@@ -83,7 +83,7 @@ void OnGlobal(void* data, wl_registry* registry, uint32_t name, const char* inte
 
 void OnKey(void* data, wl_keyboard*, uint32_t, uint32_t, uint32_t code, uint32_t state)
 {
-    const veskar::Key* key = veskar::keyByCode(code);
+    const veskar::Key* key = veskar::KeyByCode(code);
     const std::string name = key == nullptr ? "unknown" : key->name;
     Globals(data).heard.push_back(name + (state == WL_KEYBOARD_KEY_STATE_PRESSED ? " down" : " up"));
 }
@@ -188,12 +188,12 @@ void WaylandWindow::Show()
 
 bool WaylandWindow::Grab(const char* key, int mode)
 {
-    return m_router->grab(m_globals->surface.get(), ListOf(key, mode));
+    return m_router->Grab(m_globals->surface.get(), ListOf(key, mode));
 }
 
 bool WaylandWindow::Ungrab(const char* key, int mode)
 {
-    const bool released = m_router->ungrab(m_globals->surface.get(), ListOf(key, mode));
+    const bool released = m_router->Ungrab(m_globals->surface.get(), ListOf(key, mode));
     // An application's main loop would send it.
     wl_display_roundtrip(m_globals->display.get());
     return released;

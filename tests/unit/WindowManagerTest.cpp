@@ -225,10 +225,10 @@ TEST_F(WindowManagerTest, AProgressIsUpdatedInPlaceForTheSameIdsAlone)
 /** A screen that fails where it is told to. */
 struct Faulty : BaseDisplay
 {
-    Faulty(WindowManager& manager, bool creates) : BaseDisplay(manager, tv.window, {}, "", false), m_creates(creates) {}
-    bool t_Create() override { return m_creates; }
+    Faulty(WindowManager& manager, bool creates) : BaseDisplay(manager, tv.window, {}, "", false), mCreates(creates) {}
+    bool t_Create() override { return mCreates; }
     bool t_Show() override { return false; }
-    bool m_creates;
+    bool mCreates;
 };
 
 // Only a screen of its own can fail, and presenting is private, which an explicit instantiation may pass.

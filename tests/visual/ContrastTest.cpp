@@ -23,7 +23,7 @@ struct Demand
     double least;
 };
 
-const std::vector<Demand> demands = {
+const std::vector<Demand> DEMANDS = {
     {"text", {"ground", "control", "row", "row_marked", "focus_fill"}, 7.0},
     {"focus_ring", {"ground", "control", "row", "row_marked", "focus_fill"}, 3.0},
     {"mark", {"row", "row_marked", "focus_fill"}, 3.0},
@@ -32,7 +32,7 @@ const std::vector<Demand> demands = {
     {"accent", {"ground", "track"}, 3.0},
 };
 /** The system's own grey of lists and long texts at high contrast. */
-const Demand grey = {"#7F7F7F", {"ground", "row", "row_marked", "focus_fill"}, 5.2};
+const Demand GREY = {"#7F7F7F", {"ground", "row", "row_marked", "focus_fill"}, 5.2};
 
 Palette ReadPalette(const std::string& file)
 {
@@ -105,10 +105,10 @@ TEST(Contrast, IsEnoughAndAsTheDocumentSays)
         SCOPED_TRACE("veskar-theme" + theme);
         const Palette palette = ReadPalette(VESKAR_THEMES + theme + ".edj");
         ASSERT_TRUE(palette.count("ground")) << "no colours";
-        std::vector<Demand> all = demands;
+        std::vector<Demand> all = DEMANDS;
         if (theme.find("contrast") != std::string::npos)
         {
-            all.push_back(grey);
+            all.push_back(GREY);
         }
         for (const Demand& demand : all)
         {

@@ -15,9 +15,9 @@ namespace veskar
 {
 namespace
 {
-constexpr auto s_description = "Plays the middleware: asks the application for a screen and prints the answer.";
+constexpr auto DESCRIPTION = "Plays the middleware: asks the application for a screen and prints the answer.";
 
-constexpr auto s_footer =
+constexpr auto FOOTER =
     R"(A text may be anything, also empty or with a "-" in front: --title="" or --title "-x". An answer is one line of JSON on
 standard output.
 
@@ -69,12 +69,12 @@ void AddField(CLI::App& kind, const Field& field, Request& request)
     const std::string key = field.key;
     switch (field.encoding)
     {
-    case Encoding::text:
+    case Encoding::Text:
         request.Set(key, std::string{});
         kind.add_option_function<std::string>(
             field.option, [&request, key](const std::string& text) { request.Set(key, text); }, field.help);
         break;
-    case Encoding::number:
+    case Encoding::Number:
         request.SetNumber(key, field.defaultNumber);
         kind.add_option_function<int>(
                 field.option, [&request, key](int number) { request.SetNumber(key, number); }, field.help)
@@ -82,19 +82,19 @@ void AddField(CLI::App& kind, const Field& field, Request& request)
             ->check(CheckDecimal)
             ->check(CLI::Range(0, field.highestNumber));
         break;
-    case Encoding::flag:
+    case Encoding::Flag:
         request.SetFlag(key, false);
         kind.add_flag_callback(
             field.option, [&request, key] { request.SetFlag(key, true); }, field.help);
         break;
-    case Encoding::texts:
+    case Encoding::List:
         request.Set(key, Texts{});
         kind.add_option_function<Texts>(
                 field.option, [&request, key](const Texts& texts) { request.Set(key, texts); }, field.help)
             ->type_size(1)
             ->allow_extra_args(false);
         break;
-    case Encoding::textsFromFile:
+    case Encoding::ListFromFile:
         // Options are handled in the order in which they were added: the elements given one by one are there already.
         kind.add_option_function<std::string>(
                 field.option, [&request, key](const std::string& file) { request.Append(key, Lines(file)); },
@@ -115,8 +115,8 @@ struct General
 
 void AddGeneral(CLI::App& app, General& general)
 {
-    constexpr double shortest = 1e-3;
-    constexpr double longest = 1e9;
+    constexpr double SHORTEST = 1e-3;
+    constexpr double LONGEST = 1e9;
     app.add_option("--ui-id", general.uiId, "The screen's id")->capture_default_str()->check(CheckDecimal);
     app.add_option("--source-id", general.sourceId, "Who asks: 254 privileged, 255 normal, else the access module")
         ->capture_default_str()
@@ -125,13 +125,13 @@ void AddGeneral(CLI::App& app, General& general)
     app.add_option("--timeout", general.timeout, "Seconds to wait for the answer")
         ->capture_default_str()
         ->check(CheckDecimal)
-        ->check(CLI::Range(shortest, longest));
+        ->check(CLI::Range(SHORTEST, LONGEST));
     app.add_flag("--no-wait", general.noWait, "Do not wait for the answer");
 }
 
 /** One request for each kind, by its name; the sub-command's options fill it in. Their places do not move. */
 using Requests = std::map<std::string, Request>;
-constexpr auto s_raw = "raw";
+constexpr auto RAW = "raw";
 
 void AddScreens(CLI::App& app, Requests& requests)
 {
@@ -161,8 +161,8 @@ void AddOthers(CLI::App& app, Requests& requests)
         ->check(CLI::IsMember({"veskar_menu", "veskar_info", "veskar_add_op", "veskar_delete_op"}))
         ->required();
 
-    Request& raw = requests[s_raw];
-    app.add_subcommand(s_raw,
+    Request& raw = requests[RAW];
+    app.add_subcommand(RAW,
                        "Exactly these values; waits if they ask for a known kind of screen, with the ids among them")
         ->add_option_function<Texts>(
             "KEY=VALUE",
@@ -174,7 +174,7 @@ void AddOthers(CLI::App& app, Requests& requests)
                 }
                 catch (const std::invalid_argument& error)
                 {
-                    throw CLI::ValidationError(s_raw, error.what());
+                    throw CLI::ValidationError(RAW, error.what());
                 }
             },
             "A text, or with KEY[]=VALUE one more element of a list")
@@ -222,7 +222,7 @@ Texts Arguments(const CLI::App& app, int argc, char** argv)
 
 std::variant<Command, int> ParseCommandLine(int argc, char** argv)
 {
-    CLI::App app{s_description, "veskar-mw"};
+    CLI::App app{DESCRIPTION, "veskar-mw"};
     app.require_subcommand(1);
     // So that the general options may also follow the kind.
     app.fallthrough();
@@ -232,19 +232,19 @@ std::variant<Command, int> ParseCommandLine(int argc, char** argv)
     AddScreens(app, requests);
     AddOthers(app, requests);
     // After the kinds, which would take it over.
-    app.footer(s_footer);
+    app.footer(FOOTER);
     try
     {
         app.parse(Arguments(app, argc, argv));
     }
     catch (const CLI::ParseError& error)
     {
-        return app.exit(error) == 0 ? 0 : ExitStatus::badUsage;
+        return app.exit(error) == 0 ? 0 : ExitStatus::BAD_USAGE;
     }
 
     const std::string kind = app.get_subcommands().front()->get_name();
     Request request = requests.at(kind);
-    if (kind != s_raw)
+    if (kind != RAW)
     {
         request.SetIds(general.uiId, static_cast<std::uint8_t>(general.sourceId));
     }

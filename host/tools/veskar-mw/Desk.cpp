@@ -10,9 +10,9 @@ namespace
 {
 using namespace std::chrono_literals;
 
-const std::string s_timeout = "org.freedesktop.DBus.Error.Timeout";
-const std::string s_notUtf8 = "org.freedesktop.DBus.Error.InvalidArgs";
-const std::string s_tooBig = "org.freedesktop.DBus.Error.InconsistentMessage";
+constexpr const char* TIMEOUT = "org.freedesktop.DBus.Error.Timeout";
+constexpr const char* NOT_UTF8 = "org.freedesktop.DBus.Error.InvalidArgs";
+constexpr const char* TOO_BIG = "org.freedesktop.DBus.Error.InconsistentMessage";
 
 RequestData OnTheBus(const Request& request)
 {
@@ -27,15 +27,15 @@ RequestData OnTheBus(const Request& request)
 
 DeskConnection::DeskConnection(std::chrono::microseconds timeout)
     : m_deadline(Clock::now() + timeout), m_connection(sdbus::createSessionBusConnection()),
-      m_desk(sdbus::createProxy(*m_connection, Controller::busName, Controller::path))
+      m_desk(sdbus::createProxy(*m_connection, Controller::BUS_NAME, PathOf(Controller::BUS_NAME)))
 {
 }
 
 ScreenAnswer DeskConnection::Ask(const Request& request)
 {
     ScreenAnswer answer;
-    m_desk->callMethod(Desk::ask)
-        .onInterface(Desk::interface)
+    m_desk->callMethod(Desk::ASK)
+        .onInterface(Desk::INTERFACE)
         .withTimeout(m_TimeLeft())
         .withArguments(std::int32_t{request.UiId()}, request.SourceId(), OnTheBus(request))
         .storeResultsTo(answer.uiId, answer.sourceId, answer.kind, answer.button, answer.item, answer.data);
@@ -44,8 +44,8 @@ ScreenAnswer DeskConnection::Ask(const Request& request)
 
 void DeskConnection::Tell(const Request& request)
 {
-    m_desk->callMethod(Desk::tell)
-        .onInterface(Desk::interface)
+    m_desk->callMethod(Desk::TELL)
+        .onInterface(Desk::INTERFACE)
         .withTimeout(m_TimeLeft())
         .withArguments(OnTheBus(request));
 }
@@ -53,8 +53,8 @@ void DeskConnection::Tell(const Request& request)
 DeskConnection::Menu DeskConnection::OpenMenu(const Request& request)
 {
     Menu menu;
-    m_desk->callMethod(Desk::openMenu)
-        .onInterface(Desk::interface)
+    m_desk->callMethod(Desk::OPEN_MENU)
+        .onInterface(Desk::INTERFACE)
         .withTimeout(m_TimeLeft())
         .withArguments(OnTheBus(request))
         .storeResultsTo(menu.tasks, menu.positions);
@@ -69,19 +69,19 @@ std::chrono::microseconds DeskConnection::m_TimeLeft() const
 
 Failure FailureOf(const sdbus::Error& error)
 {
-    if (error.getName() == s_timeout)
+    if (error.getName() == TIMEOUT)
     {
-        return {ExitStatus::timedOut, "nothing came back within the time-out"};
+        return {ExitStatus::TIMED_OUT, "nothing came back within the time-out"};
     }
-    if (error.getName() == s_notUtf8 || error.getName() == s_tooBig)
+    if (error.getName() == NOT_UTF8 || error.getName() == TOO_BIG)
     {
-        return {ExitStatus::badUsage,
+        return {ExitStatus::BAD_USAGE,
                 "the bus carries UTF-8 texts, and less than 64 MiB in a list: " + error.getMessage()};
     }
-    if (error.getName() == Desk::refused)
+    if (error.getName() == Desk::REFUSED)
     {
-        return {ExitStatus::badUsage, "the application refused the request: " + error.getMessage()};
+        return {ExitStatus::BAD_USAGE, "the application refused the request: " + error.getMessage()};
     }
-    return {ExitStatus::unavailable, error.getMessage().empty() ? error.getName() : error.getMessage()};
+    return {ExitStatus::UNAVAILABLE, error.getMessage().empty() ? error.getName() : error.getMessage()};
 }
 } // namespace veskar

@@ -20,14 +20,14 @@ Result ResultOf(int kind)
 {
     switch (kind)
     {
-    case Controller::answered:
-        return {"answered", ExitStatus::answered};
-    case Controller::closed:
-        return {"closed", ExitStatus::closed};
-    case Controller::back:
-        return {"back", ExitStatus::back};
+    case Controller::Answered:
+        return {"answered", ExitStatus::ANSWERED};
+    case Controller::Closed:
+        return {"closed", ExitStatus::CLOSED};
+    case Controller::Back:
+        return {"back", ExitStatus::BACK};
     default:
-        return {"unknown", ExitStatus::unknownAnswer};
+        return {"unknown", ExitStatus::UNKNOWN_ANSWER};
     }
 }
 } // namespace

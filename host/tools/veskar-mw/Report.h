@@ -8,14 +8,14 @@ namespace veskar
 {
 namespace ExitStatus
 {
-inline constexpr int answered = 0;
-inline constexpr int delivered = 0;
-inline constexpr int back = 1;
-inline constexpr int closed = 2;
-inline constexpr int timedOut = 3;
-inline constexpr int badUsage = 64;
-inline constexpr int unavailable = 69;
-inline constexpr int unknownAnswer = 70;
+inline constexpr int ANSWERED = 0;
+inline constexpr int DELIVERED = 0;
+inline constexpr int BACK = 1;
+inline constexpr int CLOSED = 2;
+inline constexpr int TIMED_OUT = 3;
+inline constexpr int BAD_USAGE = 64;
+inline constexpr int UNAVAILABLE = 69;
+inline constexpr int UNKNOWN_ANSWER = 70;
 } // namespace ExitStatus
 
 struct ScreenAnswer

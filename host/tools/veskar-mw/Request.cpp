@@ -10,33 +10,33 @@ namespace veskar
 {
 namespace
 {
-constexpr auto s_signalType = "signal_type_key";
-constexpr auto s_screenSignal = "signal_tvservice";
-constexpr auto s_menuSignal = "signal_menu_pos";
-constexpr auto s_sequenceSignal = "sequence";
-constexpr auto s_screenType = "signal_tvservice_key";
-constexpr auto s_closeType = "ui_type_close";
-constexpr auto s_uiId = "ui_param_ui_id";
-constexpr auto s_sourceId = "ui_param_source_id";
-constexpr auto s_menuPosition = "menu_pos_key";
+constexpr auto SIGNAL_TYPE = "signal_type_key";
+constexpr auto SCREEN_SIGNAL = "signal_tvservice";
+constexpr auto MENU_SIGNAL = "signal_menu_pos";
+constexpr auto SEQUENCE_SIGNAL = "sequence";
+constexpr auto SCREEN_TYPE = "signal_tvservice_key";
+constexpr auto CLOSE_TYPE = "ui_type_close";
+constexpr auto UI_ID = "ui_param_ui_id";
+constexpr auto SOURCE_ID = "ui_param_source_id";
+constexpr auto MENU_POSITION = "menu_pos_key";
 } // namespace
 
 Request Request::Screen(const std::string& type)
 {
     Request request;
-    return request.Set(s_signalType, s_screenSignal).Set(s_screenType, type);
+    return request.Set(SIGNAL_TYPE, SCREEN_SIGNAL).Set(SCREEN_TYPE, type);
 }
 
 Request Request::Menu(const std::string& position)
 {
     Request request;
-    return request.Set(s_signalType, s_menuSignal).Set(s_menuPosition, position);
+    return request.Set(SIGNAL_TYPE, MENU_SIGNAL).Set(MENU_POSITION, position);
 }
 
 Request Request::Sequence()
 {
     Request request;
-    return request.Set(s_signalType, s_sequenceSignal);
+    return request.Set(SIGNAL_TYPE, SEQUENCE_SIGNAL);
 }
 
 Request Request::Raw(const Texts& words)
@@ -98,49 +98,49 @@ Request& Request::SetFlag(const std::string& key, bool value)
 
 Request& Request::SetIds(int uiId, std::uint8_t sourceId)
 {
-    if (m_Is(s_signalType, s_screenSignal))
+    if (m_Is(SIGNAL_TYPE, SCREEN_SIGNAL))
     {
-        SetNumber(s_uiId, uiId).SetNumber(s_sourceId, sourceId);
+        SetNumber(UI_ID, uiId).SetNumber(SOURCE_ID, sourceId);
     }
     return *this;
 }
 
 bool Request::AsksForScreen() const
 {
-    return m_Is(s_signalType, s_screenSignal) && m_IsKnownKind() && m_Text(s_uiId) != nullptr &&
-           m_Text(s_sourceId) != nullptr;
+    return m_Is(SIGNAL_TYPE, SCREEN_SIGNAL) && m_IsKnownKind() && m_Text(UI_ID) != nullptr &&
+           m_Text(SOURCE_ID) != nullptr;
 }
 
 bool Request::AsksForClose() const
 {
-    return m_Is(s_signalType, s_screenSignal) && m_Is(s_screenType, s_closeType);
+    return m_Is(SIGNAL_TYPE, SCREEN_SIGNAL) && m_Is(SCREEN_TYPE, CLOSE_TYPE);
 }
 
 bool Request::IsOfUnknownKind() const
 {
-    return m_Is(s_signalType, s_screenSignal) && !m_IsKnownKind() && !AsksForClose();
+    return m_Is(SIGNAL_TYPE, SCREEN_SIGNAL) && !m_IsKnownKind() && !AsksForClose();
 }
 
 bool Request::AsksForMenu() const
 {
-    return m_Is(s_signalType, s_menuSignal) && m_Text(s_menuPosition) != nullptr;
+    return m_Is(SIGNAL_TYPE, MENU_SIGNAL) && m_Text(MENU_POSITION) != nullptr;
 }
 
 int Request::UiId() const
 {
-    return m_Number(s_uiId);
+    return m_Number(UI_ID);
 }
 
 std::uint8_t Request::SourceId() const
 {
-    return static_cast<std::uint8_t>(m_Number(s_sourceId));
+    return static_cast<std::uint8_t>(m_Number(SOURCE_ID));
 }
 
 bool Request::m_IsKnownKind() const
 {
     const auto& kinds = ScreenKinds();
     return std::any_of(kinds.begin(), kinds.end(),
-                       [this](const ScreenKind& kind) { return m_Is(s_screenType, kind.uiType.c_str()); });
+                       [this](const ScreenKind& kind) { return m_Is(SCREEN_TYPE, kind.uiType.c_str()); });
 }
 
 bool Request::m_Is(const char* key, const char* value) const

@@ -6,27 +6,27 @@ namespace
 {
 using Fields = std::vector<Field>;
 
-const Field s_title{"ui_param_title", "--title", Encoding::text, "Title line"};
-const Field s_sub{"ui_param_sub", "--sub", Encoding::text, "Sub-title line"};
-const Field s_bottom{"ui_param_bottom", "--bottom", Encoding::text, "Bottom line"};
-const Field s_text{"ui_param_txt", "--text", Encoding::text, "The text itself"};
-const Field s_buttons{"ui_param_buttons", "--button", Encoding::texts, "A button's label (repeatable)"};
-const Field s_noClose{"ui_param_noclose", "--no-close", Encoding::flag, "Stays although no key is pressed"};
-const Field s_entries{"ui_param_entries", "--entry", Encoding::texts, "A row (repeatable)"};
-const Field s_entriesFrom{"ui_param_entries", "--entries-from", Encoding::textsFromFile,
-                          "More rows, one a line; - is standard input"};
-const Field s_format{"ui_param_format", "--format", Encoding::text, "L, R or C for each column"};
-const Field s_header{"ui_param_header", "--header", Encoding::flag, "The first row is a header"};
-const Field s_width{"ui_param_image_width", "--width", Encoding::number, "The image's width in design pixels"};
-const Field s_height{"ui_param_image_height", "--height", Encoding::number, "The image's height in design pixels"};
-const Field s_percent{"ui_param_percent", "--percent", Encoding::number, "How far it is, up to 100", 0, 100};
-const Field s_image{"ui_param_image_location", "--image", Encoding::text, "The image's file"};
-const Field s_images{"ui_param_multiple_image_locations", "--image", Encoding::texts,
-                     "The image of a row, in the rows' order (repeatable)"};
-const Field s_selectable{"ui_param_selectable", "--selectable", Encoding::flag, "A row can be chosen"};
-const Field s_pinLength{"ui_param_pin_length", "--length", Encoding::number, "How many digits", 4};
+const Field TITLE{"ui_param_title", "--title", Encoding::Text, "Title line"};
+const Field SUB{"ui_param_sub", "--sub", Encoding::Text, "Sub-title line"};
+const Field BOTTOM{"ui_param_bottom", "--bottom", Encoding::Text, "Bottom line"};
+const Field TEXT{"ui_param_txt", "--text", Encoding::Text, "The text itself"};
+const Field BUTTONS{"ui_param_buttons", "--button", Encoding::List, "A button's label (repeatable)"};
+const Field NO_CLOSE{"ui_param_noclose", "--no-close", Encoding::Flag, "Stays although no key is pressed"};
+const Field ENTRIES{"ui_param_entries", "--entry", Encoding::List, "A row (repeatable)"};
+const Field ENTRIES_FROM{"ui_param_entries", "--entries-from", Encoding::ListFromFile,
+                         "More rows, one a line; - is standard input"};
+const Field FORMAT{"ui_param_format", "--format", Encoding::Text, "L, R or C for each column"};
+const Field HEADER{"ui_param_header", "--header", Encoding::Flag, "The first row is a header"};
+const Field WIDTH{"ui_param_image_width", "--width", Encoding::Number, "The image's width in design pixels"};
+const Field HEIGHT{"ui_param_image_height", "--height", Encoding::Number, "The image's height in design pixels"};
+const Field PERCENT{"ui_param_percent", "--percent", Encoding::Number, "How far it is, up to 100", 0, 100};
+const Field IMAGE{"ui_param_image_location", "--image", Encoding::Text, "The image's file"};
+const Field IMAGES{"ui_param_multiple_image_locations", "--image", Encoding::List,
+                   "The image of a row, in the rows' order (repeatable)"};
+const Field SELECTABLE{"ui_param_selectable", "--selectable", Encoding::Flag, "A row can be chosen"};
+const Field PIN_LENGTH{"ui_param_pin_length", "--length", Encoding::Number, "How many digits", 4};
 
-const Fields s_listFields{s_title, s_sub, s_bottom, s_entries, s_entriesFrom, s_format, s_header, s_buttons};
+const Fields LIST_FIELDS{TITLE, SUB, BOTTOM, ENTRIES, ENTRIES_FROM, FORMAT, HEADER, BUTTONS};
 
 Fields operator+(Fields fields, const Fields& more)
 {
@@ -37,24 +37,21 @@ Fields operator+(Fields fields, const Fields& more)
 
 const std::vector<ScreenKind>& ScreenKinds()
 {
-    static const std::vector<ScreenKind> s_kinds{
-        {"message", "ui_type_message", "A text with buttons", {s_title, s_sub, s_bottom, s_text, s_buttons, s_noClose}},
-        {"list", "ui_type_list", "Rows to read", s_listFields},
-        {"select", "ui_type_select", "Rows of which one is chosen", s_listFields},
-        {"multi-list", "ui_type_multiple_list", "Rows of which several are marked", s_listFields},
-        {"image",
-         "ui_type_image",
-         "A picture",
-         {s_title, s_sub, s_bottom, s_buttons, s_image, s_width, s_height, s_noClose}},
+    static const std::vector<ScreenKind> kinds{
+        {"message", "ui_type_message", "A text with buttons", {TITLE, SUB, BOTTOM, TEXT, BUTTONS, NO_CLOSE}},
+        {"list", "ui_type_list", "Rows to read", LIST_FIELDS},
+        {"select", "ui_type_select", "Rows of which one is chosen", LIST_FIELDS},
+        {"multi-list", "ui_type_multiple_list", "Rows of which several are marked", LIST_FIELDS},
+        {"image", "ui_type_image", "A picture", {TITLE, SUB, BOTTOM, BUTTONS, IMAGE, WIDTH, HEIGHT, NO_CLOSE}},
         {"image-list", "ui_type_multiple_image_list", "Rows with a picture each",
-         s_listFields + Fields{s_images, s_width, s_height, s_selectable}},
-        {"pin", "ui_type_pin_entry", "A PIN to enter", {s_title, s_sub, s_text, s_pinLength, s_bottom}},
+         LIST_FIELDS + Fields{IMAGES, WIDTH, HEIGHT, SELECTABLE}},
+        {"pin", "ui_type_pin_entry", "A PIN to enter", {TITLE, SUB, TEXT, PIN_LENGTH, BOTTOM}},
         {"progress",
          "ui_type_progress",
          "A bar; asked for again with the same ids, it moves on",
-         {s_title, s_text, s_percent, s_buttons}},
-        {"loading", "ui_type_loading", "A busy indicator", {s_text, s_percent, s_buttons}},
+         {TITLE, TEXT, PERCENT, BUTTONS}},
+        {"loading", "ui_type_loading", "A busy indicator", {TEXT, PERCENT, BUTTONS}},
     };
-    return s_kinds;
+    return kinds;
 }
 } // namespace veskar

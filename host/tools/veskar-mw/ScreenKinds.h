@@ -10,13 +10,13 @@ namespace veskar
 /** How an option's value is carried. */
 enum class Encoding
 {
-    text,
-    number,
-    flag,
+    Text,
+    Number,
+    Flag,
     /** The option is repeatable, each time one element. */
-    texts,
+    List,
     /** The option names a file whose lines are further elements. */
-    textsFromFile
+    ListFromFile
 };
 
 struct Field

@@ -21,10 +21,10 @@ void PrintLine(const std::string& line)
 
 void WarnOfSilence(const Request& request, bool waits)
 {
-    constexpr int nobodysUiId = 0;
-    constexpr int nobodysSourceId = 100;
-    constexpr int lastModuleSourceId = 253;
-    if (request.AsksForClose() && request.SourceId() <= lastModuleSourceId)
+    constexpr int NOBODYS_UI_ID = 0;
+    constexpr int NOBODYS_SOURCE_ID = 100;
+    constexpr int LAST_MODULE_SOURCE_ID = 253;
+    if (request.AsksForClose() && request.SourceId() <= LAST_MODULE_SOURCE_ID)
     {
         Say("a close with a source id of 0 to 253 sends no answer: who waits for the screen's answer waits in vain");
     }
@@ -32,7 +32,7 @@ void WarnOfSilence(const Request& request, bool waits)
     {
         Say("no screen is of this kind: the request is sent, and no answer waited for");
     }
-    if (waits && (request.UiId() == nobodysUiId || request.SourceId() == nobodysSourceId))
+    if (waits && (request.UiId() == NOBODYS_UI_ID || request.SourceId() == NOBODYS_SOURCE_ID))
     {
         Say("a screen with ui id 0 or source id 100 is never answered");
     }
@@ -53,7 +53,7 @@ int OpenMenu(DeskConnection& desk, const Request& request)
     {
         Say("the application opened no menu position for it");
     }
-    return ExitStatus::answered;
+    return ExitStatus::ANSWERED;
 }
 
 int Ask(DeskConnection& desk, const Request& request)
@@ -78,7 +78,7 @@ int Run(const Command& command)
         return OpenMenu(desk, request);
     }
     desk.Tell(request);
-    return ExitStatus::delivered;
+    return ExitStatus::DELIVERED;
 }
 } // namespace
 

@@ -14,7 +14,7 @@ Texts Tv::Did(const std::string& verb) const
 
 Texts Tv::DeedsByKeyGroup() const
 {
-    constexpr std::pair<const char*, const char*> groups[] = {{" XF86Exit:5", " navigation"},
+    constexpr std::pair<const char*, const char*> GROUPS[] = {{" XF86Exit:5", " navigation"},
                                                               {" XF86AudioRewind:5", " PVR"},
                                                               {" XF86Exit", " exit"},
                                                               {" XF86", " channel"},
@@ -23,7 +23,7 @@ Texts Tv::DeedsByKeyGroup() const
     for (std::string deed : deeds)
     {
         const std::string verb = deed.substr(0, deed.find(' '));
-        const auto* group = std::find_if(std::begin(groups), std::end(groups),
+        const auto* group = std::find_if(std::begin(GROUPS), std::end(GROUPS),
                                          [&](const auto& keys) { return deed.rfind(verb + keys.first, 0) == 0; });
         if (verb == "grab" || verb == "release")
         {
