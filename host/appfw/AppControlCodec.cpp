@@ -1,11 +1,10 @@
 #include "AppControlCodec.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
-#include <memory>
 
 #include "BusName.h"
+#include "CString.h"
 #include "TvBus.h"
 
 namespace veskar
@@ -14,11 +13,6 @@ namespace
 {
 
 using Refusal = std::optional<std::string>;
-
-struct Free
-{
-    void operator()(char* text) const { free(text); }
-};
 
 /** A key in an error text: a long one is cut, at the beginning of a character. */
 std::string Quoted(const char* key)
@@ -85,7 +79,7 @@ private:
         {
             return refusal;
         }
-        const std::unique_ptr<char, Free> type(eldbus_message_iter_signature_get(value));
+        const CString type(eldbus_message_iter_signature_get(value));
         if (strcmp(type.get(), "s") == 0)
         {
             return m_ReadText(key, value);

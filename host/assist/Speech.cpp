@@ -1,5 +1,6 @@
 #include "Speech.h"
 
+#include "CString.h"
 #include "Log.h"
 
 #include <condition_variable>
@@ -35,7 +36,7 @@ Connection Connect()
     constexpr int START_NONE = 0;
     char* error = nullptr;
     Connection connection(spd_open2("veskar-tv", "voice-guide", nullptr, SPD_MODE_SINGLE, nullptr, START_NONE, &error));
-    const std::unique_ptr<char, decltype(&std::free)> message(error, std::free);
+    const CString message(error);
     if (!connection)
     {
         ASSIST_DEBUG("nobody speaks: %s", message ? message.get() : "no speech dispatcher");

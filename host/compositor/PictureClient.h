@@ -7,10 +7,12 @@
  */
 #pragma once
 
+#include "EventSource.h"
+
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <vector>
-#include <wayland-server-core.h>
 
 struct wl_buffer;
 struct wl_callback;
@@ -44,16 +46,26 @@ private:
 
     void m_MakeBuffer();
 
+    struct Destroy
+    {
+        void operator()(wl_client* client) const;
+        void operator()(wl_display* connection) const;
+        /** Of any other kind: a proxy. */
+        void operator()(void* proxy) const;
+    };
+    template <typename T>
+    using Owned = std::unique_ptr<T, Destroy>;
+
     Draw m_draw;
     Ready m_ready;
-    wl_client* m_serverEnd = nullptr;
-    wl_display* m_clientEnd = nullptr;
-    wl_event_source* m_source = nullptr;
-    wl_registry* m_registry = nullptr;
-    wl_shm* m_shm = nullptr;
-    wl_buffer* m_shown = nullptr;
-    wl_buffer* m_making = nullptr;
-    wl_callback* m_made = nullptr;
+    Owned<wl_display> m_clientEnd;
+    Owned<wl_registry> m_registry;
+    Owned<wl_shm> m_shm;
+    Owned<wl_buffer> m_shown;
+    Owned<wl_buffer> m_making;
+    Owned<wl_callback> m_made;
+    Owned<wl_client> m_serverEnd;
+    EventSource m_source;
     int m_width = 0;
     int m_height = 0;
 };

@@ -49,7 +49,7 @@ bool Encode(const Picture& picture, FILE* file)
 std::string WritePng(const Picture& picture, const std::string& path)
 {
     const std::string temporary = path + ".part";
-    std::unique_ptr<FILE, FileClose> file(std::fopen(temporary.c_str(), "wb"));
+    std::unique_ptr<FILE, FileClose> file(std::fopen(temporary.c_str(), "wbe"));
     if (!file)
     {
         return path + ": " + std::strerror(errno);

@@ -4,7 +4,6 @@
 #include <cstring>
 #include <sys/socket.h>
 #include <sys/un.h>
-#include <unistd.h>
 
 namespace veskar
 {
@@ -14,7 +13,7 @@ namespace
 
 constexpr const char* REFUSED = "error ";
 
-int ConnectTo(const std::string& path)
+FileDescriptor ConnectTo(const std::string& path)
 {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -23,24 +22,17 @@ int ConnectTo(const std::string& path)
         throw RemoteUnreachable(path.empty() ? "no compositor is known" : path + ": the name is too long");
     }
     std::memcpy(address.sun_path, path.c_str(), path.size());
-    const int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (fd < 0 || connect(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) < 0)
+    FileDescriptor connected(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    if (!connected || connect(connected.Get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) < 0)
     {
-        const std::string reason = std::strerror(errno);
-        close(fd);
-        throw RemoteUnreachable(path + ": " + reason);
+        throw RemoteUnreachable(path + ": " + std::strerror(errno));
     }
-    return fd;
+    return connected;
 }
 
 } // namespace
 
-RemoteClient::RemoteClient(const std::string& path) : m_fd(ConnectTo(path)) {}
-
-RemoteClient::~RemoteClient()
-{
-    close(m_fd);
-}
+RemoteClient::RemoteClient(const std::string& path) : m_socket(ConnectTo(path)) {}
 
 std::vector<std::string> RemoteClient::Ask(const std::string& command)
 {
@@ -49,7 +41,7 @@ std::vector<std::string> RemoteClient::Ask(const std::string& command)
         throw RemoteRefusal("a command is one line");
     }
     const std::string line = command + "\n";
-    if (send(m_fd, line.data(), line.size(), MSG_NOSIGNAL) != static_cast<ssize_t>(line.size()))
+    if (send(m_socket.Get(), line.data(), line.size(), MSG_NOSIGNAL) != static_cast<ssize_t>(line.size()))
     {
         throw RemoteUnreachable("the compositor has gone");
     }
@@ -75,7 +67,7 @@ std::string RemoteClient::m_ReadLine()
     while ((end = m_received.find('\n')) == std::string::npos)
     {
         char block[4096];
-        const ssize_t count = recv(m_fd, block, sizeof block, 0);
+        const ssize_t count = recv(m_socket.Get(), block, sizeof block, 0);
         if (count <= 0)
         {
             throw RemoteUnreachable("the compositor has gone");

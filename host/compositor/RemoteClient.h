@@ -1,6 +1,8 @@
 /** A program's end of the remote control's socket. Blocking; not for several threads at once. */
 #pragma once
 
+#include "FileDescriptor.h"
+
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -25,10 +27,6 @@ class RemoteClient
 public:
     /** Throws RemoteUnreachable. */
     explicit RemoteClient(const std::string& path);
-    ~RemoteClient();
-
-    RemoteClient(const RemoteClient&) = delete;
-    RemoteClient& operator=(const RemoteClient&) = delete;
 
     /** Sends one command line and waits for its reply's lines. Throws RemoteRefusal and RemoteUnreachable. */
     std::vector<std::string> Ask(const std::string& command);
@@ -36,7 +34,7 @@ public:
 private:
     std::string m_ReadLine();
 
-    int m_fd;
+    FileDescriptor m_socket;
     std::string m_received;
 };
 

@@ -21,7 +21,7 @@ constexpr size_t LONGEST_LINE = 16384;
     throw std::system_error(errno, std::generic_category(), what);
 }
 
-int ListenAt(const std::string& path)
+FileDescriptor ListenAt(const std::string& path)
 {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -31,20 +31,18 @@ int ListenAt(const std::string& path)
         Fail(path);
     }
     std::memcpy(address.sun_path, path.c_str(), path.size());
-    const int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    if (fd < 0)
+    FileDescriptor listening(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    if (!listening)
     {
         Fail("socket");
     }
     unlink(path.c_str());
-    if (bind(fd, reinterpret_cast<const sockaddr*>(&address), sizeof address) < 0 || listen(fd, SOMAXCONN) < 0)
+    if (bind(listening.Get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) < 0 ||
+        listen(listening.Get(), SOMAXCONN) < 0)
     {
-        const int reason = errno;
-        close(fd);
-        errno = reason;
         Fail(path);
     }
-    return fd;
+    return listening;
 }
 
 std::string TextOf(const RemoteReply& reply)
@@ -63,28 +61,18 @@ std::string TextOf(const RemoteReply& reply)
 class RemoteSocket::Connection : public std::enable_shared_from_this<Connection>
 {
 public:
-    Connection(RemoteSocket& socket, int fd) : m_socket(socket), m_fd(fd) {}
-
-    ~Connection() { Disconnect(); }
+    Connection(RemoteSocket& socket, FileDescriptor client) : m_socket(socket), m_client(std::move(client)) {}
 
     bool Watch(wl_event_loop* loop)
     {
-        m_source = wl_event_loop_add_fd(loop, m_fd, WL_EVENT_READABLE, s_OnReadable, this);
+        m_source.reset(wl_event_loop_add_fd(loop, m_client.Get(), WL_EVENT_READABLE, s_OnReadable, this));
         return m_source != nullptr;
     }
 
     void Disconnect()
     {
-        if (m_source != nullptr)
-        {
-            wl_event_source_remove(m_source);
-            m_source = nullptr;
-        }
-        if (m_fd >= 0)
-        {
-            close(m_fd);
-            m_fd = -1;
-        }
+        m_source.reset();
+        m_client.Close();
     }
 
     void Answer(const RemoteReply& reply)
@@ -92,8 +80,8 @@ public:
         m_busy = false;
         const std::string text = TextOf(reply);
         // No reply is as long as a socket's buffer: one that does not fit has no reader.
-        if (m_fd < 0 ||
-            send(m_fd, text.data(), text.size(), MSG_DONTWAIT | MSG_NOSIGNAL) != static_cast<ssize_t>(text.size()))
+        if (!m_client || send(m_client.Get(), text.data(), text.size(), MSG_DONTWAIT | MSG_NOSIGNAL) !=
+                             static_cast<ssize_t>(text.size()))
         {
             m_HangUp();
             return;
@@ -109,7 +97,7 @@ private:
     {
         const auto self = static_cast<Connection*>(data)->shared_from_this();
         char block[4096];
-        const ssize_t count = recv(self->m_fd, block, sizeof block, MSG_DONTWAIT);
+        const ssize_t count = recv(self->m_client.Get(), block, sizeof block, MSG_DONTWAIT);
         if (count <= 0)
         {
             if (count == 0 || (errno != EAGAIN && errno != EINTR))
@@ -126,7 +114,7 @@ private:
     void m_RunLines()
     {
         m_running = true;
-        while (!m_busy && m_fd >= 0)
+        while (!m_busy && m_client)
         {
             const size_t end = m_received.find('\n');
             if (end == std::string::npos)
@@ -152,17 +140,21 @@ private:
     }
 
     RemoteSocket& m_socket;
-    int m_fd;
-    wl_event_source* m_source = nullptr;
+    FileDescriptor m_client;
+    EventSource m_source;
     std::string m_received;
     bool m_busy = false;    // a command is being answered
     bool m_running = false; // runLines is on the stack
 };
 
 RemoteSocket::RemoteSocket(wl_event_loop* loop, const std::string& path)
-    : m_loop(loop), m_path(path), m_fd(ListenAt(path)),
-      m_source(wl_event_loop_add_fd(loop, m_fd, WL_EVENT_READABLE, s_OnConnect, this))
+    : m_loop(loop), m_path(path), m_socket(ListenAt(path)),
+      m_source(wl_event_loop_add_fd(loop, m_socket.Get(), WL_EVENT_READABLE, s_OnConnect, this))
 {
+    if (!m_source)
+    {
+        Fail("event loop");
+    }
 }
 
 RemoteSocket::~RemoteSocket()
@@ -171,20 +163,18 @@ RemoteSocket::~RemoteSocket()
     {
         connection->Disconnect();
     }
-    wl_event_source_remove(m_source);
-    close(m_fd);
     unlink(m_path.c_str());
 }
 
 int RemoteSocket::s_OnConnect(int fd, uint32_t, void* data)
 {
     auto& self = *static_cast<RemoteSocket*>(data);
-    const int accepted = accept4(fd, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
-    if (accepted < 0)
+    FileDescriptor client(accept4(fd, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+    if (!client)
     {
         return 0;
     }
-    auto connection = std::make_shared<Connection>(self, accepted);
+    auto connection = std::make_shared<Connection>(self, std::move(client));
     if (connection->Watch(self.m_loop))
     {
         self.m_connections.push_back(std::move(connection));

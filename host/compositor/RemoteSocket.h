@@ -6,12 +6,14 @@
  */
 #pragma once
 
+#include "EventSource.h"
+#include "FileDescriptor.h"
+
 #include <functional>
 #include <map>
 #include <memory>
 #include <string>
 #include <vector>
-#include <wayland-server-core.h>
 
 namespace veskar
 {
@@ -49,8 +51,8 @@ private:
 
     wl_event_loop* m_loop;
     std::string m_path;
-    int m_fd;
-    wl_event_source* m_source = nullptr;
+    FileDescriptor m_socket;
+    EventSource m_source;
     std::map<std::string, RemoteCommand> m_commands;
     std::vector<std::shared_ptr<Connection>> m_connections;
 };

@@ -46,35 +46,35 @@ void Guard(int reports)
     }
 }
 
-/** The end to report at; -1 where there is no guard. */
-int StartGuard()
+/** The end to report at; none where there is no guard. */
+FileDescriptor StartGuard()
 {
     int ends[2];
     if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0)
     {
-        return -1;
+        return {};
     }
+    FileDescriptor reports(ends[0]);
+    FileDescriptor reporter(ends[1]);
     const pid_t pid = fork();
     if (pid == 0)
     {
-        close(ends[1]);
-        Guard(ends[0]);
+        reporter.Close();
+        Guard(reports.Get());
         _exit(0);
     }
-    close(ends[0]);
     if (pid < 0)
     {
-        close(ends[1]);
-        return -1;
+        reporter.Close();
     }
-    return ends[1];
+    return reporter;
 }
 
 } // namespace
 
 ShownSetting::ShownSetting() : m_guard(StartGuard())
 {
-    if (m_guard < 0)
+    if (!m_guard)
     {
         NUMPAD_WARN("no process to guard %s: %s", NUMBER_PAD_SHOWN_KEY, std::strerror(errno));
     }
@@ -83,7 +83,6 @@ ShownSetting::ShownSetting() : m_guard(StartGuard())
 ShownSetting::~ShownSetting()
 {
     Set(false);
-    close(m_guard);
 }
 
 void ShownSetting::Set(bool shown)
@@ -107,7 +106,7 @@ void ShownSetting::Set(bool shown)
 
 void ShownSetting::m_TellGuard() const
 {
-    if (send(m_guard, &m_shown, sizeof m_shown, MSG_NOSIGNAL) < 0)
+    if (send(m_guard.Get(), &m_shown, sizeof m_shown, MSG_NOSIGNAL) < 0)
     {
         NUMPAD_WARN("%s is not guarded: %s", NUMBER_PAD_SHOWN_KEY, std::strerror(errno));
     }

@@ -1,6 +1,8 @@
 /** The setting that tells the TV whether the number pad is on the screen. */
 #pragma once
 
+#include "FileDescriptor.h"
+
 namespace veskar
 {
 
@@ -23,7 +25,7 @@ public:
 private:
     void m_TellGuard() const;
 
-    int m_guard; // a socket whose other end the second process has; it closes with this process
+    FileDescriptor m_guard; // a socket whose other end the second process has; it closes with this process
     bool m_shown = false;
 };
 

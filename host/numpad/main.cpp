@@ -2,6 +2,7 @@
  * The TV's number pad: an application that a screen asks to show itself ("cmd" = "show", "type" = "number", or
  * "number_zip" for one that can take a digit back) and to go again ("cmd" = "hide").
  */
+#include "CString.h"
 #include "Log.h"
 #include "PadApplication.h"
 #include "SettingKeys.h"
@@ -10,7 +11,6 @@
 #include <app.h>
 #include <cstdlib>
 #include <ea.h>
-#include <memory>
 #include <string>
 #include <ui_orientation.h>
 
@@ -25,7 +25,7 @@ std::string TextOf(app_control_h request, const char* key)
     {
         return "";
     }
-    const std::unique_ptr<char, void (*)(void*)> owned(value, std::free);
+    const veskar::CString owned(value);
     return value;
 }
 

@@ -9,6 +9,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "FileDescriptor.h"
+
 namespace veskar
 {
 namespace
@@ -63,36 +65,17 @@ bool IsWellFormedComponent(std::string_view component)
     return !component.empty() && component != "." && component != "..";
 }
 
-class FileDescriptor
-{
-public:
-    explicit FileDescriptor(int descriptor) : m_descriptor(descriptor) {}
-    FileDescriptor(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(const FileDescriptor&) = delete;
-    ~FileDescriptor()
-    {
-        if (m_descriptor >= 0)
-        {
-            close(m_descriptor);
-        }
-    }
-    operator int() const { return m_descriptor; }
-
-private:
-    int m_descriptor;
-};
-
 /** Nothing for what is missing, or no plain file. */
 std::optional<std::string> ReadFile(const char* path)
 {
     const FileDescriptor file(open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status = {};
-    if (file < 0 || fstat(file, &status) != 0 || !S_ISREG(status.st_mode))
+    if (!file || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode))
     {
         return std::nullopt;
     }
     std::string content(static_cast<size_t>(status.st_size), '\0');
-    const ssize_t length = read(file, content.data(), content.size());
+    const ssize_t length = read(file.Get(), content.data(), content.size());
     if (length < 0)
     {
         return std::nullopt;
@@ -107,14 +90,14 @@ class TemporaryFile
 public:
     explicit TemporaryFile(const fs::path& beside)
         : m_path(beside.string() + ".XXXXXX"), m_file(mkostemp(m_path.data(), O_CLOEXEC)),
-          m_error(m_file < 0 ? LastError() : std::error_code())
+          m_error(!m_file ? LastError() : std::error_code())
     {
     }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile()
     {
-        if (m_file >= 0)
+        if (m_file)
         {
             unlink(m_path.c_str());
         }
@@ -124,7 +107,7 @@ public:
     {
         while (!m_error && !text.empty())
         {
-            const ssize_t count = write(m_file, text.data(), text.size());
+            const ssize_t count = write(m_file.Get(), text.data(), text.size());
             m_error = count < 0 ? LastError() : std::error_code();
             text.remove_prefix(static_cast<size_t>(std::max<ssize_t>(count, 0)));
         }
@@ -134,7 +117,7 @@ public:
     std::error_code MoveTo(const fs::path& target)
     {
         // mkostemp makes it for its owner alone; the TV's parts may run as several users.
-        if (!m_error && (fchmod(m_file, 0644) != 0 || rename(m_path.c_str(), target.c_str()) != 0))
+        if (!m_error && (fchmod(m_file.Get(), 0644) != 0 || rename(m_path.c_str(), target.c_str()) != 0))
         {
             m_error = LastError();
         }
