@@ -17,21 +17,25 @@ namespace veskar
 class BusLibrary
 {
 public:
-    BusLibrary() : m_ready(ecore_init() > 0 && eldbus_init() > 0) {}
+    BusLibrary() : m_loop(ecore_init() > 0), m_bus(m_loop && eldbus_init() > 0) {}
     BusLibrary(const BusLibrary&) = delete;
     BusLibrary& operator=(const BusLibrary&) = delete;
     ~BusLibrary()
     {
-        if (m_ready)
+        if (m_bus)
         {
             eldbus_shutdown();
+        }
+        if (m_loop)
+        {
             ecore_shutdown();
         }
     }
-    explicit operator bool() const { return m_ready; }
+    explicit operator bool() const { return m_bus; }
 
 private:
-    bool m_ready;
+    bool m_loop;
+    bool m_bus;
 };
 
 struct BusDeleter

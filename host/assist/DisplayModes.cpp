@@ -1,9 +1,9 @@
 #include "DisplayModes.h"
 
 #include "Log.h"
+#include "Mode.h"
 #include "SettingKeys.h"
 #include "appfw/Window.h"
-#include "vconf.h"
 
 #include <cstring>
 
@@ -11,13 +11,6 @@ namespace veskar
 {
 namespace
 {
-
-/** Unset is off. */
-bool IsSet(const char* key)
-{
-    int value = 0;
-    return vconf_get_int(key, &value) == 0 && value != 0;
-}
 
 /** The TV's theme is the one overlay that the application's framework has put onto the toolkit's own. */
 std::filesystem::path LoadedTheme()
@@ -109,7 +102,7 @@ void DisplayModes::s_OnWindowHidden(void* data, Evas*, Evas_Object*, void*)
 
 void DisplayModes::m_Apply()
 {
-    const auto theme = ThemeFor(m_plainTheme, IsSet(ENLARGED_TEXT_KEY), IsSet(HIGH_CONTRAST_KEY));
+    const auto theme = ThemeFor(m_plainTheme, IsOn(ENLARGED_TEXT_KEY), IsOn(HIGH_CONTRAST_KEY));
     if (theme == m_theme)
     {
         return;

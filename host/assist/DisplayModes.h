@@ -22,7 +22,8 @@ public:
     DisplayModes();
     DisplayModes(const DisplayModes&) = delete;
     DisplayModes& operator=(const DisplayModes&) = delete;
-    ~DisplayModes() = default;
+    /** Never destroyed: the window keeps a pointer to it. */
+    ~DisplayModes() = delete;
 
 private:
     static void s_OnWindowHidden(void* data, Evas* evas, Evas_Object* window, void* event);

@@ -1,9 +1,9 @@
+#include "CString.h"
 #include "ea.h"
 
 #include <Ecore.h>
 #include <algorithm>
 #include <climits>
-#include <cstdlib>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,11 +15,6 @@ namespace
 {
 
 constexpr char DATA_KEY[] = "veskar_text_page";
-
-struct FreeText
-{
-    void operator()(char* text) const { std::free(text); }
-};
 
 struct FreeStyle
 {
@@ -189,6 +184,8 @@ TextPage::TextPage(Evas_Object* scroller)
 TextPage::~TextPage()
 {
     evas_object_data_del(m_scroller, DATA_KEY);
+    // The content outlives this a little, and may be laid out once more.
+    evas_object_event_callback_del_full(m_content, EVAS_CALLBACK_RESIZE, s_OnResize, this);
     // The textblock goes before the style that it was given.
     evas_object_del(m_text);
     if (m_pending)
@@ -320,7 +317,7 @@ Evas_Object* ea_textpage_add(Evas_Object* parent)
 
 void ea_textpage_text_set(Evas_Object* page, char* text)
 {
-    const std::unique_ptr<char, veskar::FreeText> owned(text);
+    const veskar::CString owned(text);
     if (TextPage* self = TextPage::Of(page))
     {
         self->SetText(text ? text : "");

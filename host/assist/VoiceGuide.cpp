@@ -1,6 +1,8 @@
 #include "VoiceGuide.h"
 
+#include "CString.h"
 #include "Log.h"
+#include "Mode.h"
 #include "SettingKeys.h"
 #include "Speech.h"
 #include "appfw/Window.h"
@@ -11,19 +13,16 @@
 #include <cctype>
 #include <cstdlib>
 #include <fstream>
-#include <memory>
 
 namespace veskar
 {
 namespace
 {
 
-using Text = std::unique_ptr<char, decltype(&std::free)>;
-
 /** What is to be heard: no markup, one line. */
 std::string Plain(const std::string& markup)
 {
-    const Text plain(elm_entry_markup_to_utf8(markup.c_str()), std::free);
+    const CString plain(elm_entry_markup_to_utf8(markup.c_str()));
     std::string sentence = plain ? plain.get() : "";
     const auto isControl = [](unsigned char character)
     {
@@ -33,16 +32,9 @@ std::string Plain(const std::string& markup)
     return sentence;
 }
 
-/** Unset is off. */
-bool IsOn()
-{
-    int value = 0;
-    return vconf_get_int(VOICE_GUIDE_KEY, &value) == 0 && value != 0;
-}
-
 std::string Language()
 {
-    const Text language(vconf_get_str(LANGUAGE_KEY), std::free);
+    const CString language(vconf_get_str(LANGUAGE_KEY));
     return language ? language.get() : "";
 }
 
@@ -64,7 +56,7 @@ void Record(const std::string& sentence)
 
 void Speak(const std::string& markup, Turn turn)
 {
-    if (!IsOn())
+    if (!IsOn(VOICE_GUIDE_KEY))
     {
         return;
     }
@@ -91,12 +83,21 @@ void VoiceGuide::SpeakScreen(const char* markup)
 
 void VoiceGuide::FollowFocus()
 {
-    m_window = FirstWindow();
     if (m_window)
     {
-        evas_object_event_callback_add(m_window, EVAS_CALLBACK_DEL, s_OnWindowGone, this);
+        return;
+    }
+    m_window = FirstWindow();
+    if (!m_window)
+    {
+        return;
+    }
+    evas_object_event_callback_add(m_window, EVAS_CALLBACK_DEL, s_OnWindowGone, this);
+    if (!m_follows)
+    {
         ecore_event_handler_add(ECORE_EVENT_KEY_DOWN, s_OnKey, this);
         ecore_idle_enterer_add(s_OnIdle, this);
+        m_follows = true;
     }
 }
 

@@ -21,7 +21,10 @@ public:
     /** Speaks a screen's sentence, given as markup, at once. The element that then has the focus is spoken after it. */
     void SpeakScreen(const char* markup);
 
-    /** From now on speaks each button and row that gets the focus in the program's window, and each tick of a row. */
+    /**
+     * From now on speaks each button and row that gets the focus in the program's window, and each tick of a row. May
+     * be called again.
+     */
     void FollowFocus();
 
 private:
@@ -35,6 +38,7 @@ private:
     Evas_Object* m_window = nullptr; // null once it is deleted: the toolkit still idles after it
     Focused m_spoken;
     bool m_viewerMoved = false;
+    bool m_follows = false; // the keys and the main loop, which outlive any window
 };
 
 } // namespace veskar

@@ -23,8 +23,7 @@ void PadApplication::Show(bool withBackSpace)
     m_idle.reset();
     if (!m_pad)
     {
-        // Not at once: what wants the pad to go may be one of its own callbacks.
-        m_pad.emplace(withBackSpace, m_setting, [this] { ecore_job_add(s_HideNow, this); });
+        m_pad.emplace(withBackSpace, m_setting, [this] { m_HideSoon(); });
     }
 }
 
@@ -37,6 +36,7 @@ void PadApplication::Hide()
 void PadApplication::Terminate()
 {
     m_pad.reset();
+    m_hiding.reset();
     m_idle.reset();
 }
 
@@ -45,9 +45,17 @@ void PadApplication::m_EndSoon()
     m_idle.reset(ecore_timer_add(IDLE_SECONDS, s_OnIdle, this));
 }
 
+/** Not at once: what wants the pad to go may be one of its own callbacks. */
+void PadApplication::m_HideSoon()
+{
+    m_hiding.reset(ecore_job_add(s_HideNow, this));
+}
+
 void PadApplication::s_HideNow(void* data)
 {
-    static_cast<PadApplication*>(data)->Hide();
+    auto* self = static_cast<PadApplication*>(data);
+    static_cast<void>(self->m_hiding.release()); // the toolkit deletes it after this
+    self->Hide();
 }
 
 Eina_Bool PadApplication::s_OnIdle(void* data)

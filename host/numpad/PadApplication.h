@@ -38,13 +38,20 @@ private:
         void operator()(Ecore_Timer* timer) const { ecore_timer_del(timer); }
     };
 
+    struct JobDelete
+    {
+        void operator()(Ecore_Job* job) const { ecore_job_del(job); }
+    };
+
     void m_EndSoon();
+    void m_HideSoon();
     static void s_HideNow(void* data);
     static Eina_Bool s_OnIdle(void* data);
 
     ShownSetting m_setting;
     std::optional<NumberPad> m_pad;
     std::unique_ptr<Ecore_Timer, TimerDelete> m_idle;
+    std::unique_ptr<Ecore_Job, JobDelete> m_hiding;
 };
 
 } // namespace veskar

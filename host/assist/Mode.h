@@ -1,0 +1,15 @@
+#pragma once
+
+#include "vconf.h"
+
+namespace veskar
+{
+
+/** Whether one of the viewer's accessibility modes is on; unset is off. */
+inline bool IsOn(const char* key)
+{
+    int value = 0;
+    return vconf_get_int(key, &value) == 0 && value != 0;
+}
+
+} // namespace veskar
