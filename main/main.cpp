@@ -38,8 +38,7 @@ ServiceProcessor* serviceProcessor = nullptr;
 int testCaseId = NO_TEST_CASE;
 bool ignorePause = false;
 
-/** Held by every entry into the two objects for its whole duration. Main thread only, so never waited for by a timer.
- */
+/** Held by every entry into the two objects for its whole duration. Main thread only: no timer ever waits for it. */
 std::mutex operationMutex;
 
 void _languageChanged(app_event_info_h /*eventInfo*/, void* /*data*/)

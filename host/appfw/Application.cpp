@@ -255,11 +255,9 @@ void Application::m_StartNext()
     eldbus_message_arguments_append(call.get(), "su", m_id.c_str(), 0U);
     const auto started = [this](const Eldbus_Message* reply)
     {
-        const char* name = nullptr;
-        const char* text = nullptr;
-        if (eldbus_message_error_get(reply, &name, &text))
+        if (const auto error = ErrorOf(reply))
         {
-            m_RefuseCalls(name, text);
+            m_RefuseCalls(error->name, error->text);
         }
     };
     Send(std::move(call), started);
@@ -302,12 +300,10 @@ void Application::m_PassOn(const LifecycleEvent& event, const std::string& succe
     const std::shared_ptr<Eldbus_Message> asked = ShareMessage(event.call.get());
     const auto forward = [this, asked](const Eldbus_Message* reply)
     {
-        const char* name = nullptr;
-        const char* text = nullptr;
-        if (eldbus_message_error_get(reply, &name, &text))
+        if (const auto error = ErrorOf(reply))
         {
-            APPFW_ERROR("the next process did not take the request: %s", text);
-            m_ReplyError(asked.get(), name, text);
+            APPFW_ERROR("the next process did not take the request: %s", error->text);
+            m_ReplyError(asked.get(), error->name, error->text);
             return;
         }
         m_Reply(asked.get());

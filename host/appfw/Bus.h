@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include <Ecore.h>
@@ -55,6 +56,20 @@ inline BusMessage NewCall(const std::string& busName, const std::string& path, c
                           const std::string& method)
 {
     return BusMessage(eldbus_message_method_call_new(busName.c_str(), path.c_str(), interface.c_str(), method.c_str()));
+}
+
+/** Both live as long as the message that they were read from. */
+struct BusError
+{
+    const char* name;
+    const char* text;
+};
+
+/** The error that came in place of a reply, or nothing where it is a reply. */
+inline std::optional<BusError> ErrorOf(const Eldbus_Message* reply)
+{
+    BusError error{};
+    return eldbus_message_error_get(reply, &error.name, &error.text) ? std::optional(error) : std::nullopt;
 }
 
 /** One more owner of a message that the library lends to a callback. */

@@ -37,7 +37,7 @@ void BusNames::s_OnNames(void* data, const Eldbus_Message* reply, Eldbus_Pending
     auto* question = static_cast<Question*>(data);
     question->pending = nullptr;
     Eldbus_Message_Iter* list = nullptr;
-    if (eldbus_message_error_get(reply, nullptr, nullptr) || !eldbus_message_arguments_get(reply, "as", &list))
+    if (ErrorOf(reply) || !eldbus_message_arguments_get(reply, "as", &list))
     {
         APPFW_ERROR("the bus daemon does not tell its names");
         return;

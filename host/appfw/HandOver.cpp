@@ -21,7 +21,7 @@ using Answer = std::optional<std::string>;
 
 void OnAnswer(void* data, const Eldbus_Message* reply, Eldbus_Pending*)
 {
-    const bool failed = reply == nullptr || eldbus_message_error_get(reply, nullptr, nullptr);
+    const bool failed = reply == nullptr || ErrorOf(reply);
     *static_cast<Answer*>(data) = failed ? "" : eldbus_message_sender_get(reply);
     WakeMainLoop();
 }

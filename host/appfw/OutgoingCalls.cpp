@@ -52,14 +52,12 @@ void OutgoingCalls::s_OnReply(void* data, const Eldbus_Message* reply, Eldbus_Pe
 
 bool LogRefusal(const Eldbus_Message* reply, const std::string& callee)
 {
-    const char* name = nullptr;
-    const char* text = nullptr;
-    const bool refused = eldbus_message_error_get(reply, &name, &text);
-    if (refused)
+    const auto error = ErrorOf(reply);
+    if (error)
     {
-        APPFW_ERROR("%s did not take the call: %s (%s)", callee.c_str(), text, name);
+        APPFW_ERROR("%s did not take the call: %s (%s)", callee.c_str(), error->text, error->name);
     }
-    return refused;
+    return error.has_value();
 }
 
 } // namespace veskar

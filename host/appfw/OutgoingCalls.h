@@ -1,5 +1,4 @@
-/** Calls to the TV's other sides that nobody waits for, and that must still get there when the process is about to end.
- */
+/** Calls to the TV's other sides that nobody waits for, and that must get there even when the process is ending. */
 #pragma once
 
 #include <functional>

@@ -33,12 +33,11 @@ void OwnName::Release()
 
 void OwnName::s_OnAnswer(void* data, const Eldbus_Message* reply, Eldbus_Pending*)
 {
-    const char* name = nullptr;
-    const char* text = nullptr;
+    const auto error = reply != nullptr ? ErrorOf(reply) : BusError{"", "not connected"};
     unsigned int code = 0;
-    if (reply == nullptr || eldbus_message_error_get(reply, &name, &text))
+    if (error)
     {
-        APPFW_ERROR("the bus does not answer for the application's name: %s", text != nullptr ? text : "not connected");
+        APPFW_ERROR("the bus does not answer for the application's name: %s", error->text);
     }
     else if (!eldbus_message_arguments_get(reply, "u", &code))
     {

@@ -19,8 +19,7 @@ public:
     /** Called with true for each show and false for each hide, from within the toolkit call that causes it. */
     using Changed = std::function<void(bool shown)>;
 
-    /** Watches the application's first window, where it has made one; one that is visible already counts as shown now.
-     */
+    /** Watches the application's first window, where it has one; one that is visible already counts as shown now. */
     explicit WindowWatch(Changed changed);
     WindowWatch(const WindowWatch&) = delete;
     WindowWatch& operator=(const WindowWatch&) = delete;

@@ -8,8 +8,7 @@
 namespace veskar
 {
 
-/** The remote's key for a code as the backend reports it (Linux' input event codes); null for one that means nothing.
- */
+/** The remote's key for one of Linux' input event codes, as the backend reports it; null for one that means nothing. */
 const Key* DeskKey(uint32_t code);
 
 /** One line for each typed key, for a person who sits before the window. */

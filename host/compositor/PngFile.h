@@ -16,8 +16,7 @@ struct Picture
     std::vector<uint32_t> pixels;
 };
 
-/** Written beside `path` and then renamed, so that a file under that name is always complete. Returns what went wrong.
- */
+/** Written beside `path`, then renamed, so that a file under that name is always complete. Returns what went wrong. */
 std::string WritePng(const Picture& picture, const std::string& path);
 
 } // namespace veskar

@@ -1,5 +1,4 @@
-/** The application framework: one UI application's life, driven by the platform. All callbacks run on the main thread.
- */
+/** The application framework: one UI application's life, driven by the platform. Callbacks run on the main thread. */
 #pragma once
 
 #include <stdbool.h>

@@ -32,8 +32,7 @@ extern "C"
     int app_control_create(app_control_h* request);
     int app_control_destroy(app_control_h request);
 
-    /** The strings and arrays are copied. A key that is set again takes the new value, whatever kind the old one had.
-     */
+    /** Strings and arrays are copied. A key that is set again takes the new value, whatever kind the old one had. */
     int app_control_set_app_id(app_control_h request, const char* appId);
     int app_control_add_extra_data(app_control_h request, const char* key, const char* value);
     int app_control_add_extra_data_array(app_control_h request, const char* key, const char* values[], int length);

@@ -1,5 +1,4 @@
-/** The settings store. Keys are paths such as "db/menu_widget/language" (kept) or "memory/..." (gone with the power).
- */
+/** The settings store. Keys are paths as "db/menu_widget/language", which is kept; "memory/..." goes with the power. */
 #pragma once
 
 #ifdef __cplusplus

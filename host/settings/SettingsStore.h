@@ -25,8 +25,7 @@ enum class SettingKind
 
 SettingKind KindOf(std::string_view key);
 
-/** False for an empty key or component, one that is "." or "..", a leading or trailing slash, or a control character.
- */
+/** False for an empty key or component, "." or ".." as one, a leading or trailing slash, and control characters. */
 bool IsWellFormedKey(std::string_view key);
 
 /** The file of a key; nothing for a key that is not well-formed, or where the environment names no folder for it. */

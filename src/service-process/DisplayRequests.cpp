@@ -13,6 +13,7 @@ namespace
 
 using Texts = std::vector<std::string>;
 
+/** For the log, whose texts are composed at every level: a line that tells of a read also makes it. */
 const char* Word(bool present)
 {
     return present ? "true" : "false";

@@ -54,7 +54,7 @@ struct ListScreenTest : ScreenTest
         }
         return items;
     }
-    /** Return on a row; the list's own use of the key comes first, then the screen hears it. The way there is left out.
+    /** Return on a row; the list's own use of the key comes first, then the screen hears it. The way there is omitted.
      */
     void PressRow(int row)
     {

@@ -198,8 +198,7 @@ bool AwaitsValue(const CLI::App& app, const std::string& word)
                        });
 }
 
-/** The arguments in the library's order, which is backwards; --title= in two words, as it takes no empty text in one.
- */
+/** The arguments in the library's order, which is backwards; "--title=" in two words: it takes no empty text in one. */
 Texts Arguments(const CLI::App& app, int argc, char** argv)
 {
     Texts arguments;
