@@ -145,6 +145,21 @@ TEST_F(Screens, list_of_many_rows_keeps_the_focused_one_in_view)
     EXPECT_TRUE(WaitUntil([&] { return Shot() == top; })) << "the first row does not come back";
 }
 
+TEST_F(Screens, list_of_one_row_is_the_same_whatever_hangs_over_its_end_and_whatever_was_shown_before)
+{
+    const auto show = [this](const std::string& end)
+    {
+        return SendKind("list", {"--header", "--format", "LR", "--entry", "A\tB" + end, "--entry", "1\t2" + end});
+    };
+    Process list = show("");
+    const Picture columns = StillShot();
+    Process message = SendMessage(8, 255, {"--button", "OK"});
+    const Picture between = ChangedShot(columns);
+    Process tabs = show("\t\t");
+    EXPECT_EQ(ChangedShot(between), columns);
+    EXPECT_EQ(list.Status() + message.Status(), 4);
+}
+
 TEST_F(Screens, multi_list_answers_the_marked_rows_with_its_first_button)
 {
     const Words values = Rows(4) + Words{"--button", "Delete", "--button", "Cancel"};

@@ -91,6 +91,13 @@ void PadRow(Evas_Object* row, int width)
     elm_box_pack_end(row, spacer);
 }
 
+/** A cell past the last column hangs over the end of its row, which is no wider for it: `beyond` counts such cells. */
+void HangOver(Evas_Object* label, int width, int beyond)
+{
+    const MainLoopSection section;
+    evas_object_size_hint_padding_set(label, beyond * width, -(beyond + 1) * width, 0, 0);
+}
+
 } // namespace
 
 std::string RowData(const std::string& format, const std::string& entry)
@@ -137,6 +144,10 @@ Evas_Object* CreateRow(const char* rowData, Evas_Object* parent, const char* par
         // The width told is that of a whole row with its margins; the cells share the narrower body.
         LOG_DEBUG("Scaled max label width: " << ScaledSize(LOGGED_WIDTH) << ", Number of columns: " << numColumns);
         const std::string markup = CellMarkup(row.cells[column], Alignment(row.format, column), header);
+        if (const int beyond = static_cast<int>(column) - numColumns; beyond >= 0)
+        {
+            HangOver(label, cellWidth, beyond);
+        }
 
         const MainLoopSection section;
         elm_object_part_text_set(label, nullptr, markup.c_str());

@@ -48,6 +48,7 @@ RowFocus::RowFocus(Evas_Object* window, Evas_Object* list)
     evas_object_smart_callback_add(m_list, "focused", s_OnListFocused, this);
     evas_object_smart_callback_add(m_list, "unfocused", s_OnListUnfocused, this);
     evas_object_smart_callback_add(m_list, "item,focused", s_OnRowFocused, this);
+    evas_object_smart_callback_add(m_list, "realized", s_OnRowRealised, this);
     evas_object_smart_callback_add(m_list, "selected", s_OnRowPressed, this);
     evas_object_smart_callback_add(m_list, "unselected", s_OnRowPressed, this);
     elm_object_event_callback_add(m_list, s_OnKey, this);
@@ -61,6 +62,7 @@ RowFocus::~RowFocus()
     evas_object_smart_callback_del_full(m_list, "focused", s_OnListFocused, this);
     evas_object_smart_callback_del_full(m_list, "unfocused", s_OnListUnfocused, this);
     evas_object_smart_callback_del_full(m_list, "item,focused", s_OnRowFocused, this);
+    evas_object_smart_callback_del_full(m_list, "realized", s_OnRowRealised, this);
     evas_object_smart_callback_del_full(m_list, "selected", s_OnRowPressed, this);
     evas_object_smart_callback_del_full(m_list, "unselected", s_OnRowPressed, this);
     elm_object_event_callback_del(m_list, s_OnKey, this);
@@ -105,6 +107,16 @@ void RowFocus::s_OnRowFocused(void* data, Evas_Object* /*list*/, void* row)
     auto* focus = static_cast<RowFocus*>(data);
     if (row != focus->m_row)
     {
+        focus->m_RestoreSoon();
+    }
+}
+
+void RowFocus::s_OnRowRealised(void* data, Evas_Object* /*list*/, void* row)
+{
+    auto* focus = static_cast<RowFocus*>(data);
+    if (row == focus->m_row)
+    {
+        // A list that is given the focus while its only row comes into being tells nobody and focuses no row.
         focus->m_RestoreSoon();
     }
 }

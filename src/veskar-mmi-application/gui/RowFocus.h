@@ -39,6 +39,7 @@ private:
     static void s_OnListFocused(void* data, Evas_Object* list, void* eventInfo);
     static void s_OnListUnfocused(void* data, Evas_Object* list, void* eventInfo);
     static void s_OnRowFocused(void* data, Evas_Object* list, void* row);
+    static void s_OnRowRealised(void* data, Evas_Object* list, void* row);
     static void s_OnRowPressed(void* data, Evas_Object* list, void* row);
     static void s_OnMoved(void* data);
 
