@@ -34,7 +34,7 @@ void WriteFile(const std::string& key, const std::string& content)
     std::ofstream(*path, std::ios::binary) << content;
 }
 
-TEST(Settings, what_the_tool_sets_is_read_by_the_platform)
+TEST(Settings, WhatTheToolSetsIsReadByThePlatform)
 {
     RunCommand({"veskar-setting", "set", NUMBER, "-5"});
     RunCommand({"veskar-setting", "set", FLAG, "on"});
@@ -52,7 +52,7 @@ TEST(Settings, what_the_tool_sets_is_read_by_the_platform)
     EXPECT_EQ(RunCommand({"veskar-setting", "get", FLAG}), "1\n");
 }
 
-TEST(Settings, one_line_break_at_the_end_is_no_part_of_a_value_and_a_number_is_nothing_else)
+TEST(Settings, OneLineBreakAtTheEndIsNoPartOfAValueAndANumberIsNothingElse)
 {
     const std::pair<const char*, int> contents[] = {{"1\n", 0}, {"1", 0},    {"1\n\n", -1},       {"", -1},
                                                     {"1 ", -1}, {"0x1", -1}, {"99999999999", -1}, {"\n", -1}};
@@ -65,7 +65,7 @@ TEST(Settings, one_line_break_at_the_end_is_no_part_of_a_value_and_a_number_is_n
     }
 }
 
-TEST(Settings, a_key_never_leaves_its_folder)
+TEST(Settings, AKeyNeverLeavesItsFolder)
 {
     for (const char* key : {"", "/etc/passwd", "db/../../x", "db//x", "db/", "memory/./x", "..", "db/a\nb"})
     {
@@ -75,7 +75,7 @@ TEST(Settings, a_key_never_leaves_its_folder)
     EXPECT_EQ(vconf_get_str("db/menu"), nullptr) << "a folder is no value";
 }
 
-TEST(Settings, the_tool_refuses_what_nothing_reads_and_values_of_another_type)
+TEST(Settings, TheToolRefusesWhatNothingReadsAndValuesOfAnotherType)
 {
     EXPECT_EQ(Process({"veskar-setting", "set", "db/nobody", "1"}).Status(), 64);
     EXPECT_EQ(Process({"veskar-setting", "set", "db/nobody", "1", "--force"}).Status(), 0);
@@ -88,7 +88,7 @@ TEST(Settings, the_tool_refuses_what_nothing_reads_and_values_of_another_type)
     }
 }
 
-TEST(Log, typed_digits_are_masked_and_other_numbers_are_not)
+TEST(Log, TypedDigitsAreMaskedAndOtherNumbersAreNot)
 {
     const std::pair<std::string, std::string> lines[] = {
         {"x(12) > \x1b[32mNumber [5] pressed!\x1b[0m", "x(12) > \x1b[32mNumber [*] pressed!\x1b[0m"},
@@ -106,7 +106,7 @@ TEST(Log, typed_digits_are_masked_and_other_numbers_are_not)
     }
 }
 
-TEST(Log, one_call_is_one_line_from_any_thread)
+TEST(Log, OneCallIsOneLineFromAnyThread)
 {
     constexpr int COUNT = 200;
     // Longer than what a pipe takes at once.

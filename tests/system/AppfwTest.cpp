@@ -52,13 +52,13 @@ protected:
     }
 };
 
-TEST_F(Appfw, the_request_that_starts_the_process_comes_between_create_and_resume)
+TEST_F(Appfw, TheRequestThatStartsTheProcessComesBetweenCreateAndResume)
 {
     EXPECT_EQ(SendRaw(Request("first")), "");
     ExpectTold({"create", "request first", "resume"});
 }
 
-TEST_F(Appfw, each_hide_and_show_is_told_before_the_next_request)
+TEST_F(Appfw, EachHideAndShowIsToldBeforeTheNextRequest)
 {
     SendRaw(Request("start"));
     const std::string id = Applications::DIALOGUES;
@@ -74,7 +74,7 @@ TEST_F(Appfw, each_hide_and_show_is_told_before_the_next_request)
                 "resume", "request hide", "pause", "request hide", "request show", "resume"});
 }
 
-TEST_F(Appfw, the_tv_pauses_resumes_and_ends_it_and_nothing_is_told_after_terminate)
+TEST_F(Appfw, TheTvPausesResumesAndEndsItAndNothingIsToldAfterTerminate)
 {
     SendRaw(Request("start"));
     Call("Pause");
@@ -84,7 +84,7 @@ TEST_F(Appfw, the_tv_pauses_resumes_and_ends_it_and_nothing_is_told_after_termin
     ExpectTold({"create", "request start", "resume", "pause", "resume", "terminate"});
 }
 
-TEST_F(Appfw, a_signal_ends_it_through_terminate)
+TEST_F(Appfw, ASignalEndsItThroughTerminate)
 {
     SendRaw(Request("start"));
     ExpectTold({"create", "request start", "resume"});
@@ -93,7 +93,7 @@ TEST_F(Appfw, a_signal_ends_it_through_terminate)
     ExpectTold({"create", "request start", "resume", "terminate"});
 }
 
-TEST_F(Appfw, what_is_no_string_or_too_large_is_refused_by_its_key_and_never_seen)
+TEST_F(Appfw, WhatIsNoStringOrTooLargeIsRefusedByItsKeyAndNeverSeen)
 {
     constexpr std::size_t LONGEST = 256UL * 1024;
     const std::string longText(LONGEST, 'x');
@@ -130,7 +130,7 @@ TEST_F(Appfw, what_is_no_string_or_too_large_is_refused_by_its_key_and_never_see
     ExpectTold({"create", "request whole", "resume", "request "});
 }
 
-TEST_F(Appfw, requests_are_told_once_and_in_their_order_whenever_the_process_ends)
+TEST_F(Appfw, RequestsAreToldOnceAndInTheirOrderWheneverTheProcessEnds)
 {
     constexpr int ROUNDS = 40;
     constexpr int BURST = 12;
@@ -165,7 +165,7 @@ TEST_F(Appfw, requests_are_told_once_and_in_their_order_whenever_the_process_end
     EXPECT_GT(CountInLog("passed on to the next process"), ROUNDS) << "no request met the end of the process";
 }
 
-TEST_F(Appfw, a_leaving_process_that_hangs_does_not_keep_the_next_one_for_ever)
+TEST_F(Appfw, ALeavingProcessThatHangsDoesNotKeepTheNextOneForEver)
 {
     const std::string leaving = Applications::LeavingNameOf(Applications::DIALOGUES);
     m_bus->requestName(leaving); // and answers nothing
@@ -174,13 +174,13 @@ TEST_F(Appfw, a_leaving_process_that_hangs_does_not_keep_the_next_one_for_ever)
     ExpectTold({"create", "request first", "resume"});
 }
 
-TEST_F(Appfw, an_application_that_nobody_has_is_not_found)
+TEST_F(Appfw, AnApplicationThatNobodyHasIsNotFound)
 {
     SendRaw(Request("start", "launch nobody"));
     ExpectTold({"create", "request start", "launch -17825759", "resume"});
 }
 
-TEST_F(Appfw, what_is_sent_in_terminate_arrives_though_its_target_starts_slowly)
+TEST_F(Appfw, WhatIsSentInTerminateArrivesThoughItsTargetStartsSlowly)
 {
     const std::pair<std::string, std::string> programs[] = {
         {"org.tizen.slow", "sleep 0.2; exec " PROBE},
@@ -209,14 +209,14 @@ TEST_F(Appfw, what_is_sent_in_terminate_arrives_though_its_target_starts_slowly)
     ExpectTold(expected);
 }
 
-TEST_F(Appfw, without_a_bus_or_when_create_fails_it_ends_with_an_error)
+TEST_F(Appfw, WithoutABusOrWhenCreateFailsItEndsWithAnError)
 {
     EXPECT_EQ(Process(InLog("PROBE_CREATE_FAILS=1")).Status(), 1);
     EXPECT_EQ(Process({"env", "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere", PROBE}).Status(), 1);
     ExpectTold({"create"});
 }
 
-TEST_F(Appfw, when_the_bus_dies_it_ends_through_terminate)
+TEST_F(Appfw, WhenTheBusDiesItEndsThroughTerminate)
 {
     Events expected;
     for (const bool endsAlready : {false, true})

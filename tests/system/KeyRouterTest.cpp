@@ -54,14 +54,14 @@ protected:
     std::optional<WaylandWindow> m_third;
 };
 
-TEST_F(KeyRouter, sends_a_key_that_nobody_grabbed_to_the_window_with_the_focus)
+TEST_F(KeyRouter, SendsAKeyThatNobodyGrabbedToTheWindowWithTheFocus)
 {
     EXPECT_EQ(WhoHears("Up"), "upper");
     CloseUpper();
     EXPECT_EQ(WhoHears("Up"), "lower");
 }
 
-TEST_F(KeyRouter, sends_an_exclusive_key_to_its_holder_whatever_others_asked_for)
+TEST_F(KeyRouter, SendsAnExclusiveKeyToItsHolderWhateverOthersAskedFor)
 {
     EXPECT_TRUE(m_upper->Grab("XF86Back", KEYROUTER_MODE_REGISTERED));
     EXPECT_TRUE(m_upper->Grab("XF86Back", KEYROUTER_MODE_TOPMOST));
@@ -71,7 +71,7 @@ TEST_F(KeyRouter, sends_an_exclusive_key_to_its_holder_whatever_others_asked_for
     EXPECT_EQ(WhoHears("XF86Back"), "upper");
 }
 
-TEST_F(KeyRouter, gives_a_key_exclusively_to_one_window_at_a_time)
+TEST_F(KeyRouter, GivesAKeyExclusivelyToOneWindowAtATime)
 {
     EXPECT_TRUE(m_lower->Grab("7", KEYROUTER_MODE_EXCLUSIVE));
     EXPECT_FALSE(m_upper->Grab("7", KEYROUTER_MODE_EXCLUSIVE));
@@ -81,7 +81,7 @@ TEST_F(KeyRouter, gives_a_key_exclusively_to_one_window_at_a_time)
     EXPECT_TRUE(m_upper->Grab("7", KEYROUTER_MODE_EXCLUSIVE));
 }
 
-TEST_F(KeyRouter, sends_to_a_window_that_is_not_shown_only_what_it_holds_exclusively)
+TEST_F(KeyRouter, SendsToAWindowThatIsNotShownOnlyWhatItHoldsExclusively)
 {
     m_third.emplace();
     EXPECT_TRUE(m_third->Grab("XF86Exit", KEYROUTER_MODE_EXCLUSIVE));
@@ -90,7 +90,7 @@ TEST_F(KeyRouter, sends_to_a_window_that_is_not_shown_only_what_it_holds_exclusi
     EXPECT_EQ(WhoHears("Return"), "upper");
 }
 
-TEST_F(KeyRouter, sends_a_registered_key_to_the_topmost_window_that_registered_it)
+TEST_F(KeyRouter, SendsARegisteredKeyToTheTopmostWindowThatRegisteredIt)
 {
     EXPECT_TRUE(m_lower->Grab("Return", KEYROUTER_MODE_REGISTERED));
     EXPECT_EQ(WhoHears("Return"), "lower");
@@ -98,7 +98,7 @@ TEST_F(KeyRouter, sends_a_registered_key_to_the_topmost_window_that_registered_i
     EXPECT_EQ(WhoHears("Return"), "upper");
 }
 
-TEST_F(KeyRouter, sends_a_registered_key_to_a_window_whose_picture_is_on_the_way_when_no_other_registered_it)
+TEST_F(KeyRouter, SendsARegisteredKeyToAWindowWhosePictureIsOnTheWayWhenNoOtherRegisteredIt)
 {
     m_third.emplace().BeginToShow();
     EXPECT_TRUE(m_third->Grab("Return", KEYROUTER_MODE_REGISTERED));
@@ -109,7 +109,7 @@ TEST_F(KeyRouter, sends_a_registered_key_to_a_window_whose_picture_is_on_the_way
     EXPECT_EQ(WhoHears("Return"), "third");
 }
 
-TEST_F(KeyRouter, sends_a_topmost_key_to_its_holder_only_while_that_is_the_topmost_window)
+TEST_F(KeyRouter, SendsATopmostKeyToItsHolderOnlyWhileThatIsTheTopmostWindow)
 {
     EXPECT_TRUE(m_lower->Grab("XF86More", KEYROUTER_MODE_TOPMOST));
     EXPECT_EQ(WhoHears("XF86More"), "upper");
@@ -119,7 +119,7 @@ TEST_F(KeyRouter, sends_a_topmost_key_to_its_holder_only_while_that_is_the_topmo
     EXPECT_EQ(WhoHears("XF86More"), "upper");
 }
 
-TEST_F(KeyRouter, lets_a_key_up_where_it_went_down)
+TEST_F(KeyRouter, LetsAKeyUpWhereItWentDown)
 {
     m_remote.Ask("down 5");
     m_third.emplace().Show();
@@ -128,7 +128,7 @@ TEST_F(KeyRouter, lets_a_key_up_where_it_went_down)
     EXPECT_TRUE(m_third->Heard().empty());
 }
 
-TEST_F(KeyRouter, gives_the_focus_back_after_a_key_that_went_elsewhere)
+TEST_F(KeyRouter, GivesTheFocusBackAfterAKeyThatWentElsewhere)
 {
     EXPECT_TRUE(m_lower->Grab("1", KEYROUTER_MODE_EXCLUSIVE));
     EXPECT_EQ(WhoHears("1"), "lower");
@@ -136,7 +136,7 @@ TEST_F(KeyRouter, gives_the_focus_back_after_a_key_that_went_elsewhere)
     EXPECT_FALSE(m_lower->HasFocus());
 }
 
-TEST_F(KeyRouter, forgets_the_grabs_and_the_held_key_of_a_client_that_dies)
+TEST_F(KeyRouter, ForgetsTheGrabsAndTheHeldKeyOfAClientThatDies)
 {
     EXPECT_TRUE(m_upper->Grab("XF86Exit", KEYROUTER_MODE_EXCLUSIVE));
     EXPECT_TRUE(m_upper->Grab("Up", KEYROUTER_MODE_REGISTERED));
@@ -149,14 +149,14 @@ TEST_F(KeyRouter, forgets_the_grabs_and_the_held_key_of_a_client_that_dies)
     EXPECT_EQ(WhoHears("XF86Exit"), "lower");
 }
 
-TEST_F(KeyRouter, forgets_the_grabs_of_a_client_that_has_done_with_it)
+TEST_F(KeyRouter, ForgetsTheGrabsOfAClientThatHasDoneWithIt)
 {
     EXPECT_TRUE(m_upper->Grab("XF86Exit", KEYROUTER_MODE_EXCLUSIVE));
     m_upper->Unbind();
     EXPECT_TRUE(WaitUntil([this] { return m_remote.Ask("grabs").empty(); }));
 }
 
-TEST_F(KeyRouter, releases_what_is_not_held_but_not_what_is_held_in_the_other_strength)
+TEST_F(KeyRouter, ReleasesWhatIsNotHeldButNotWhatIsHeldInTheOtherStrength)
 {
     EXPECT_TRUE(m_upper->Ungrab("XF86Info", KEYROUTER_MODE_EXCLUSIVE));
     EXPECT_TRUE(m_upper->Grab("XF86Info", KEYROUTER_MODE_TOPMOST));
@@ -167,13 +167,13 @@ TEST_F(KeyRouter, releases_what_is_not_held_but_not_what_is_held_in_the_other_st
     EXPECT_TRUE(m_remote.Ask("grabs").empty());
 }
 
-TEST_F(KeyRouter, refuses_a_key_that_does_not_exist)
+TEST_F(KeyRouter, RefusesAKeyThatDoesNotExist)
 {
     EXPECT_FALSE(m_upper->Grab("XF86Nonsense", KEYROUTER_MODE_REGISTERED));
     EXPECT_THROW(m_remote.Ask("press Nonsense"), veskar::RemoteRefusal);
 }
 
-TEST_F(KeyRouter, lies_in_a_compositor_that_shows_lower_windows_through_the_upper_ones)
+TEST_F(KeyRouter, LiesInACompositorThatShowsLowerWindowsThroughTheUpperOnes)
 {
     const Picture both = Shot();
     CloseUpper();

@@ -11,7 +11,7 @@ using testing::_, testing::AllOf, testing::Contains, testing::Each, testing::Key
 
 using Message = TvTest;
 
-TEST_F(Message, answers_the_button_that_the_viewer_chose)
+TEST_F(Message, AnswersTheButtonThatTheViewerChose)
 {
     Process request = SendMessage(7, 255, {"--button", "Yes", "--button", "No"});
     Press({"Right", "Return"});
@@ -19,7 +19,7 @@ TEST_F(Message, answers_the_button_that_the_viewer_chose)
     EXPECT_TRUE(WaitUntil([this] { return Grabs().empty(); }));
 }
 
-TEST_F(Message, stays_when_a_close_names_another_id_and_goes_when_it_names_its_own)
+TEST_F(Message, StaysWhenACloseNamesAnotherIdAndGoesWhenItNamesItsOwn)
 {
     Process request = SendMessage(7, 255, {"--button", "Yes"});
     const Picture shown = StillShot();
@@ -35,7 +35,7 @@ TEST_F(Message, stays_when_a_close_names_another_id_and_goes_when_it_names_its_o
     ChangedShot(shown);
 }
 
-TEST_F(Message, turns_the_pages_of_a_long_text)
+TEST_F(Message, TurnsThePagesOfALongText)
 {
     std::string text;
     for (int i = 1; text.size() < 2000; ++i)
@@ -60,7 +60,7 @@ class Replacements : public TvTest, public ::testing::WithParamInterface<int>
 {
 };
 
-TEST_P(Replacements, leave_the_last_one_hearing_keys_and_every_other_answered_once)
+TEST_P(Replacements, LeaveTheLastOneHearingKeysAndEveryOtherAnsweredOnce)
 {
     constexpr int COUNT = 20;
     std::vector<Process> requests;
@@ -92,14 +92,14 @@ INSTANTIATE_TEST_SUITE_P(Apart, Replacements, ::testing::Values(3, 100));
 
 using Keys = TvTest;
 
-TEST_F(Keys, of_a_privileged_screen_are_the_channel_changers_for_itself_alone)
+TEST_F(Keys, OfAPrivilegedScreenAreTheChannelChangersForItselfAlone)
 {
     Process request = SendMessage(7, 254, {"--button", "OK"});
     // The group has 80 entries, 8 of which repeat another.
     EXPECT_THAT(Grabs(), AllOf(SizeIs(72), Contains(Key("XF86RaiseChannel")), Each(Pair(Ne("Return"), "exclusive"))));
 }
 
-TEST_F(Keys, that_another_client_holds_for_itself_alone_are_held_topmost)
+TEST_F(Keys, ThatAnotherClientHoldsForItselfAloneAreHeldTopmost)
 {
     const std::string other = "org.tizen.another-app";
     Process process({"env", "VESKAR_APP_ID=" + other, VESKAR_APPLICATION_PROGRAM});
@@ -112,7 +112,7 @@ TEST_F(Keys, that_another_client_holds_for_itself_alone_are_held_topmost)
     EXPECT_THAT(Grabs(), AllOf(SizeIs(72), Each(Pair(_, "topmost"))));
 }
 
-TEST_F(Keys, need_no_router_for_the_screen_to_show_and_be_answered)
+TEST_F(Keys, NeedNoRouterForTheScreenToShowAndBeAnswered)
 {
     const std::string log = Environment("XDG_RUNTIME_DIR") + "/no-router.log";
     const std::string script = "veskar-mw --ui-id 7 message --text Hello --button OK & "

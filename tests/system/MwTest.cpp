@@ -138,7 +138,7 @@ TEST_F(MwTest, BadUsageIsRefusedWithoutARequest)
          {"", "bogus", "menu", "menu nowhere", "raw a", "raw a=1 a[]=2", "--source-id 256 message",
           "--ui-id 010 message", "--timeout 0 message", "--timeout nan message", "image --width 0x10",
           "image --height -1", "progress --percent 101", "message --title $(printf '\\377')",
-          "list --entries-from /nowhere"})
+          "list --entries-from /nowhere", "list --entries-from /"})
     {
         Process mw({"sh", "-c", "veskar-mw " + usage});
         EXPECT_EQ(mw.Status(), 64) << usage;

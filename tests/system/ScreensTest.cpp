@@ -94,7 +94,7 @@ protected:
     }
 };
 
-TEST_F(Screens, select_answers_the_toolkits_index_of_the_pressed_row)
+TEST_F(Screens, SelectAnswersTheToolkitsIndexOfThePressedRow)
 {
     ExpectKeysAnswer("select", Rows(5), {"Down", "Down", "Return"}, Answer(7, 255, 0, 0, 3));
     ExpectKeysAnswer("select", Rows(5), {"Return"}, Answer(7, 255, 0, 0, 1));
@@ -104,7 +104,7 @@ TEST_F(Screens, select_answers_the_toolkits_index_of_the_pressed_row)
     ExpectCloseAndReplace("select", Rows(5));
 }
 
-TEST_F(Screens, select_begins_on_its_first_row_whatever_the_rows_and_the_screen_before)
+TEST_F(Screens, SelectBeginsOnItsFirstRowWhateverTheRowsAndTheScreenBefore)
 {
     const Words rows{"--format", "L", "--entry", "one", "--entry", std::string(240, 'n'), "--entry", "three"};
     Process message = SendMessage(8, 255, {"--button", "OK"});
@@ -117,7 +117,7 @@ TEST_F(Screens, select_begins_on_its_first_row_whatever_the_rows_and_the_screen_
     EXPECT_EQ(list.Status(), 2);
 }
 
-TEST_F(Screens, select_loses_no_key_of_a_viewer_who_runs_down_its_rows)
+TEST_F(Screens, SelectLosesNoKeyOfAViewerWhoRunsDownItsRows)
 {
     Process request = SendKind("select", Rows(40));
     StillShot();
@@ -125,7 +125,7 @@ TEST_F(Screens, select_loses_no_key_of_a_viewer_who_runs_down_its_rows)
     ExpectAnswer(request, Answer(7, 255, 0, 0, 26));
 }
 
-TEST_F(Screens, list_says_nothing_of_a_pressed_row)
+TEST_F(Screens, ListSaysNothingOfAPressedRow)
 {
     Process request = SendKind("list", Rows(5));
     ExpectSilence(request, {"Return", "Down", "Return"});
@@ -135,7 +135,7 @@ TEST_F(Screens, list_says_nothing_of_a_pressed_row)
     ExpectCloseAndReplace("list", Rows(5));
 }
 
-TEST_F(Screens, list_of_many_rows_keeps_the_focused_one_in_view)
+TEST_F(Screens, ListOfManyRowsKeepsTheFocusedOneInView)
 {
     Process request = SendKind("list", Rows(40));
     const Picture top = StillShot();
@@ -145,7 +145,7 @@ TEST_F(Screens, list_of_many_rows_keeps_the_focused_one_in_view)
     EXPECT_TRUE(WaitUntil([&] { return Shot() == top; })) << "the first row does not come back";
 }
 
-TEST_F(Screens, list_of_one_row_is_the_same_whatever_hangs_over_its_end_and_whatever_was_shown_before)
+TEST_F(Screens, ListOfOneRowIsTheSameWhateverHangsOverItsEndAndWhateverWasShownBefore)
 {
     const auto show = [this](const std::string& end)
     {
@@ -160,7 +160,7 @@ TEST_F(Screens, list_of_one_row_is_the_same_whatever_hangs_over_its_end_and_what
     EXPECT_EQ(list.Status() + message.Status(), 4);
 }
 
-TEST_F(Screens, multi_list_answers_the_marked_rows_with_its_first_button)
+TEST_F(Screens, MultiListAnswersTheMarkedRowsWithItsFirstButton)
 {
     const Words values = Rows(4) + Words{"--button", "Delete", "--button", "Cancel"};
     const Words press{"Return"};
@@ -173,7 +173,7 @@ TEST_F(Screens, multi_list_answers_the_marked_rows_with_its_first_button)
     ExpectCloseAndReplace("multi-list", values);
 }
 
-TEST_F(Screens, pin_arrives_as_typed_and_corrected)
+TEST_F(Screens, PinArrivesAsTypedAndCorrected)
 {
     ExpectKeysAnswer("pin", {"--title", "PIN"}, {"1", "2", "BackSpace", "3", "4", "5"},
                      Answer(7, 255, 0, 0, 0, "1345"));
@@ -182,7 +182,7 @@ TEST_F(Screens, pin_arrives_as_typed_and_corrected)
     EXPECT_EQ(CountInLog("1345"), 0) << "the log shows a PIN";
 }
 
-TEST_F(Screens, pin_takes_the_digits_of_the_number_pad)
+TEST_F(Screens, PinTakesTheDigitsOfTheNumberPad)
 {
     Process request = SendKind("pin", {"--title", "PIN"});
     const Picture without = StillShot();
@@ -197,7 +197,7 @@ TEST_F(Screens, pin_takes_the_digits_of_the_number_pad)
     EXPECT_TRUE(WaitUntil([this] { return Grabs("veskar-numpad").empty(); }));
 }
 
-TEST_F(Screens, pin_stays_when_the_number_pad_goes_and_does_without_where_there_is_none)
+TEST_F(Screens, PinStaysWhenTheNumberPadGoesAndDoesWithoutWhereThereIsNone)
 {
     constexpr const char* FEATURE = "com.brelmon/featureconf/bt_profile_bt_smart_control";
     Process request = SendKind("pin", {"--title", "PIN"});
@@ -229,7 +229,7 @@ TEST_F(Screens, pin_stays_when_the_number_pad_goes_and_does_without_where_there_
     EXPECT_TRUE(NumberPadIs("0"));
 }
 
-TEST_F(Screens, progress_updates_in_place_and_answers_its_button_alone)
+TEST_F(Screens, ProgressUpdatesInPlaceAndAnswersItsButtonAlone)
 {
     Process request = SendKind("progress", {"--title", "Scan", "--percent", "0", "--button", "Cancel"});
     Picture before = StillShot();
@@ -249,7 +249,7 @@ TEST_F(Screens, progress_updates_in_place_and_answers_its_button_alone)
     ExpectCloseAndReplace("progress", {"--title", "Scan", "--percent", "5"});
 }
 
-TEST_F(Screens, loading_answers_its_button_alone)
+TEST_F(Screens, LoadingAnswersItsButtonAlone)
 {
     Process request = SendKind("loading", {"--text", "Please wait", "--button", "Cancel"});
     Press({"Back", "Exit"});
@@ -259,7 +259,7 @@ TEST_F(Screens, loading_answers_its_button_alone)
     ExpectCloseAndReplace("loading", {"--text", "Please wait"});
 }
 
-TEST_F(Screens, image_shows_its_texts_and_buttons_whatever_its_file_is)
+TEST_F(Screens, ImageShowsItsTextsAndButtonsWhateverItsFileIs)
 {
     const std::string notAnImage = Environment("XDG_RUNTIME_DIR") + "/text.png";
     std::ofstream(notAnImage) << "no image";
@@ -273,7 +273,7 @@ TEST_F(Screens, image_shows_its_texts_and_buttons_whatever_its_file_is)
     ExpectCloseAndReplace("image", {"--title", "Logo"});
 }
 
-TEST_F(Screens, image_of_enormous_size_leaves_the_texts_their_room_and_gives_its_memory_back)
+TEST_F(Screens, ImageOfEnormousSizeLeavesTheTextsTheirRoomAndGivesItsMemoryBack)
 {
     Process before = SendKind("image", {"--title", "Logo", "--button", "OK"});
     Picture last = StillShot();
@@ -298,7 +298,7 @@ TEST_F(Screens, image_of_enormous_size_leaves_the_texts_their_room_and_gives_its
     std::remove(enormous.c_str());
 }
 
-TEST_F(Screens, image_list_follows_the_row_and_answers_it)
+TEST_F(Screens, ImageListFollowsTheRowAndAnswersIt)
 {
     const Words values = Rows(3) + Words{"--image",  GreyImage("first", 400, 40),
                                          "--image",  GreyImage("second", 400, 120),

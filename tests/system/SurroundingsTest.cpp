@@ -25,7 +25,7 @@ protected:
     }
 };
 
-TEST_F(Surroundings, direction_and_language_reach_the_running_application)
+TEST_F(Surroundings, DirectionAndLanguageReachTheRunningApplication)
 {
     Process leftToRight = SendMessage(7, 255, {"--button", "Yes", "--button", "No"});
     const Picture before = StillShot();
@@ -41,7 +41,7 @@ TEST_F(Surroundings, direction_and_language_reach_the_running_application)
     ExpectAnswer(rightToLeft, Answer(8, 255, 0, 2, 0));
 }
 
-TEST_F(Surroundings, enlarged_text_leaves_the_shown_screen_alone_and_is_the_next_ones_as_if_it_had_always_been_on)
+TEST_F(Surroundings, EnlargedTextLeavesTheShownScreenAloneAndIsTheNextOnesAsIfItHadAlwaysBeenOn)
 {
     Process shown = SendMessage(7, 255, {"--button", "OK"});
     const Picture before = StillShot();
@@ -54,7 +54,7 @@ TEST_F(Surroundings, enlarged_text_leaves_the_shown_screen_alone_and_is_the_next
     EXPECT_TRUE(StillShot() == followed) << "not all of it is enlarged";
 }
 
-TEST_F(Surroundings, the_screen_is_raised_above_the_setup_wizard)
+TEST_F(Surroundings, TheScreenIsRaisedAboveTheSetupWizard)
 {
     const std::string raised = "Adjusting the Kavro UI layer";
     Process alone = SendMessage(7, 255);
@@ -65,7 +65,7 @@ TEST_F(Surroundings, the_screen_is_raised_above_the_setup_wizard)
     EXPECT_EQ(CountInLog(raised), 1);
 }
 
-TEST_F(Surroundings, a_menu_position_reaches_the_middleware_and_its_screen_follows)
+TEST_F(Surroundings, AMenuPositionReachesTheMiddlewareAndItsScreenFollows)
 {
     EXPECT_EQ(RunCommand({"veskar-mw", "menu", "veskar_delete_op"}),
               "{\"task\":\"name:menu \",\"action\":\"stop\"}\n{\"menuPosition\":3}\n");
@@ -74,7 +74,7 @@ TEST_F(Surroundings, a_menu_position_reaches_the_middleware_and_its_screen_follo
     ExpectAnswer(screen, Answer(7, 255, 0, 1, 0));
 }
 
-TEST_F(Surroundings, a_command_in_a_tv_finds_a_bus_that_was_slow_to_listen)
+TEST_F(Surroundings, ACommandInATvFindsABusThatWasSlowToListen)
 {
     const std::string folder = Environment("XDG_RUNTIME_DIR");
     const std::string slowBus = folder + "/dbus-daemon";
