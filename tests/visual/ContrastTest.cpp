@@ -1,10 +1,12 @@
 // The contrasts of the theme, computed from the colours in its compiled files, and their table in the documents.
 #include <Ecore_Evas.h>
 #include <Edje.h>
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <iostream>
 #include <map>
 #include <sstream>
 

@@ -37,18 +37,20 @@ closed when the second takes its place; a progress screen updated in place answe
 Texts Lines(const std::string& fileName)
 {
     std::ifstream file;
+    std::istream& input = fileName == "-" ? std::cin : file;
     if (fileName != "-")
     {
         file.open(fileName);
-        if (!file)
-        {
-            throw CLI::ValidationError(fileName, "cannot be read");
-        }
     }
     Texts lines;
-    for (std::string line; std::getline(fileName == "-" ? std::cin : file, line);)
+    for (std::string line; std::getline(input, line);)
     {
         lines.push_back(line);
+    }
+    // A folder can be opened, and fails with the first line.
+    if (input.bad() || (fileName != "-" && !file.is_open()))
+    {
+        throw CLI::ValidationError(fileName, "cannot be read");
     }
     return lines;
 }
