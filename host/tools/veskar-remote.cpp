@@ -10,7 +10,6 @@
 #include <CLI/CLI.hpp>
 #include <chrono>
 #include <filesystem>
-#include <functional>
 #include <iostream>
 #include <thread>
 
@@ -23,7 +22,7 @@ constexpr int NO_COMPOSITOR = 69;
 
 using Keys = std::vector<std::string>;
 
-void PressAll(veskar::RemoteClient& remote, const Keys& keys, std::chrono::milliseconds gap)
+void SendAll(veskar::RemoteClient& remote, const std::string& command, const Keys& keys, std::chrono::milliseconds gap)
 {
     for (size_t i = 0; i < keys.size(); ++i)
     {
@@ -31,7 +30,7 @@ void PressAll(veskar::RemoteClient& remote, const Keys& keys, std::chrono::milli
         {
             std::this_thread::sleep_for(gap);
         }
-        remote.Ask("press " + keys[i]);
+        remote.Ask(command + " " + keys[i]);
     }
 }
 
@@ -55,72 +54,52 @@ void Print(const std::vector<std::string>& lines)
     }
 }
 
+/** What the command line asks for; a sub-command has the name of the compositor's own command. */
+struct Wanted
+{
+    std::string command;
+    Keys keys;
+    int gap = 20;
+    std::string file;
+};
+
+void AddCommands(CLI::App& app, Wanted& wanted)
+{
+    CLI::App* press = app.add_subcommand("press", "Press keys, one after the other");
+    press->add_option("KEY", wanted.keys)->required();
+    press->add_option("--gap", wanted.gap, "Milliseconds between two keys")
+        ->capture_default_str()
+        ->check(CLI::NonNegativeNumber);
+    app.add_subcommand("down", "Press a key and hold it")->add_option("KEY", wanted.keys)->required()->expected(1);
+    app.add_subcommand("up", "Let a held key go")->add_option("KEY", wanted.keys)->required()->expected(1);
+    app.add_subcommand("shot", "Save what is on the screen")->add_option("FILE.png", wanted.file)->required();
+    app.add_subcommand("keys", "List every key's platform name");
+    app.add_subcommand("grabs", "List who holds which key: key, mode, process id/program");
+    app.require_subcommand(1);
+    app.footer("KEY is a platform name (XF86Back) or the part of it that one would type (back, play, 7).");
+}
+
+void Do(const Wanted& wanted, veskar::RemoteClient& remote)
+{
+    if (wanted.command == "shot")
+    {
+        remote.Ask("shot " + WholePath(wanted.file));
+    }
+    else if (!wanted.keys.empty())
+    {
+        SendAll(remote, wanted.command, wanted.keys, std::chrono::milliseconds(wanted.gap));
+    }
+    else
+    {
+        Print(remote.Ask(wanted.command));
+    }
+}
+
 int Run(int argc, char* argv[])
 {
     CLI::App app{"The remote control of a desk TV"};
-    app.require_subcommand(1);
-    app.footer("KEY is a platform name (XF86Back) or the part of it that one would type (back, play, 7).");
-
-    // What to do is known when the command line is read, and done when all of it was right.
-    std::function<void(veskar::RemoteClient&)> action;
-    Keys keys;
-    std::string key;
-    std::string file;
-    int gap = 20;
-
-    CLI::App* press = app.add_subcommand("press", "Press keys, one after the other");
-    press->add_option("KEY", keys)->required();
-    press->add_option("--gap", gap, "Milliseconds between two keys")
-        ->capture_default_str()
-        ->check(CLI::NonNegativeNumber);
-    press->callback(
-        [&]
-        {
-            action = [&](auto& remote)
-            {
-                PressAll(remote, keys, std::chrono::milliseconds(gap));
-            };
-        });
-
-    for (const auto& [name, help] : {std::pair{"down", "Press a key and hold it"}, {"up", "Let a held key go"}})
-    {
-        CLI::App* command = app.add_subcommand(name, help);
-        command->add_option("KEY", key)->required();
-        command->callback(
-            [&, name = name]
-            {
-                action = [&, name](auto& remote)
-                {
-                    remote.Ask(name + (" " + key));
-                };
-            });
-    }
-
-    CLI::App* shot = app.add_subcommand("shot", "Save what is on the screen");
-    shot->add_option("FILE.png", file)->required();
-    shot->callback(
-        [&]
-        {
-            action = [&](auto& remote)
-            {
-                remote.Ask("shot " + WholePath(file));
-            };
-        });
-
-    for (const auto& [name, help] : {std::pair{"keys", "List every key's platform name"},
-                                     {"grabs", "List who holds which key: key, mode, process id/program"}})
-    {
-        app.add_subcommand(name, help)
-            ->callback(
-                [&, name = name]
-                {
-                    action = [name](auto& remote)
-                    {
-                        Print(remote.Ask(name));
-                    };
-                });
-    }
-
+    Wanted wanted;
+    AddCommands(app, wanted);
     try
     {
         app.parse(argc, argv);
@@ -129,8 +108,9 @@ int Run(int argc, char* argv[])
     {
         return app.exit(error) == 0 ? 0 : BAD_USAGE;
     }
+    wanted.command = app.get_subcommands().front()->get_name();
     veskar::RemoteClient remote(veskar::RemoteSocketPath());
-    action(remote);
+    Do(wanted, remote);
     return 0;
 }
 

@@ -4,6 +4,8 @@
 #include "Log.h"
 #include "VesKarKeyRouter.h"
 
+#include <iterator>
+
 #include <Ecore_Evas.h>
 #include <ecore_wayland.h>
 #include <key_router.h>
@@ -15,6 +17,31 @@ namespace
 {
 
 constexpr const char* EXIT_KEY = "XF86Exit";
+
+constexpr const char* NUMBER_KEYS[] = {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"};
+
+constexpr const char* NAVIGATION_KEYS[] = {"XF86Exit", "XF86Back", "Return", "Up", "Left", "Right", "Down"};
+
+constexpr const char* PVR_KEYS[] = {"XF86AudioRewind", "XF86AudioPause", "XF86AudioNext", "XF86AudioRecord",
+                                    "XF86AudioPlay",   "XF86AudioStop",  "XF86PlayBack",  "XF86More"};
+
+// Some names stand here twice; taking a key again is harmless. By itself the formatter takes a line for each.
+// clang-format off
+constexpr const char* CHANNEL_CHANGE_KEYS[] = {
+    "XF86ChannelList", "XF86RaiseChannel", "XF86LowerChannel", "XF86PreviousChannel", "XF86SysMenu",
+    "XF86ChannelGuide", "XF86Search", "XF86SimpleMenu", "XF86Info", "XF86Display", "XF86Hdmi", "XF86Home",
+    "XF86PIP", "XF86PictureMode", "XF86UsbHub", "XF86PictureSize", "XF86FavoriteChannel", "XF86ChannelList",
+    "XF86ChannelGuide", "XF86Game", "XF86PreviousChannel", "XF86FavoriteChannel", "XF86BTContentsBar", "XF86Back",
+    "XF863D", "XF86TVSNS", "XF86WIFIPairing", "XF86BTVoice", "XF86Recommend", "XF86AspectRatio169", "XF86MTS",
+    "XF86FactoryMode", "XF86SoundMode", "XF86Apps", "XF86TTXMIX", "XF86Caption", "XF86SRSSXT", "XF86EManual",
+    "XF86UsbHub", "XF86More", "XF86TV", "XF86DTV", "XF86ChannelAddDel", "XF86PanelDown", "XF86WWW",
+    "XF86BTColorMecha", "XF86StillPicture", "XF86BTPairing", "XF86BTHotkey", "XF86BTDevice", "XF86BTContentsBar",
+    "XF86PIPChannelUp", "XF86PIPChannelDown", "XF86Antena", "XF86ChannelAutoTune", "XF86PanelEnter", "XF86MBRLink",
+    "XF86PanelUp", "XF86WheelLeftKey", "XF86WheelRightKey", "XF86PanelExit", "XF86Recommend", "XF86NumberPad",
+    "XF86DualView", "XF86BTApps", "XF86Subtitle", "XF86DVR", "XF86Camera", "XF86ZoomIn", "XF86PanelPlus",
+    "XF86PanelMinus", "XF86SoccerMode", "XF86Amazon", "XF86AudioDescription", "XF86Netflix", "XF86PIP",
+    "XF86Pellandor", "XF86HDMICEC", "XF86LeftPage", "XF86RightPage"};
+// clang-format on
 
 wl_display* ConnectedDisplay()
 {
@@ -51,7 +78,7 @@ _KeyList RegisteredKeyList(const std::vector<const char*>& keys)
 
 void m_AddNavigationKeys(_KeyList& list)
 {
-    for (const char* key : {"XF86Exit", "XF86Back", "Return", "Up", "Left", "Right", "Down"})
+    for (const char* key : NAVIGATION_KEYS)
     {
         KeyRouter_Add_Key(key, KEYROUTER_MODE_REGISTERED, &list);
     }
@@ -89,91 +116,9 @@ void UnregisterKeyList(wl_surface* surface, const _KeyList& list)
 } // namespace
 
 KeySubscriber::KeySubscriber(Evas_Object* window)
-    : m_window(window), m_numberKeys{"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"},
-      // Some names stand here twice; taking a key again is harmless.
-      m_channelChangeKeys{"XF86ChannelList",
-                          "XF86RaiseChannel",
-                          "XF86LowerChannel",
-                          "XF86PreviousChannel",
-                          "XF86SysMenu",
-                          "XF86ChannelGuide",
-                          "XF86Search",
-                          "XF86SimpleMenu",
-                          "XF86Info",
-                          "XF86Display",
-                          "XF86Hdmi",
-                          "XF86Home",
-                          "XF86PIP",
-                          "XF86PictureMode",
-                          "XF86UsbHub",
-                          "XF86PictureSize",
-                          "XF86FavoriteChannel",
-                          "XF86ChannelList",
-                          "XF86ChannelGuide",
-                          "XF86Game",
-                          "XF86PreviousChannel",
-                          "XF86FavoriteChannel",
-                          "XF86BTContentsBar",
-                          "XF86Back",
-                          "XF863D",
-                          "XF86TVSNS",
-                          "XF86WIFIPairing",
-                          "XF86BTVoice",
-                          "XF86Recommend",
-                          "XF86AspectRatio169",
-                          "XF86MTS",
-                          "XF86FactoryMode",
-                          "XF86SoundMode",
-                          "XF86Apps",
-                          "XF86TTXMIX",
-                          "XF86Caption",
-                          "XF86SRSSXT",
-                          "XF86EManual",
-                          "XF86UsbHub",
-                          "XF86More",
-                          "XF86TV",
-                          "XF86DTV",
-                          "XF86ChannelAddDel",
-                          "XF86PanelDown",
-                          "XF86WWW",
-                          "XF86BTColorMecha",
-                          "XF86StillPicture",
-                          "XF86BTPairing",
-                          "XF86BTHotkey",
-                          "XF86BTDevice",
-                          "XF86BTContentsBar",
-                          "XF86PIPChannelUp",
-                          "XF86PIPChannelDown",
-                          "XF86Antena",
-                          "XF86ChannelAutoTune",
-                          "XF86PanelEnter",
-                          "XF86MBRLink",
-                          "XF86PanelUp",
-                          "XF86WheelLeftKey",
-                          "XF86WheelRightKey",
-                          "XF86PanelExit",
-                          "XF86Recommend",
-                          "XF86NumberPad",
-                          "XF86DualView",
-                          "XF86BTApps",
-                          "XF86Subtitle",
-                          "XF86DVR",
-                          "XF86Camera",
-                          "XF86ZoomIn",
-                          "XF86PanelPlus",
-                          "XF86PanelMinus",
-                          "XF86SoccerMode",
-                          "XF86Amazon",
-                          "XF86AudioDescription",
-                          "XF86Netflix",
-                          "XF86PIP",
-                          "XF86Pellandor",
-                          "XF86HDMICEC",
-                          "XF86LeftPage",
-                          "XF86RightPage"},
-      m_pvrKeys{"XF86AudioRewind", "XF86AudioPause", "XF86AudioNext", "XF86AudioRecord",
-                "XF86AudioPlay",   "XF86AudioStop",  "XF86PlayBack",  "XF86More"},
-      m_wlDisplay(nullptr), m_surface(nullptr)
+    : m_window(window), m_numberKeys(std::begin(NUMBER_KEYS), std::end(NUMBER_KEYS)),
+      m_channelChangeKeys(std::begin(CHANNEL_CHANGE_KEYS), std::end(CHANNEL_CHANGE_KEYS)),
+      m_pvrKeys(std::begin(PVR_KEYS), std::end(PVR_KEYS)), m_wlDisplay(nullptr), m_surface(nullptr)
 {
     LOG_ENTRY_INFO();
     m_wlDisplay = ConnectedDisplay();

@@ -561,14 +561,13 @@ bool WindowManager::m_HotelFactoryMode()
 void WindowManager::m_LaunchHotelFactoryMenu()
 {
     LOG_ENTRY();
-    app_control_h handle = nullptr;
-    if (app_control_create(&handle) != APP_CONTROL_ERROR_NONE)
+    const AppControl request = CreateAppControl();
+    if (!request)
     {
-        LOG_ERROR("app_control_create failed");
+        LOG_ERROR("app_control_create failed"); // and so does what follows, with the reason
     }
-    const AppControl request(handle);
-    app_control_set_app_id(handle, HOTEL_FACTORY_MENU);
-    const int result = app_control_send_launch_request(handle, nullptr, nullptr);
+    app_control_set_app_id(request.get(), HOTEL_FACTORY_MENU);
+    const int result = app_control_send_launch_request(request.get(), nullptr, nullptr);
     if (result != APP_CONTROL_ERROR_NONE)
     {
         LOG_ERROR("Failed to send request [" << result << "]");
