@@ -5,8 +5,8 @@
 
 #include <Elementary.h>
 
-#include "AppControlCodec.h"
 #include "BusName.h"
+#include "Departure.h"
 #include "HandOver.h"
 #include "Log.h"
 #include "MainLoop.h"
@@ -19,9 +19,6 @@ namespace veskar
 {
 namespace
 {
-
-/** Seconds in which a busy TV starts any program that a last message goes to; no hung one keeps the process longer. */
-constexpr double LONGEST_FAREWELL = 10;
 
 /** An id that leaves room for the name under which a process of it leaves. */
 bool CanRunAs(const std::string& id)
@@ -116,15 +113,14 @@ int Application::m_RunOwner(int argc, char** argv)
         return APP_ERROR_INVALID_CONTEXT;
     }
     const bool created = m_Live();
+    Departure departure(m_connection.get(), *m_bus, *m_queue, *m_outgoing, m_id);
     if (created)
     {
-        m_HandOver(name);
+        departure.HandOver(name);
     }
     else
     {
-        name.Release();
-        m_RefuseCalls(REFUSED_ERROR, "the application could not be created");
-        m_AwaitOutgoing();
+        departure.Refuse(name, "the application could not be created");
     }
     elm_shutdown();
     return created ? APP_ERROR_NONE : APP_ERROR_INVALID_CONTEXT;
@@ -159,7 +155,7 @@ void Application::m_RunLoop()
 void Application::m_Deliver(LifecycleEvent& event)
 {
     m_Tell(event);
-    m_Reply(event.call.get());
+    Replies(m_connection.get(), *m_bus).Done(event.call.get());
 }
 
 void Application::m_Tell(const LifecycleEvent& event)
@@ -216,113 +212,6 @@ void Application::m_LanguageFileChanged()
     {
         m_languageChangeQueued = true;
         m_queue->AddCall({LifecycleKind::LanguageChanged, nullptr, nullptr});
-    }
-}
-
-void Application::m_Reply(const Eldbus_Message* call)
-{
-    if (call != nullptr && HasBus())
-    {
-        eldbus_connection_send(m_connection.get(), eldbus_message_method_return_new(call), nullptr, nullptr, -1);
-    }
-}
-
-void Application::m_ReplyError(const Eldbus_Message* call, const char* name, const char* text)
-{
-    if (call != nullptr && HasBus())
-    {
-        eldbus_connection_send(m_connection.get(), eldbus_message_error_new(call, name, text), nullptr, nullptr, -1);
-    }
-}
-
-void Application::m_HandOver(OwnName& name)
-{
-    // Before the id is given back: the next process asks for it as soon as it owns the id.
-    const Leaving leaving(m_connection.get(), *m_bus, m_id,
-                          [this](const std::string& successor) { m_PassOnCalls(successor); });
-    name.Release();
-    if (m_queue->HoldsRequest())
-    {
-        m_StartNext();
-    }
-    m_AwaitOutgoing();
-    m_RefuseCalls(REFUSED_ERROR, "the next process of the application did not ask for the request");
-}
-
-void Application::m_StartNext()
-{
-    auto call = NewCall(ELDBUS_FDO_BUS, ELDBUS_FDO_PATH, ELDBUS_FDO_INTERFACE, "StartServiceByName");
-    eldbus_message_arguments_append(call.get(), "su", m_id.c_str(), 0U);
-    const auto started = [this](const Eldbus_Message* reply)
-    {
-        if (const auto error = ErrorOf(reply))
-        {
-            m_RefuseCalls(error->name, error->text);
-        }
-    };
-    Send(std::move(call), started);
-}
-
-void Application::m_PassOnCalls(const std::string& successor)
-{
-    m_EmptyQueue([&](const LifecycleEvent& request) { m_PassOn(request, successor); });
-}
-
-void Application::m_RefuseCalls(const char* name, const char* why)
-{
-    const auto refuse = [&](const LifecycleEvent& request)
-    {
-        APPFW_ERROR("the application takes a request no more: %s", why);
-        m_ReplyError(request.call.get(), name, why);
-    };
-    m_EmptyQueue(refuse);
-}
-
-void Application::m_EmptyQueue(const std::function<void(const LifecycleEvent& request)>& handle)
-{
-    while (const auto event = m_queue->TakeCall())
-    {
-        if (event->kind == LifecycleKind::Request)
-        {
-            handle(*event);
-        }
-        else
-        {
-            m_Reply(event->call.get());
-        }
-    }
-    WakeMainLoop(); // m_AwaitOutgoing waits for the queue too
-}
-
-void Application::m_PassOn(const LifecycleEvent& event, const std::string& successor)
-{
-    APPFW_INFO("a request came while the application ended: passed on to the next process");
-    const std::shared_ptr<Eldbus_Message> asked = ShareMessage(event.call.get());
-    const auto forward = [this, asked](const Eldbus_Message* reply)
-    {
-        if (const auto error = ErrorOf(reply))
-        {
-            APPFW_ERROR("the next process did not take the request: %s", error->text);
-            m_ReplyError(asked.get(), error->name, error->text);
-            return;
-        }
-        m_Reply(asked.get());
-    };
-    if (!Send(EncodeAppControl(m_id, successor, *event.request), forward))
-    {
-        APPFW_ERROR("a request that came while the application ended is lost: the bus is gone");
-    }
-}
-
-void Application::m_AwaitOutgoing()
-{
-    const auto done = [this]
-    {
-        return m_bus->IsGone() || (m_outgoing->Empty() && !m_queue->HoldsRequest());
-    };
-    if (!TurnMainLoopUntil(done, LONGEST_FAREWELL))
-    {
-        APPFW_WARN("not everybody has replied: what was sent to a program that did not start is lost");
     }
 }
 

@@ -67,20 +67,6 @@ private:
     void m_TellLanguageChanged();
     void m_LanguageFileChanged();
 
-    /** Null where nobody waits. */
-    void m_Reply(const Eldbus_Message* call);
-    void m_ReplyError(const Eldbus_Message* call, const char* name, const char* text);
-
-    /** What reached a process on its way out goes to the next one, and the next one's reply to who asked. */
-    void m_HandOver(OwnName& name);
-    void m_StartNext();
-    void m_PassOnCalls(const std::string& successor);
-    void m_PassOn(const LifecycleEvent& event, const std::string& successor);
-    void m_RefuseCalls(const char* name, const char* why);
-    /** The calls that are no requests have nothing to wait for any more. */
-    void m_EmptyQueue(const std::function<void(const LifecycleEvent& request)>& handle);
-    void m_AwaitOutgoing();
-
     const std::string m_id;
     ui_app_lifecycle_callback_s m_callbacks = {};
     void* m_userData = nullptr;

@@ -14,7 +14,7 @@ constexpr double BUS_DEFAULT_TIMEOUT = -1;
 
 } // namespace
 
-OutgoingCalls::~OutgoingCalls()
+void OutgoingCalls::GiveUp()
 {
     while (!m_calls.empty())
     {

@@ -23,11 +23,13 @@ public:
     OutgoingCalls() = default;
     OutgoingCalls(const OutgoingCalls&) = delete;
     OutgoingCalls& operator=(const OutgoingCalls&) = delete;
-    /** Gives up what is still under way; `done` is not called any more. */
-    ~OutgoingCalls();
+    ~OutgoingCalls() { GiveUp(); }
 
     /** False, and `done` is not called, when the connection is dead. */
     bool Send(Eldbus_Connection* connection, BusMessage call, Done done);
+
+    /** Forgets what is still under way: its `done` is not called any more. */
+    void GiveUp();
 
     bool Empty() const { return m_calls.empty(); }
 
