@@ -5,7 +5,7 @@
 namespace veskar
 {
 
-/** Whether one of the viewer's accessibility modes is on; unset is off. */
+/** Whether a setting that is a switch is on; unset is off. */
 inline bool IsOn(const char* key)
 {
     int value = 0;

@@ -1,4 +1,7 @@
 #include "Digits.h"
+#include "Mode.h"
+#include "SettingKeys.h"
+#include "SettingsWatch.h"
 #include "ea.h"
 
 #include <algorithm>
@@ -14,7 +17,8 @@ constexpr char FIELD_KEY[] = "veskar_pin_field";
 
 /**
  * The field: one cell for each digit in a row. Holds the digits; the cells know only whether they are filled and whose
- * turn it is. Lives on the field's object as its data and goes with it.
+ * turn it is. While the number pad is on the screen the focus is seen there, not here. Lives on the field's object as
+ * its data and goes with it.
  */
 class PinField
 {
@@ -43,6 +47,7 @@ private:
     void m_AddCell();
     void m_OnKey(const char* key);
     void m_SetFocused(bool focused);
+    void m_PadChanged();
     void m_Draw() const;
 
     Evas_Object* m_object;
@@ -50,10 +55,13 @@ private:
     Digits m_digits;
     Ea_Pin_Entered_Cb m_entered;
     bool m_focused = false;
+    bool m_padShown = false;
+    SettingsWatch m_padWatch;
 };
 
 PinField::PinField(Evas_Object* object, int length, Ea_Pin_Entered_Cb entered)
-    : m_object(object), m_digits(length), m_entered(entered)
+    : m_object(object), m_digits(length), m_entered(entered),
+      m_padWatch({NUMBER_PAD_SHOWN_KEY}, [this] { m_PadChanged(); })
 {
     elm_layout_theme_set(m_object, "pin", "base", "default");
     elm_object_focus_allow_set(m_object, EINA_TRUE);
@@ -70,6 +78,7 @@ PinField::PinField(Evas_Object* object, int length, Ea_Pin_Entered_Cb entered)
     elm_layout_signal_callback_add(m_object, "elm,action,unfocus", "elm", s_OnUnfocus, this);
     elm_layout_signal_callback_add(m_object, "elm,action,click", "elm", s_OnClick, this);
     evas_object_data_set(m_object, FIELD_KEY, this);
+    m_PadChanged();
 }
 
 void PinField::m_AddCell()
@@ -114,14 +123,22 @@ void PinField::m_SetFocused(bool focused)
     m_Draw();
 }
 
+void PinField::m_PadChanged()
+{
+    m_padShown = IsOn(NUMBER_PAD_SHOWN_KEY);
+    m_Draw();
+}
+
 void PinField::m_Draw() const
 {
     for (std::size_t i = 0; i < m_cells.size(); ++i)
     {
         const bool filled = i < m_digits.Count();
-        const bool current = m_focused && i == m_digits.Count();
+        const bool isNext = m_focused && i == m_digits.Count();
+        const bool hasFocus = isNext && !m_padShown;
         elm_layout_signal_emit(m_cells[i], filled ? "veskar,digit,filled" : "veskar,digit,empty", "veskar");
-        elm_layout_signal_emit(m_cells[i], current ? "veskar,digit,current" : "veskar,digit,waiting", "veskar");
+        elm_layout_signal_emit(m_cells[i], isNext ? "veskar,digit,next" : "veskar,digit,waiting", "veskar");
+        elm_layout_signal_emit(m_cells[i], hasFocus ? "veskar,digit,focus" : "veskar,digit,unfocus", "veskar");
     }
 }
 

@@ -36,10 +36,12 @@ long ResidentMemory(unsigned pid)
     return pages * 4 / 1024;
 }
 
-/** Waits until the setting that tells whether the number pad is shown has this value. */
+/** Tells whether the number pad is shown. */
+constexpr const char* PAD_SHOWN = "memory/function-osd/number_pad_show";
+
 bool NumberPadIs(const std::string& value)
 {
-    const Words get{"veskar-setting", "get", "memory/function-osd/number_pad_show"};
+    const Words get{"veskar-setting", "get", PAD_SHOWN};
     return WaitUntil([&] { return RunCommand(get) == value + "\n"; });
 }
 
@@ -220,6 +222,10 @@ TEST_F(Screens, PinStaysWhenTheNumberPadGoesAndDoesWithoutWhereThereIsNone)
     RunCommand({"veskar-setting", "set", FEATURE, "1"});
     EXPECT_EQ(StillShot(), without);
     EXPECT_TRUE(Grabs("veskar-numpad").empty());
+    RunCommand({"veskar-setting", "set", PAD_SHOWN, "1"});
+    ChangedShot(without); // the focus is seen on the pad alone
+    RunCommand({"veskar-setting", "set", PAD_SHOWN, "0"});
+    EXPECT_TRUE(WaitUntil([&] { return Shot() == without; }));
     EXPECT_FALSE(request.HasEnded());
 
     Press({"More"});

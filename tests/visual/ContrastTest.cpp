@@ -30,8 +30,10 @@ const std::vector<Demand> DEMANDS = {
     {"focus_ring", {"ground", "control", "row", "row_marked", "focus_fill"}, 3.0},
     {"mark", {"row", "row_marked", "focus_fill"}, 3.0},
     {"mark_tick", {"mark"}, 7.0},
-    {"bar", {"ground", "track", "row", "row_marked", "focus_fill"}, 3.0},
+    {"bar", {"ground", "control", "track", "row", "row_marked", "focus_fill"}, 3.0},
     {"accent", {"ground", "track"}, 3.0},
+    {"outline", {"ground"}, 3.0},
+    {"field", {"ground", "control"}, 3.0},
 };
 /** The system's own grey of lists and long texts at high contrast. */
 const Demand GREY = {"#7F7F7F", {"ground", "row", "row_marked", "focus_fill"}, 5.2};
