@@ -23,6 +23,7 @@ constexpr double BASE_SCALE = 2.0;
 
 constexpr const char* LAYOUT_GROUP = "kavro_layout";
 constexpr const char* LAYOUT_CONTENT_PART = "kavro_layout.content";
+constexpr const char* LAYOUT_ROOM_PART = "kavro_layout.room";
 
 constexpr const char* BUTTON_STYLE = "C_ButtonBasic_WhiteText";
 constexpr const char* RIGHT_DOCKED_STYLE = "C_PopupBasic_WhiteRightLarge";
@@ -34,6 +35,14 @@ constexpr short LAYER_ABOVE_SETUP = 32767;
 
 constexpr const char* KEY_EXIT = "XF86Exit";
 constexpr const char* KEY_BACK = "XF86Back";
+
+/** A layout that was larger stays so, unless its least size is taken back before it is found anew. */
+void MeasureAnew(void* layout, Evas* /*evas*/, Evas_Object* /*room*/, void* /*eventInfo*/)
+{
+    auto* object = static_cast<Evas_Object*>(layout);
+    evas_object_size_hint_min_set(object, 0, 0);
+    elm_layout_sizing_eval(object);
+}
 
 /** Instead of being shown. */
 void StayHidden(void* /*data*/, Evas_Object* /*button*/) {}
@@ -61,7 +70,7 @@ BaseDisplay::BaseDisplay(IUserInteraction& userInteraction, Evas_Object* mainWin
                          bool hasBottomText)
     : t_mainWindow(mainWindow), t_popup(nullptr), t_subtitleLabel(nullptr), t_buttonLabels(buttonLabels), t_buttons{},
       t_popupStyle(popupStyle), t_hasBottomText(hasBottomText), t_displayedButtons(0),
-      t_userInteraction(userInteraction), m_wholeFrames(mainWindow)
+      t_userInteraction(userInteraction), m_room(nullptr), m_wholeFrames(mainWindow)
 {
     EFL_GUARD(elm_app_base_scale_set, BASE_SCALE);
 }
@@ -69,6 +78,7 @@ BaseDisplay::BaseDisplay(IUserInteraction& userInteraction, Evas_Object* mainWin
 BaseDisplay::~BaseDisplay()
 {
     LOG_ENTRY();
+    t_sizes.reset();
     EFL_GUARD(evas_object_del, t_popup);
 }
 
@@ -97,6 +107,7 @@ bool BaseDisplay::t_Create()
         LOG_ERROR("Main window not available");
         return false;
     }
+    t_sizes.emplace(t_mainWindow);
     t_popup = m_CreateMainPopup(t_mainWindow);
     Evas_Object* layout = m_CreateWindowsLayout(t_popup);
     Evas_Object* box = m_CreateWindowsBox(t_popup);
@@ -171,13 +182,25 @@ Evas_Object* BaseDisplay::m_CreateMainPopup(Evas_Object* parent)
     if (!t_popupStyle.empty())
     {
         // Deleting a profile is asked at the right edge, beside the menu, whatever kind of screen asks it.
-        const bool rightDocked = t_title == RIGHT_DOCKED_TITLE;
-        EFL_GUARD(elm_object_style_set, popup, rightDocked ? RIGHT_DOCKED_STYLE : t_popupStyle.c_str());
+        EFL_GUARD(elm_object_style_set, popup, m_IsRightDocked() ? RIGHT_DOCKED_STYLE : t_popupStyle.c_str());
     }
     const MainLoopSection section;
     elm_object_part_text_set(popup, "title,text", t_title.c_str());
     evas_object_event_callback_add(popup, EVAS_CALLBACK_KEY_DOWN, s_OnKeyPressed, this);
     return popup;
+}
+
+bool BaseDisplay::m_IsRightDocked() const
+{
+    return !t_popupStyle.empty() && t_title == RIGHT_DOCKED_TITLE;
+}
+
+void BaseDisplay::t_AskForRoom(int height)
+{
+    if (m_room != nullptr)
+    {
+        t_sizes->Ask(m_room, 0, height);
+    }
 }
 
 Evas_Object* BaseDisplay::m_CreateWindowsLayout(Evas_Object* parent)
@@ -195,6 +218,11 @@ Evas_Object* BaseDisplay::m_CreateWindowsLayout(Evas_Object* parent)
     }
     EFL_GUARD(evas_object_size_hint_align_set, layout, EVAS_HINT_FILL, EVAS_HINT_FILL);
     EFL_GUARD(evas_object_size_hint_weight_set, layout, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
+    const MainLoopSection section;
+    m_room = evas_object_rectangle_add(evas_object_evas_get(layout));
+    evas_object_color_set(m_room, 0, 0, 0, 0);
+    elm_object_part_content_set(layout, LAYOUT_ROOM_PART, m_room);
+    evas_object_event_callback_add(m_room, EVAS_CALLBACK_CHANGED_SIZE_HINTS, MeasureAnew, layout);
     return layout;
 }
 

@@ -2,8 +2,10 @@
 
 #include "IUserInteraction.h"
 #include "WholeFrames.h"
+#include "YieldingSize.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -112,6 +114,12 @@ protected:
     void m_AlignLabelText(Evas_Object* label, const std::string& text);
     static void s_PaintLabelWhite(Evas_Object* label);
 
+    /** Tells a label, once it has its style, when it stands in the narrow panel at the right. */
+    void t_PlaceLabel(Evas_Object* label) const;
+
+    /** While the screen is built: the pixels that its content would like to be high, if the screen has them. */
+    void t_AskForRoom(int height);
+
     static void s_OnKeyPressed(void* data, Evas* evas, Evas_Object* object, void* eventInfo);
     static void s_OnButtonClicked(void* data, Evas_Object* object, void* eventInfo);
 
@@ -129,7 +137,12 @@ protected:
     std::string t_ttsText;
     IUserInteraction& t_userInteraction;
 
+    std::optional<YieldingSize> t_sizes; // from t_Create on
+
 private:
+    bool m_IsRightDocked() const;
+
+    Evas_Object* m_room; // nothing to see: it is as large as the content would like to be
     WholeFrames m_wholeFrames;
 };
 

@@ -33,6 +33,13 @@ int ReadModeSetting(const char* key)
     return value;
 }
 
+/** Inside a main-loop section; another theme passes over what it does not know. */
+void TellTheme(Evas_Object* label, const char* signal)
+{
+    elm_object_signal_emit(label, signal, "veskar");
+    edje_object_message_signal_process(elm_layout_edje_get(label));
+}
+
 } // namespace
 
 void BaseDisplay::s_StoreMarkupText(const std::string& text, std::string& out)
@@ -101,6 +108,15 @@ int BaseDisplay::GetNumberLinesText(const Evas_Object* object, const char* partN
     return lines;
 }
 
+void BaseDisplay::t_PlaceLabel(Evas_Object* label) const
+{
+    if (m_IsRightDocked())
+    {
+        const MainLoopSection section;
+        TellTheme(label, "veskar,side");
+    }
+}
+
 void BaseDisplay::m_AlignLabelText(Evas_Object* label, const std::string& text)
 {
     LOG_ENTRY();
@@ -118,6 +134,7 @@ void BaseDisplay::m_AlignLabelText(Evas_Object* label, const std::string& text)
         elm_object_text_set(label, markup.c_str());
         elm_object_style_set(label, LABEL_STYLE);
     }
+    t_PlaceLabel(label);
     const bool oneLine = GetNumberLinesText(label, TEXT_PART) < 2;
     const MainLoopSection section;
     if (oneLine)
@@ -130,6 +147,11 @@ void BaseDisplay::m_AlignLabelText(Evas_Object* label, const std::string& text)
     {
         elm_label_line_wrap_set(label, ELM_WRAP_WORD);
         evas_object_size_hint_align_set(label, EVAS_HINT_FILL, EVAS_HINT_FILL);
+    }
+    // The markup around it keeps the toolkit from seeing that there is no text.
+    if (text.empty())
+    {
+        TellTheme(label, "veskar,empty");
     }
 }
 

@@ -91,8 +91,7 @@ Evas_Object* ImageListPopup::m_CreateWindowContent(Evas_Object* parent, Evas_Obj
         elm_box_pack_end(m_contentBox, m_menuList);
         elm_box_pack_end(m_contentBox, spacer);
     }
-    m_size.emplace(t_mainWindow);
-    m_size->Ask(spacer, SPACER_WIDTH, m_imageHeight);
+    t_sizes->Ask(spacer, SPACER_WIDTH, m_imageHeight);
     m_imageBox = EFL_GUARD(elm_box_add, m_contentBox);
     if (m_imageBox == nullptr)
     {
@@ -207,7 +206,7 @@ void ImageListPopup::m_UpdateImage()
     }
     const int width = ScaledSize(m_imageWidth);
     const int height = ScaledSize(m_imageHeight);
-    m_size->Ask(m_image, width, height);
+    t_sizes->Ask(m_image, width, height);
     {
         const MainLoopSection section;
         evas_object_size_hint_max_set(m_image, ELM_SCALE_SIZE(MAX_IMAGE_WIDTH), height);

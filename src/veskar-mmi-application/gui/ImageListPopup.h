@@ -1,7 +1,6 @@
 #pragma once
 
 #include "ListDisplay.h"
-#include "YieldingSize.h"
 
 namespace VESKAR_APP
 {
@@ -61,7 +60,6 @@ private:
     int m_imageWidth;
     int m_imageHeight;
     unsigned int m_currentIndex;
-    std::optional<YieldingSize> m_size;
 };
 
 } // namespace VESKAR_APP

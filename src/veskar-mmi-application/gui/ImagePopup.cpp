@@ -29,8 +29,7 @@ Evas_Object* ImagePopup::m_CreateWindowContent(Evas_Object* layout, Evas_Object*
     {
         LOG_ERROR("Loading the image file has failed :" << m_imageLocation);
     }
-    m_size.emplace(t_mainWindow);
-    m_size->Ask(m_image, ScaledSize(m_width), ScaledSize(m_height));
+    t_sizes->Ask(m_image, ScaledSize(m_width), ScaledSize(m_height));
     EFL_GUARD(evas_object_size_hint_weight_set, m_image, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
     EFL_GUARD(evas_object_size_hint_align_set, m_image, 0.5, 0);
     EFL_GUARD(evas_object_show, m_image);

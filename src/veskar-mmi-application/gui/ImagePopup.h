@@ -1,9 +1,6 @@
 #pragma once
 
 #include "BaseDisplay.h"
-#include "YieldingSize.h"
-
-#include <optional>
 
 namespace VESKAR_APP
 {
@@ -28,7 +25,6 @@ private:
     int m_width;
     int m_height;
     bool m_noClose;
-    std::optional<YieldingSize> m_size;
 };
 
 } // namespace VESKAR_APP

@@ -9,6 +9,9 @@
 #include "Names.h"
 #include "ScaledSize.h"
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace VESKAR_APP
 {
 
@@ -16,6 +19,9 @@ namespace
 {
 
 constexpr int HEADER_HEIGHT = 30;
+constexpr int LIST_HEIGHT = 460; // what a list takes at most: six rows, and what rounding may take of them
+constexpr int ROW_HEIGHT = 76;   // where the theme does not tell it
+constexpr const char* ROW_HEIGHT_ITEM = "row_height";
 
 struct FreeItemClass
 {
@@ -23,6 +29,14 @@ struct FreeItemClass
 };
 
 using ItemClass = std::unique_ptr<Elm_Genlist_Item_Class, FreeItemClass>;
+
+/** In design pixels, as all that the theme tells. */
+int RowHeight(const Evas_Object* list)
+{
+    const MainLoopSection section;
+    const char* height = elm_layout_data_get(list, ROW_HEIGHT_ITEM);
+    return height == nullptr ? ROW_HEIGHT : std::atoi(height);
+}
 
 void DeleteItem(Elm_Object_Item* item)
 {
@@ -75,11 +89,29 @@ Evas_Object* ListDisplay<Screen>::m_CreateWindowContent(Evas_Object* parent, Eva
     }
     m_PopulateList(m_menuList, itemClass.get());
     EFL_GUARD(evas_object_show, m_menuList);
+    m_AskForRowsRoom();
+    EFL_GUARD(evas_object_smart_callback_add, m_menuList, "realized", s_OnRowDrawn, this);
     if (!m_menuItems.empty())
     {
         m_rowFocus.emplace(t_mainWindow, m_menuList);
     }
     return m_menuList;
+}
+
+template <class Screen>
+void ListDisplay<Screen>::m_AskForRowsRoom()
+{
+    const int rows = ScaledSize(static_cast<double>(m_menuItems.size()) * RowHeight(m_menuList));
+    int drawn = 0;
+    EFL_GUARD(elm_scroller_child_size_get, m_menuList, nullptr, &drawn);
+    t_AskForRoom(std::min(std::max(rows, drawn), ScaledSize(LIST_HEIGHT)));
+}
+
+template <class Screen>
+void ListDisplay<Screen>::s_OnRowDrawn(void* data, Evas_Object* /*list*/, void* /*eventInfo*/)
+{
+    // Only a row that is drawn tells its height, and it may have several lines.
+    static_cast<ListDisplay*>(data)->m_AskForRowsRoom();
 }
 
 template <class Screen>

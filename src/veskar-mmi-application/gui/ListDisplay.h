@@ -66,6 +66,10 @@ protected:
     bool m_firstRowHeader;
 
 private:
+    /** Asks for as much room as the rows need, up to that of a whole list. */
+    void m_AskForRowsRoom();
+    static void s_OnRowDrawn(void* data, Evas_Object* list, void* eventInfo);
+
     /** Focuses the list when every row is realised; false when no row is. */
     bool m_FocusIfAllRealised();
 

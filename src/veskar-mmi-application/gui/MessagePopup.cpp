@@ -22,6 +22,7 @@ namespace
 constexpr std::size_t LARGE_POPUP_BYTES = 300;
 constexpr std::size_t MAX_LABEL_BYTES = 300;
 
+constexpr int PAGE_HEIGHT = 470; // some ten lines
 constexpr const char* TEXT_PAGE_FONT = "BrelmonFace_300";
 constexpr const char* PARAGRAPH_ALIGNMENT = "mixed";
 
@@ -67,6 +68,7 @@ Evas_Object* MessagePopup::m_CreateTextLabel(const char* markup, Evas_Object* pa
         elm_object_text_set(m_content, markup);
         elm_object_style_set(m_content, LABEL_STYLE);
     }
+    t_PlaceLabel(m_content);
     std::string text;
     if (GetNumberLinesText(m_content, TEXT_PART) < 2)
     {
@@ -103,6 +105,7 @@ Evas_Object* MessagePopup::m_CreateTextPage(const char* markup, Evas_Object* par
     ea_textpage_text_set(m_content, strndup(markup, std::strlen(markup))); // the page frees its copy
     evas_object_size_hint_align_set(m_content, EVAS_HINT_FILL, EVAS_HINT_FILL);
     ea_textpage_page_show(m_content, 0);
+    t_AskForRoom(ScaledSize(PAGE_HEIGHT));
     return m_content;
 }
 

@@ -46,17 +46,18 @@ int Lowered(int limit, int asked, int excess)
 
 } // namespace
 
-YieldingSize::YieldingSize(Evas_Object* window) : m_window(window), m_maxWidth(UNLIMITED), m_maxHeight(UNLIMITED)
+YieldingSize::YieldingSize(Evas_Object* window)
+    : m_window(window), m_beforeDrawing(nullptr), m_maxWidth(UNLIMITED), m_maxHeight(UNLIMITED)
 {
     const MainLoopSection section;
-    evas_event_callback_add(evas_object_evas_get(m_window), EVAS_CALLBACK_RENDER_PRE, s_OnRender, this);
+    m_beforeDrawing = ecore_idle_enterer_add(s_OnRest, this);
     evas_object_event_callback_add(m_window, EVAS_CALLBACK_RESIZE, s_OnWindowResized, this);
 }
 
 YieldingSize::~YieldingSize()
 {
     const MainLoopSection section;
-    evas_event_callback_del_full(evas_object_evas_get(m_window), EVAS_CALLBACK_RENDER_PRE, s_OnRender, this);
+    ecore_idle_enterer_del(m_beforeDrawing);
     evas_object_event_callback_del_full(m_window, EVAS_CALLBACK_RESIZE, s_OnWindowResized, this);
 }
 
@@ -71,13 +72,18 @@ void YieldingSize::Ask(Evas_Object* object, int width, int height)
     m_Apply();
 }
 
-void YieldingSize::s_OnRender(void* data, Evas* evas, void* /*eventInfo*/)
+Eina_Bool YieldingSize::s_OnRest(void* data)
 {
+    auto* size = static_cast<YieldingSize*>(data);
+    const MainLoopSection section;
+    Evas* evas = evas_object_evas_get(size->m_window);
+    evas_smart_objects_calculate(evas);
     // Only now has everything its place; what yields is laid out anew before the viewer sees it.
-    if (static_cast<YieldingSize*>(data)->m_Yield())
+    while (size->m_Yield())
     {
-        EFL_GUARD(evas_smart_objects_calculate, evas);
+        evas_smart_objects_calculate(evas);
     }
+    return ECORE_CALLBACK_RENEW;
 }
 
 void YieldingSize::s_OnWindowResized(void* data, Evas* /*evas*/, Evas_Object* /*window*/, void* /*eventInfo*/)

@@ -8,11 +8,12 @@ namespace VESKAR_APP
 {
 
 /**
- * The sizes that a screen's image and what stands beside it ask for. The toolkit never makes anything smaller than it
- * asks to be, so an image too large for the window would push the texts around it out of view. Where that happens these
+ * The sizes that a screen's image, list or page would like to have. The toolkit never makes anything smaller than it
+ * asks to be, so one too large for the window would push the texts around it out of view. Where that happens these
  * objects ask for less, until the whole screen fits.
  *
- * Belongs to the screen and goes before its widgets; the destructor takes every callback back.
+ * Belongs to the screen and goes before its widgets; the destructor takes every callback back. Made after the screen's
+ * WholeFrames, so that a screen is first brought to its size and the theme hears of that size alone.
  */
 class YieldingSize
 {
@@ -34,7 +35,7 @@ private:
         int height;
     };
 
-    static void s_OnRender(void* data, Evas* evas, void* eventInfo);
+    static Eina_Bool s_OnRest(void* data);
     static void s_OnWindowResized(void* data, Evas* evas, Evas_Object* window, void* eventInfo);
 
     /** Lowers the limits by as much as the screen is too large; false when it fits, or nothing is left to lower. */
@@ -42,6 +43,7 @@ private:
     void m_Apply() const;
 
     Evas_Object* m_window;
+    Ecore_Idle_Enterer* m_beforeDrawing;
     std::vector<Wish> m_wishes;
     int m_maxWidth;
     int m_maxHeight;
