@@ -127,6 +127,15 @@ TEST_F(Screens, SelectLosesNoKeyOfAViewerWhoRunsDownItsRows)
     ExpectAnswer(request, Answer(7, 255, 0, 0, 26));
 }
 
+TEST_F(Screens, SelectGoesOnFromARowHigherThanTheListAfterItsEnd)
+{
+    const Words rows{"--entry", "One", "--entry", std::string(3000, 'n'), "--entry", "Three"};
+    ExpectKeysAnswer("select", rows, {"Down", "Down", "Return"}, Answer(7, 255, 0, 0, 2));
+    ExpectKeysAnswer("select", rows, Words(9, "Down") + Words{"Return"}, Answer(7, 255, 0, 0, 3));
+    ExpectKeysAnswer("select", rows, Words(9, "Down") + Words{"Up", "Up", "Return"}, Answer(7, 255, 0, 0, 2));
+    ExpectKeysAnswer("select", rows, Words(9, "Down") + Words(9, "Up") + Words{"Return"}, Answer(7, 255, 0, 0, 1));
+}
+
 TEST_F(Screens, ListSaysNothingOfAPressedRow)
 {
     Process request = SendKind("list", Rows(5));
@@ -137,7 +146,7 @@ TEST_F(Screens, ListSaysNothingOfAPressedRow)
     ExpectCloseAndReplace("list", Rows(5));
 }
 
-TEST_F(Screens, ListOfManyRowsKeepsTheFocusedOneInView)
+TEST_F(Screens, ListOfManyRowsKeepsTheFocusedOneAndTheNextInView)
 {
     Process request = SendKind("list", Rows(40));
     const Picture top = StillShot();
@@ -145,6 +154,15 @@ TEST_F(Screens, ListOfManyRowsKeepsTheFocusedOneInView)
     ChangedShot(top);
     Press(Words(39, "Up"));
     EXPECT_TRUE(WaitUntil([&] { return Shot() == top; })) << "the first row does not come back";
+
+    const auto eighthOf = [&](const std::string& ninth)
+    {
+        Process list = SendKind("list", Rows(8) + Words{"--entry", ninth, "--entry", "Row 10"});
+        StillShot();
+        Press(Words(7, "Down"));
+        return StillShot();
+    };
+    EXPECT_NE(eighthOf("One"), eighthOf("Another")) << "the row after the focused one is out of view";
 }
 
 TEST_F(Screens, ListOfOneRowIsTheSameWhateverHangsOverItsEndAndWhateverWasShownBefore)

@@ -3,8 +3,6 @@
 #include "EflGuard.h"
 #include "Names.h"
 
-#include <string_view>
-
 namespace VESKAR_APP
 {
 
@@ -19,15 +17,6 @@ void SignalFocusedRow(Evas_Object* list, const char* signal)
     {
         elm_object_item_signal_emit(row, signal, "elm");
     }
-}
-
-Elm_Object_Item* Neighbour(Elm_Object_Item* row, std::string_view key)
-{
-    if (key == KEY_UP)
-    {
-        return elm_genlist_item_prev_get(row);
-    }
-    return key == KEY_DOWN ? elm_genlist_item_next_get(row) : nullptr;
 }
 
 /** Keys by which the list goes to a row of its own choice. */
@@ -145,25 +134,42 @@ Eina_Bool RowFocus::s_OnKey(void* data, Evas_Object* /*list*/, Evas_Object* /*so
     return used ? EINA_TRUE : EINA_FALSE;
 }
 
-bool RowFocus::m_TakeKey(const char* key)
+bool RowFocus::m_TakeKey(std::string_view key)
 {
     const MainLoopSection section;
     m_Restore();
-    Elm_Object_Item* row = m_row != nullptr ? m_row : elm_object_focused_item_get(m_list);
-    Elm_Object_Item* next = row != nullptr ? Neighbour(row, key) : nullptr;
-    if (next != nullptr)
+    if (key == KEY_UP || key == KEY_DOWN)
     {
-        MoveTo(next);
-        return true;
-    }
-    if (m_below != nullptr && key == KEY_DOWN)
-    {
-        elm_object_focus_set(m_below, EINA_TRUE);
-        return true;
+        return m_Go(key == KEY_UP ? Way::UP : Way::DOWN);
     }
     if (IsJump(key))
     {
         m_row = nullptr;
+    }
+    return false;
+}
+
+bool RowFocus::m_Go(Way way)
+{
+    Elm_Object_Item* row = m_row != nullptr ? m_row : elm_object_focused_item_get(m_list);
+    if (row == nullptr)
+    {
+        return false;
+    }
+    if (ScrollWithin(m_list, row, way))
+    {
+        return true;
+    }
+    if (Elm_Object_Item* next = Neighbour(row, way))
+    {
+        MoveTo(next);
+        ShowRow(m_list, next, way);
+        return true;
+    }
+    if (m_below != nullptr && way == Way::DOWN)
+    {
+        elm_object_focus_set(m_below, EINA_TRUE);
+        return true;
     }
     return false;
 }

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "RowView.h"
+
+#include <string_view>
+
 #include <Elementary.h>
 
 namespace VESKAR_APP
@@ -47,7 +51,9 @@ private:
                              void* eventInfo);
 
     /** Whether the key is used up. */
-    bool m_TakeKey(const char* key);
+    bool m_TakeKey(std::string_view key);
+    /** To the next row, or on through this one; whether there was anywhere to go. */
+    bool m_Go(Way way);
     /** Puts the focus of a list that has it on the viewer's row. */
     void m_Restore();
     void m_RestoreSoon();
