@@ -9,6 +9,7 @@
 
 namespace veskar
 {
+
 namespace
 {
 

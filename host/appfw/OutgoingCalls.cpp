@@ -7,6 +7,7 @@
 
 namespace veskar
 {
+
 namespace
 {
 

@@ -179,6 +179,7 @@ void PinField::s_OnTheme(void* data, Evas_Object*, void*)
 }
 
 } // namespace
+
 } // namespace veskar
 
 using veskar::PinField;

@@ -301,6 +301,7 @@ void TextPage::s_OnJob(void* data)
 }
 
 } // namespace
+
 } // namespace veskar
 
 using veskar::TextPage;

@@ -55,6 +55,7 @@ public:
         return sent;
     }
 };
+
 } // namespace
 
 namespace VESKAR_API
@@ -64,4 +65,5 @@ IVesKarController* IVesKarController::Instance()
     static BusController sController;
     return Application::Instance().HasBus() ? &sController : nullptr;
 }
+
 } // namespace VESKAR_API

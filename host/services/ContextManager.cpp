@@ -20,4 +20,5 @@ ContextManager::ContextManager(sdbus::IConnection& connection, TaskRequested tas
             });
     m_object->finishRegistration();
 }
+
 } // namespace veskar

@@ -18,4 +18,5 @@ public:
 private:
     std::unique_ptr<sdbus::IObject> m_object;
 };
+
 } // namespace veskar

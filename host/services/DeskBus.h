@@ -12,6 +12,7 @@
 
 namespace veskar
 {
+
 /** A service request as it travels: each value one string or one array of strings. */
 using RequestData = std::map<std::string, sdbus::Variant>;
 
@@ -21,6 +22,7 @@ using RequestData = std::map<std::string, sdbus::Variant>;
  */
 namespace Desk
 {
+
 inline constexpr const char* INTERFACE = "org.tizen.VesKarDesk1";
 
 /** Ask(i uiId, y sourceId, a{sv} request) → (i uiId, y sourceId, i kind, y button, y item, s data): the answer. */
@@ -41,5 +43,7 @@ inline constexpr const char* REFUSED = "org.tizen.VesKarDesk1.Error.Refused";
 inline constexpr const char* NO_APPLICATION = "org.tizen.VesKarDesk1.Error.NoApplication";
 /** The application went away without an answer. */
 inline constexpr const char* GONE = "org.tizen.VesKarDesk1.Error.Gone";
+
 } // namespace Desk
+
 } // namespace veskar

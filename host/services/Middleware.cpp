@@ -79,6 +79,7 @@ void Reply(const sdbus::Result<>& result, const sdbus::Error* refusal)
     }
     result.returnResults();
 }
+
 } // namespace
 
 Middleware::Middleware(sdbus::IConnection& connection)

@@ -60,4 +60,5 @@ private:
     Desk::Tasks m_tasks;
     Desk::Positions m_positions;
 };
+
 } // namespace veskar

@@ -26,4 +26,5 @@ std::string Secret(const std::string& text)
     }
     return std::to_string(text.size()) + " bytes";
 }
+
 } // namespace veskar

@@ -5,6 +5,7 @@
 
 namespace veskar
 {
+
 void Print(const std::string& line);
 
 /** A text in quotes, control characters escaped, so that it stays on its line. */
@@ -12,4 +13,5 @@ std::string Quoted(const std::string& text);
 
 /** What may be told of an answer's text, which may be a PIN: its length, or all of it with VESKAR_LOG_SECRETS=1. */
 std::string Secret(const std::string& text);
+
 } // namespace veskar

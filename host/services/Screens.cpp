@@ -12,6 +12,7 @@ sdbus::Error Gone()
 {
     return sdbus::Error{Desk::GONE, "the application went away without an answer"};
 }
+
 } // namespace
 
 std::weak_ptr<Waiter> Screens::Add(std::string client, ScreenIds screen, Waiter::Result result)
@@ -91,4 +92,5 @@ void Screens::RemoveClient(const std::string& client)
 {
     m_waiters.remove_if([&client](const std::shared_ptr<Waiter>& waiter) { return waiter->client == client; });
 }
+
 } // namespace veskar

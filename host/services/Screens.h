@@ -76,4 +76,5 @@ public:
 private:
     std::list<std::shared_ptr<Waiter>> m_waiters;
 };
+
 } // namespace veskar

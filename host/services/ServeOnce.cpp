@@ -29,6 +29,7 @@ int Shorter(int left, int right)
     }
     return std::min(left, right);
 }
+
 } // namespace
 
 bool ServeOnce(sdbus::IConnection& connection, Clock::time_point deadline)
@@ -46,4 +47,5 @@ bool ServeOnce(sdbus::IConnection& connection, Clock::time_point deadline)
     ::poll(&descriptor, 1, Shorter(bus.getPollTimeout(), MillisecondsUntil(deadline)));
     return true;
 }
+
 } // namespace veskar

@@ -7,6 +7,7 @@
 
 namespace veskar
 {
+
 using Clock = std::chrono::steady_clock;
 inline constexpr Clock::time_point NEVER = Clock::time_point::max();
 
@@ -15,4 +16,5 @@ inline constexpr Clock::time_point NEVER = Clock::time_point::max();
  * one. Throws sdbus::Error when the bus is gone.
  */
 bool ServeOnce(sdbus::IConnection& connection, Clock::time_point deadline);
+
 } // namespace veskar

@@ -35,6 +35,7 @@ std::string TextOf(const RequestData& request)
     }
     return text;
 }
+
 } // namespace
 
 StandIn::StandIn(sdbus::IConnection& connection, const std::string& appId, std::function<void()> terminated)
@@ -72,4 +73,5 @@ void StandIn::m_Say(const std::string& what) const
 {
     Print(m_appId + " " + what);
 }
+
 } // namespace veskar

@@ -27,4 +27,5 @@ private:
     std::function<void()> m_terminated;
     std::unique_ptr<sdbus::IObject> m_object;
 };
+
 } // namespace veskar

@@ -72,6 +72,7 @@ void ServeStandIns(sdbus::IConnection& connection, const std::vector<std::string
         ServeOnce(connection, NEVER);
     }
 }
+
 } // namespace
 
 int main(int argc, char** argv)

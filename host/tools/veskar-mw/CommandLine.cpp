@@ -219,6 +219,7 @@ Texts Arguments(const CLI::App& app, int argc, char** argv)
     std::reverse(arguments.begin(), arguments.end());
     return arguments;
 }
+
 } // namespace
 
 std::variant<Command, int> ParseCommandLine(int argc, char** argv)
@@ -253,4 +254,5 @@ std::variant<Command, int> ParseCommandLine(int argc, char** argv)
         std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::duration<double>{general.timeout});
     return Command{request, timeout, !general.noWait};
 }
+
 } // namespace veskar

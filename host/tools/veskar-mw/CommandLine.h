@@ -18,4 +18,5 @@ struct Command
 
 /** The command, or the process's exit status where help was asked for or the usage is wrong (said on stderr). */
 std::variant<Command, int> ParseCommandLine(int argc, char** argv);
+
 } // namespace veskar

@@ -23,6 +23,7 @@ RequestData OnTheBus(const Request& request)
     }
     return data;
 }
+
 } // namespace
 
 DeskConnection::DeskConnection(std::chrono::microseconds timeout)
@@ -84,4 +85,5 @@ Failure FailureOf(const sdbus::Error& error)
     }
     return {ExitStatus::UNAVAILABLE, error.getMessage().empty() ? error.getName() : error.getMessage()};
 }
+
 } // namespace veskar

@@ -49,4 +49,5 @@ struct Failure
     std::string text;
 };
 Failure FailureOf(const sdbus::Error& error);
+
 } // namespace veskar

@@ -30,6 +30,7 @@ Result ResultOf(int kind)
         return {"unknown", ExitStatus::UNKNOWN_ANSWER};
     }
 }
+
 } // namespace
 
 std::string ToJson(const ScreenAnswer& answer)
@@ -55,4 +56,5 @@ int StatusOf(const ScreenAnswer& answer)
 {
     return ResultOf(answer.kind).status;
 }
+
 } // namespace veskar

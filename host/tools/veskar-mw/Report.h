@@ -6,8 +6,10 @@
 
 namespace veskar
 {
+
 namespace ExitStatus
 {
+
 inline constexpr int ANSWERED = 0;
 inline constexpr int DELIVERED = 0;
 inline constexpr int BACK = 1;
@@ -16,6 +18,7 @@ inline constexpr int TIMED_OUT = 3;
 inline constexpr int BAD_USAGE = 64;
 inline constexpr int UNAVAILABLE = 69;
 inline constexpr int UNKNOWN_ANSWER = 70;
+
 } // namespace ExitStatus
 
 struct ScreenAnswer
@@ -34,4 +37,5 @@ std::string TaskToJson(const std::string& task, const std::string& action);
 std::string MenuPositionToJson(int position);
 
 int StatusOf(const ScreenAnswer& answer);
+
 } // namespace veskar

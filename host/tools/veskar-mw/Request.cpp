@@ -8,8 +8,10 @@
 
 namespace veskar
 {
+
 namespace
 {
+
 constexpr auto SIGNAL_TYPE = "signal_type_key";
 constexpr auto SCREEN_SIGNAL = "signal_tvservice";
 constexpr auto MENU_SIGNAL = "signal_menu_pos";
@@ -19,6 +21,7 @@ constexpr auto CLOSE_TYPE = "ui_type_close";
 constexpr auto UI_ID = "ui_param_ui_id";
 constexpr auto SOURCE_ID = "ui_param_source_id";
 constexpr auto MENU_POSITION = "menu_pos_key";
+
 } // namespace
 
 Request Request::Screen(const std::string& type)
@@ -165,4 +168,5 @@ int Request::m_Number(const char* key) const
     }
     return value;
 }
+
 } // namespace veskar

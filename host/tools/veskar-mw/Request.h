@@ -55,4 +55,5 @@ private:
 
     std::map<std::string, Value> m_values;
 };
+
 } // namespace veskar

@@ -33,6 +33,7 @@ Fields operator+(Fields fields, const Fields& more)
     fields.insert(fields.end(), more.begin(), more.end());
     return fields;
 }
+
 } // namespace
 
 const std::vector<ScreenKind>& ScreenKinds()
@@ -54,4 +55,5 @@ const std::vector<ScreenKind>& ScreenKinds()
     };
     return kinds;
 }
+
 } // namespace veskar

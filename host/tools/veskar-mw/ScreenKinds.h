@@ -40,4 +40,5 @@ struct ScreenKind
 };
 
 const std::vector<ScreenKind>& ScreenKinds();
+
 } // namespace veskar

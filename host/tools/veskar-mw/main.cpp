@@ -80,6 +80,7 @@ int Run(const Command& command)
     desk.Tell(request);
     return ExitStatus::DELIVERED;
 }
+
 } // namespace
 
 int main(int argc, char** argv)
