@@ -273,6 +273,12 @@ TEST_F(Screens, ProgressUpdatesInPlaceAndAnswersItsButtonAlone)
     ExpectCloseAndReplace("progress", {"--title", "Scan", "--percent", "5"});
 }
 
+TEST_F(Screens, ProgressShowsATextThatTheToolkitAloneWouldBreakIntoLinesForEver)
+{
+    // A mark that stands on a space.
+    ExpectCloseAndReplace("progress", {"--text", u8"\u0663 \u20dd \u2003\u1680"});
+}
+
 TEST_F(Screens, LoadingAnswersItsButtonAlone)
 {
     Process request = SendKind("loading", {"--text", "Please wait", "--button", "Cancel"});
