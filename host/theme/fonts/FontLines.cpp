@@ -1,0 +1,162 @@
+/**
+ * veskar-font-lines LIKE FONT COPY: writes a copy of a font, or of a collection of fonts, which has the lines of
+ * another.
+ *
+ * The toolkit makes a text's first and last line as high as the box that all glyphs of the font fit in. A font with a
+ * few huge glyphs, such as the long strokes of vertical writing, so makes every text high that has one letter of it.
+ */
+#include <cmath>
+#include <cstdint>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+/** How far lines and glyphs reach above (positive) and below (negative) the base line, in sizes of the font. */
+struct Reach
+{
+    double ascender;
+    double descender;
+    double top;
+    double bottom;
+};
+
+/** A file of OpenType, in which all numbers are big-endian. */
+class FontFile
+{
+public:
+    explicit FontFile(const std::string& path)
+    {
+        std::ifstream file(path, std::ios::binary);
+        m_bytes.assign(std::istreambuf_iterator<char>(file), {});
+        if (!file)
+        {
+            throw std::runtime_error("cannot read " + path);
+        }
+    }
+
+    /** The reach of the only font, or of a collection's first. */
+    Reach GetReach() const
+    {
+        const std::size_t face = Faces().front();
+        const std::size_t head = Table(face, "head");
+        const std::size_t lines = Table(face, "hhea");
+        const double size = Number(head + SIZE, 2);
+        return {Signed(lines + ASCENDER) / size, Signed(lines + DESCENDER) / size, Signed(head + TOP) / size,
+                Signed(head + BOTTOM) / size};
+    }
+
+    void SetReach(const Reach& reach)
+    {
+        for (const std::size_t face : Faces())
+        {
+            const std::size_t head = Table(face, "head");
+            const std::size_t lines = Table(face, "hhea");
+            const double size = Number(head + SIZE, 2);
+            Set(lines + ASCENDER, reach.ascender * size);
+            Set(lines + DESCENDER, reach.descender * size);
+            Set(lines + LINE_GAP, 0);
+            Set(head + TOP, reach.top * size);
+            Set(head + BOTTOM, reach.bottom * size);
+        }
+    }
+
+    void Write(const std::string& path) const
+    {
+        std::ofstream file(path, std::ios::binary);
+        file << m_bytes;
+        if (!file.flush())
+        {
+            throw std::runtime_error("cannot write " + path);
+        }
+    }
+
+private:
+    // Places in the tables "head" (the first three) and "hhea".
+    static constexpr std::size_t SIZE = 18;
+    static constexpr std::size_t BOTTOM = 38;
+    static constexpr std::size_t TOP = 42;
+    static constexpr std::size_t ASCENDER = 4;
+    static constexpr std::size_t DESCENDER = 6;
+    static constexpr std::size_t LINE_GAP = 8;
+
+    /** at() throughout: a file that is no font ends in an exception. */
+    std::uint32_t Number(std::size_t at, std::size_t length) const
+    {
+        std::uint32_t number = 0;
+        for (std::size_t i = at; i < at + length; ++i)
+        {
+            number = number << 8 | static_cast<unsigned char>(m_bytes.at(i));
+        }
+        return number;
+    }
+
+    int Signed(std::size_t at) const { return static_cast<std::int16_t>(Number(at, 2)); }
+
+    void Set(std::size_t at, double value)
+    {
+        const long number = std::lround(value);
+        m_bytes.at(at) = static_cast<char>(number >> 8);
+        m_bytes.at(at + 1) = static_cast<char>(number);
+    }
+
+    /** Where the directory of each font begins. */
+    std::vector<std::size_t> Faces() const
+    {
+        if (m_bytes.compare(0, 4, "ttcf") != 0)
+        {
+            return {0};
+        }
+        std::vector<std::size_t> faces(Number(8, 4));
+        for (std::size_t i = 0; i < faces.size(); ++i)
+        {
+            faces[i] = Number(12 + 4 * i, 4);
+        }
+        return faces;
+    }
+
+    std::size_t Table(std::size_t face, const char* tag) const
+    {
+        const std::size_t count = Number(face + 4, 2);
+        for (std::size_t entry = face + 12; entry < face + 12 + 16 * count; entry += 16)
+        {
+            if (m_bytes.compare(entry, 4, tag) == 0)
+            {
+                return Number(entry + 8, 4);
+            }
+        }
+        throw std::runtime_error(std::string("no table ") + tag);
+    }
+
+    std::string m_bytes;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 5)
+    {
+        std::cerr << "Usage: veskar-font-lines LIKE FONT COPY ABOVE\n";
+        return 64;
+    }
+    try
+    {
+        Reach reach = FontFile(argv[1]).GetReach();
+        reach.top += std::stod(argv[4]);
+        FontFile font(argv[2]);
+        font.SetReach(reach);
+        font.Write(argv[3]);
+        return 0;
+    }
+    catch (const std::exception& error)
+    {
+        std::cerr << "veskar-font-lines: " << argv[2] << ": " << error.what() << '\n';
+        return 1;
+    }
+}
