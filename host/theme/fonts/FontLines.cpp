@@ -43,26 +43,26 @@ public:
     /** The reach of the only font, or of a collection's first. */
     Reach GetReach() const
     {
-        const std::size_t face = Faces().front();
-        const std::size_t head = Table(face, "head");
-        const std::size_t lines = Table(face, "hhea");
-        const double size = Number(head + SIZE, 2);
-        return {Signed(lines + ASCENDER) / size, Signed(lines + DESCENDER) / size, Signed(head + TOP) / size,
-                Signed(head + BOTTOM) / size};
+        const std::size_t face = m_Faces().front();
+        const std::size_t head = m_Table(face, "head");
+        const std::size_t lines = m_Table(face, "hhea");
+        const double size = m_Number(head + SIZE, 2);
+        return {m_Signed(lines + ASCENDER) / size, m_Signed(lines + DESCENDER) / size, m_Signed(head + TOP) / size,
+                m_Signed(head + BOTTOM) / size};
     }
 
     void SetReach(const Reach& reach)
     {
-        for (const std::size_t face : Faces())
+        for (const std::size_t face : m_Faces())
         {
-            const std::size_t head = Table(face, "head");
-            const std::size_t lines = Table(face, "hhea");
-            const double size = Number(head + SIZE, 2);
-            Set(lines + ASCENDER, reach.ascender * size);
-            Set(lines + DESCENDER, reach.descender * size);
-            Set(lines + LINE_GAP, 0);
-            Set(head + TOP, reach.top * size);
-            Set(head + BOTTOM, reach.bottom * size);
+            const std::size_t head = m_Table(face, "head");
+            const std::size_t lines = m_Table(face, "hhea");
+            const double size = m_Number(head + SIZE, 2);
+            m_Set(lines + ASCENDER, reach.ascender * size);
+            m_Set(lines + DESCENDER, reach.descender * size);
+            m_Set(lines + LINE_GAP, 0);
+            m_Set(head + TOP, reach.top * size);
+            m_Set(head + BOTTOM, reach.bottom * size);
         }
     }
 
@@ -86,7 +86,7 @@ private:
     static constexpr std::size_t LINE_GAP = 8;
 
     /** at() throughout: a file that is no font ends in an exception. */
-    std::uint32_t Number(std::size_t at, std::size_t length) const
+    std::uint32_t m_Number(std::size_t at, std::size_t length) const
     {
         std::uint32_t number = 0;
         for (std::size_t i = at; i < at + length; ++i)
@@ -96,9 +96,9 @@ private:
         return number;
     }
 
-    int Signed(std::size_t at) const { return static_cast<std::int16_t>(Number(at, 2)); }
+    int m_Signed(std::size_t at) const { return static_cast<std::int16_t>(m_Number(at, 2)); }
 
-    void Set(std::size_t at, double value)
+    void m_Set(std::size_t at, double value)
     {
         const long number = std::lround(value);
         m_bytes.at(at) = static_cast<char>(number >> 8);
@@ -106,28 +106,28 @@ private:
     }
 
     /** Where the directory of each font begins. */
-    std::vector<std::size_t> Faces() const
+    std::vector<std::size_t> m_Faces() const
     {
         if (m_bytes.compare(0, 4, "ttcf") != 0)
         {
             return {0};
         }
-        std::vector<std::size_t> faces(Number(8, 4));
+        std::vector<std::size_t> faces(m_Number(8, 4));
         for (std::size_t i = 0; i < faces.size(); ++i)
         {
-            faces[i] = Number(12 + 4 * i, 4);
+            faces[i] = m_Number(12 + 4 * i, 4);
         }
         return faces;
     }
 
-    std::size_t Table(std::size_t face, const char* tag) const
+    std::size_t m_Table(std::size_t face, const char* tag) const
     {
-        const std::size_t count = Number(face + 4, 2);
+        const std::size_t count = m_Number(face + 4, 2);
         for (std::size_t entry = face + 12; entry < face + 12 + 16 * count; entry += 16)
         {
             if (m_bytes.compare(entry, 4, tag) == 0)
             {
-                return Number(entry + 8, 4);
+                return m_Number(entry + 8, 4);
             }
         }
         throw std::runtime_error(std::string("no table ") + tag);
