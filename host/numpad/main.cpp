@@ -31,7 +31,6 @@ std::string TextOf(app_control_h request, const char* key)
 
 bool OnCreate(void* data)
 {
-    elm_config_mirrored_set(ua_UI_orientation_get() == veskar::RIGHT_TO_LEFT ? EINA_TRUE : EINA_FALSE);
     ea_init(); // the theme for the viewer's display modes
     static_cast<veskar::PadApplication*>(data)->Create();
     return true;
@@ -52,6 +51,8 @@ void OnRequest(app_control_h request, void* data)
     const std::string command = TextOf(request, "cmd");
     if (command == "show")
     {
+        // Each time: the process may outlive a pad, and the viewer may have chosen another language since.
+        elm_config_mirrored_set(ua_UI_orientation_get() == veskar::RIGHT_TO_LEFT ? EINA_TRUE : EINA_FALSE);
         application.Show(TakesDigitsBack(TextOf(request, "type")));
     }
     else if (command == "hide")
