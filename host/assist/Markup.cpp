@@ -7,11 +7,11 @@
  * are the usual case. The library for the direction of texts reads memory that is not its own when directions are
  * nested more deeply than it has room for.
  */
+#include "CString.h"
+
 #include <Elementary.h>
 #include <algorithm>
-#include <cstdlib>
 #include <hb.h>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,16 +21,16 @@ namespace veskar
 namespace
 {
 
-constexpr char32_t noBreakSpace = 0xA0;
-constexpr char32_t softHyphen = 0xAD;
-constexpr char32_t zeroWidthSpace = 0x200B;
-constexpr char32_t zeroWidthJoiner = 0x200D;
-constexpr char32_t endOfEmbedding = 0x202C;
-constexpr char32_t wordJoiner = 0x2060;
-constexpr char32_t endOfIsolate = 0x2069;
+constexpr char32_t NO_BREAK_SPACE = 0xA0;
+constexpr char32_t SOFT_HYPHEN = 0xAD;
+constexpr char32_t ZERO_WIDTH_SPACE = 0x200B;
+constexpr char32_t ZERO_WIDTH_JOINER = 0x200D;
+constexpr char32_t END_OF_EMBEDDING = 0x202C;
+constexpr char32_t WORD_JOINER = 0x2060;
+constexpr char32_t END_OF_ISOLATE = 0x2069;
 
 /** Each takes two levels at most, of 125. */
-constexpr std::size_t deepest = 60;
+constexpr std::size_t DEEPEST = 60;
 
 bool IsBetween(char32_t character, char32_t first, char32_t last)
 {
@@ -64,17 +64,17 @@ bool IsSkinTone(char32_t character)
 /** With the character before it, whatever that is. */
 bool Joins(char32_t character)
 {
-    constexpr char32_t firstTag = 0xE0020;
-    constexpr char32_t lastTag = 0xE007F;
-    return IsMark(character) || IsSkinTone(character) || character == zeroWidthJoiner ||
-           IsBetween(character, firstTag, lastTag);
+    constexpr char32_t FIRST_TAG = 0xE0020;
+    constexpr char32_t LAST_TAG = 0xE007F;
+    return IsMark(character) || IsSkinTone(character) || character == ZERO_WIDTH_JOINER ||
+           IsBetween(character, FIRST_TAG, LAST_TAG);
 }
 
 bool AllowsBreak(char32_t character)
 {
-    constexpr std::u32string_view blanks = U" \t\u1680\u2028\u2029\u202F\u205F\u3000";
-    return blanks.find(character) != std::u32string_view::npos || character == softHyphen ||
-           IsBetween(character, 0x2000, zeroWidthSpace);
+    constexpr std::u32string_view BLANKS = U" \t\u1680\u2028\u2029\u202F\u205F\u3000";
+    return BLANKS.find(character) != std::u32string_view::npos || character == SOFT_HYPHEN ||
+           IsBetween(character, 0x2000, ZERO_WIDTH_SPACE);
 }
 
 /** The directions that are open at one place of a text. */
@@ -85,21 +85,21 @@ public:
     bool Take(char32_t character)
     {
         const bool opensIsolate = IsBetween(character, 0x2066, 0x2068);
-        const bool opensEmbedding = IsBetween(character, 0x202A, 0x202E) && character != endOfEmbedding;
+        const bool opensEmbedding = IsBetween(character, 0x202A, 0x202E) && character != END_OF_EMBEDDING;
         if (opensIsolate || opensEmbedding)
         {
-            const bool fits = m_isolates.size() < deepest;
+            const bool fits = m_isolates.size() < DEEPEST;
             if (fits)
             {
                 m_isolates.push_back(opensIsolate);
             }
             return fits;
         }
-        if (character == endOfEmbedding && !m_isolates.empty() && !m_isolates.back())
+        if (character == END_OF_EMBEDDING && !m_isolates.empty() && !m_isolates.back())
         {
             m_isolates.pop_back();
         }
-        if (character == endOfIsolate)
+        if (character == END_OF_ISOLATE)
         {
             m_EndIsolate();
         }
@@ -131,18 +131,18 @@ bool TakesSkinTone(char32_t character)
 void Append(std::u32string& text, char32_t character)
 {
     const char32_t before = text.empty() ? U'\n' : text.back();
-    const bool allowsBreakOnly = character == softHyphen || character == zeroWidthSpace;
+    const bool allowsBreakOnly = character == SOFT_HYPHEN || character == ZERO_WIDTH_SPACE;
     if (allowsBreakOnly && Joins(before))
     {
         return;
     }
     if (Joins(character) && AllowsBreak(before))
     {
-        text.back() = noBreakSpace;
+        text.back() = NO_BREAK_SPACE;
     }
     if (IsSkinTone(character) && !TakesSkinTone(before))
     {
-        text += wordJoiner;
+        text += WORD_JOINER;
     }
     text += character;
 }
@@ -160,12 +160,12 @@ std::string LaidOutWell(const char* text)
     }
     int length = 0;
     const std::vector<Eina_Unicode> units(result.begin(), result.end());
-    const std::unique_ptr<char, decltype(&free)> bytes(
-        eina_unicode_unicode_to_utf8_range(units.data(), static_cast<int>(units.size()), &length), free);
+    const CString bytes(eina_unicode_unicode_to_utf8_range(units.data(), static_cast<int>(units.size()), &length));
     return {bytes.get(), static_cast<std::size_t>(length)};
 }
 
 } // namespace
+
 } // namespace veskar
 
 extern "C"

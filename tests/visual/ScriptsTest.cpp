@@ -88,7 +88,7 @@ protected:
     Ecore_Evas* m_canvas = nullptr;
 };
 
-TEST_P(Scripts, have_lines_of_one_height_and_whole_letters)
+TEST_P(Scripts, HaveLinesOfOneHeightAndWholeLetters)
 {
     const int one = Draw("Latin").height;
     const int two = Draw("Latin<br/>Latin").height;
@@ -107,7 +107,7 @@ TEST_P(Scripts, have_lines_of_one_height_and_whole_letters)
     }
 }
 
-TEST_P(Scripts, have_the_forms_of_the_language)
+TEST_P(Scripts, HaveTheFormsOfTheLanguage)
 {
     std::set<std::vector<unsigned>> forms;
     for (const char* language : {"ja_JP.utf8", "ko_KR.utf8", "zh_CN.utf8", "zh_TW.utf8"})

@@ -1,6 +1,6 @@
 /**
- * veskar-font-lines LIKE FONT COPY: writes a copy of a font, or of a collection of fonts, which has the lines of
- * another.
+ * veskar-font-lines LIKE FONT COPY ABOVE: writes a copy of a font, or of a collection of fonts, which has the lines of
+ * another; its glyphs may reach higher than that one's, by so many sizes of the font.
  *
  * The toolkit makes a text's first and last line as high as the box that all glyphs of the font fit in. A font with a
  * few huge glyphs, such as the long strokes of vertical writing, so makes every text high that has one letter of it.
