@@ -62,48 +62,68 @@ std::string LineOf(const Grab& grab)
     return std::string(grab.key->name) + " " + NameOf(grab.mode) + " " + std::to_string(pid) + "/" + ProgramName(pid);
 }
 
+RemoteCommand ListKeys()
+{
+    return [](const std::string&, const RemoteAnswer& answer)
+    {
+        RemoteReply reply;
+        for (const Key& key : AllKeys())
+        {
+            reply.lines.emplace_back(key.name);
+        }
+        answer(reply);
+    };
+}
+
+RemoteCommand ListGrabs(const GrabTable& grabs)
+{
+    return [&grabs](const std::string&, const RemoteAnswer& answer)
+    {
+        RemoteReply reply;
+        for (const Grab& grab : grabs.All())
+        {
+            reply.lines.push_back(LineOf(grab));
+        }
+        answer(reply);
+    };
+}
+
+RemoteCommand TakeShot(Screenshots& screenshots)
+{
+    return [&screenshots](const std::string& path, const RemoteAnswer& answer)
+    {
+        if (path.empty() || path.front() != '/')
+        {
+            answer({{}, "an absolute path is needed"});
+            return;
+        }
+        screenshots.Take(path, [answer](const std::string& error) { answer({{}, error}); });
+    };
+}
+
 } // namespace
 
 void SetRemoteCommands(RemoteSocket& socket, Seat& seat, const GrabTable& grabs, Screenshots& screenshots)
 {
-    socket.SetCommand("press", ForEachKey(
-                                   [&seat](const Key& key)
-                                   {
-                                       seat.Inject(key, WL_KEYBOARD_KEY_STATE_PRESSED);
-                                       seat.Inject(key, WL_KEYBOARD_KEY_STATE_RELEASED);
-                                   }));
-    socket.SetCommand("down", ForEachKey([&seat](const Key& key) { seat.Inject(key, WL_KEYBOARD_KEY_STATE_PRESSED); }));
-    socket.SetCommand("up", ForEachKey([&seat](const Key& key) { seat.Inject(key, WL_KEYBOARD_KEY_STATE_RELEASED); }));
-    socket.SetCommand("keys",
-                      [](const std::string&, const RemoteAnswer& answer)
-                      {
-                          RemoteReply reply;
-                          for (const Key& key : AllKeys())
-                          {
-                              reply.lines.emplace_back(key.name);
-                          }
-                          answer(reply);
-                      });
-    socket.SetCommand("grabs",
-                      [&grabs](const std::string&, const RemoteAnswer& answer)
-                      {
-                          RemoteReply reply;
-                          for (const Grab& grab : grabs.All())
-                          {
-                              reply.lines.push_back(LineOf(grab));
-                          }
-                          answer(reply);
-                      });
-    socket.SetCommand("shot",
-                      [&screenshots](const std::string& path, const RemoteAnswer& answer)
-                      {
-                          if (path.empty() || path.front() != '/')
-                          {
-                              answer({{}, "an absolute path is needed"});
-                              return;
-                          }
-                          screenshots.Take(path, [answer](const std::string& error) { answer({{}, error}); });
-                      });
+    const auto down = [&seat](const Key& key)
+    {
+        seat.Inject(key, WL_KEYBOARD_KEY_STATE_PRESSED);
+    };
+    const auto up = [&seat](const Key& key)
+    {
+        seat.Inject(key, WL_KEYBOARD_KEY_STATE_RELEASED);
+    };
+    const auto press = [down, up](const Key& key)
+    {
+        down(key);
+        up(key);
+    };
+    socket.SetCommand("press", ForEachKey(press));
+    socket.SetCommand("down", ForEachKey(down));
+    socket.SetCommand("up", ForEachKey(up));
+    socket.SetCommand("keys", ListKeys());
+    socket.SetCommand("grabs", ListGrabs(grabs));
+    socket.SetCommand("shot", TakeShot(screenshots));
 }
 
 } // namespace veskar
