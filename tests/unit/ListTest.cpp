@@ -139,20 +139,21 @@ TEST_F(ListWindowTest, TheColumnsShareTheWidthBetweenOneAndEight)
 
 TEST_F(ListWindowTest, CellsKeepToTheirColumnsInRowsOfFewerCellsAndOfMore)
 {
-    Show("LLL", false, {"1\t2\t3", "1", "1\t2", "1\t2\t3\t4\t5"});
+    Show("LLL", false, {"1\t2\t3", "1", "1\t2", "1\t2\t3\t\t", "1\t2\t3\t4\t5"});
     for (const std::size_t row : {1, 2, 3})
     {
         EXPECT_EQ(MinimumSize(Row(row)), MinimumSize(Row(0)));
     }
-    Evas_Object* row = Row(3);
-    evas_object_resize(row, 700, 18);
+    Evas_Object* row = Row(4);
+    EXPECT_EQ(MinimumSize(row), "602x18");
+    evas_object_resize(row, 602, 18);
     elm_box_recalculate(row);
     std::vector<int> lefts;
     for (Evas_Object* cell : Widgets(row, "elm_label"))
     {
         evas_object_geometry_get(cell, &lefts.emplace_back(), nullptr, nullptr, nullptr);
     }
-    EXPECT_THAT(lefts, ElementsAre(62, 254, 446, 638, 830));
+    EXPECT_THAT(lefts, ElementsAre(0, 192, 384, 576, 768));
 }
 
 TEST_F(ListWindowTest, AHeaderStandsAboveTheRowsAndIsNotOneOfThem)

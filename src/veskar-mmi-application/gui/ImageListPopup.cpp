@@ -17,6 +17,7 @@ namespace
 
 constexpr int MAX_IMAGE_WIDTH = 640;
 constexpr int SPACER_WIDTH = 20;
+constexpr int TEXT_INSET = 32;
 
 } // namespace
 
@@ -127,7 +128,17 @@ char* ImageListPopup::s_TextGet(void* data, Evas_Object* /*object*/, const char*
 
 Evas_Object* ImageListPopup::s_ContentGet(void* data, Evas_Object* object, const char* part)
 {
-    return CreateRow(static_cast<const char*>(data), object, part, s_numColumns);
+    Evas_Object* header = CreateRow(static_cast<const char*>(data), object, part, s_numColumns);
+    if (header != nullptr)
+    {
+        // The rows stand beside the image, not in the middle, and their texts so far within them.
+        const int inset = ScaledSize(TEXT_INSET);
+        const MainLoopSection section;
+        elm_box_align_set(header, 0.0, 0.5);
+        evas_object_size_hint_align_set(header, 0.0, 0.5);
+        evas_object_size_hint_padding_set(header, inset, inset, 0, 0);
+    }
+    return header;
 }
 
 void ImageListPopup::s_OnMenuItemClicked(void* data, Evas_Object* object, void* /*eventInfo*/)

@@ -19,8 +19,8 @@ namespace
 {
 
 constexpr int HEADER_HEIGHT = 30;
-constexpr int LIST_HEIGHT = 460; // what a list takes at most: six rows, and what rounding may take of them
-constexpr int ROW_HEIGHT = 76;   // where the theme does not tell it
+constexpr int LIST_HEIGHT = 484; // what a list takes at most: six rows, and what rounding may take of them
+constexpr int ROW_HEIGHT = 80;   // where the theme does not tell it
 constexpr const char* ROW_HEIGHT_ITEM = "row_height";
 
 struct FreeItemClass

@@ -21,6 +21,7 @@ constexpr int MAX_COLUMNS = 8;
 constexpr int BODY_WIDTH = 1154;
 constexpr int LOGGED_WIDTH = 1217;
 constexpr int CELL_HEIGHT = 36;
+constexpr int OVERHANG_WIDTH = 51; // as far as a row may go beside its columns
 
 struct Row
 {
@@ -77,13 +78,9 @@ std::string CellMarkup(const std::string& cell, const char* alignment, bool head
     return "<color=" + colour + "><font=Sans:style=Regular font_size=" + fontSize + ">" + text + "</font></color>";
 }
 
-/** Rows stand centred: one of fewer cells than columns takes the room of all, so that its cells keep to theirs. */
+/** Room without a cell, at the end of a row. */
 void PadRow(Evas_Object* row, int width)
 {
-    if (width <= 0)
-    {
-        return;
-    }
     const MainLoopSection section;
     Evas_Object* spacer = elm_box_add(row);
     evas_object_size_hint_min_set(spacer, width, 0);
@@ -91,7 +88,8 @@ void PadRow(Evas_Object* row, int width)
     elm_box_pack_end(row, spacer);
 }
 
-/** A cell past the last column hangs over the end of its row, which is no wider for it: `beyond` counts such cells. */
+/** A cell past the last column hangs over the end of its row, which takes no room for it: `beyond` counts such cells.
+ */
 void HangOver(Evas_Object* label, int width, int beyond)
 {
     const MainLoopSection section;
@@ -156,7 +154,17 @@ Evas_Object* CreateRow(const char* rowData, Evas_Object* parent, const char* par
         evas_object_size_hint_align_set(label, EVAS_HINT_FILL, 0.5);
         evas_object_show(label);
     }
-    PadRow(box, cellWidth * (numColumns - static_cast<int>(row.cells.size())));
+    // A row of fewer cells takes the room of all, so that its cells keep to theirs; one of more grows to show how the
+    // next begins. A header stands centred over the columns, and so takes no more than they do.
+    const auto columns = static_cast<std::size_t>(numColumns);
+    if (row.cells.size() < columns)
+    {
+        PadRow(box, cellWidth * static_cast<int>(columns - row.cells.size()));
+    }
+    else if (row.cells.size() > columns && !row.cells[columns].empty() && !header)
+    {
+        PadRow(box, ScaledSize(OVERHANG_WIDTH));
+    }
     EFL_GUARD(elm_box_recalculate, box);
     EFL_GUARD(evas_object_size_hint_weight_set, box, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
     EFL_GUARD(evas_object_show, box);
