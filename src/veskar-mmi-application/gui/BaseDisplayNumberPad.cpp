@@ -5,7 +5,6 @@
 #include "Log.h"
 
 #include <initializer_list>
-#include <optional>
 
 #include <system_info.h>
 #include <vconf.h>
@@ -26,21 +25,21 @@ struct ExtraData
     const char* value;
 };
 
-/** Sends the pad one request; nothing where the platform gives no request to fill, its error code otherwise. */
-std::optional<int> SendToNumberPad(std::initializer_list<ExtraData> extraData)
+/** A request to the pad; null, and said so, where the platform gives none to fill. */
+AppControl CreatePadRequest(std::initializer_list<ExtraData> extraData)
 {
-    const AppControl request = CreateAppControl();
+    AppControl request = CreateAppControl();
     if (!request)
     {
         LOG_ERROR("Failed to create app_control");
-        return std::nullopt;
+        return request;
     }
     for (const ExtraData& data : extraData)
     {
         app_control_add_extra_data(request.get(), data.key, data.value);
     }
     app_control_set_app_id(request.get(), NUMBER_PAD);
-    return app_control_send_launch_request(request.get(), nullptr, nullptr);
+    return request;
 }
 
 } // namespace
@@ -82,15 +81,16 @@ void BaseDisplay::t_ShowNumPad(bool numbersOnly)
         LOG_DEBUG("Numpad already visible");
         return;
     }
-    const std::optional<int> result =
-        SendToNumberPad({{"type", numbersOnly ? "number" : "number_zip"}, {"cmd", "show"}, {"tts", "skip"}});
-    if (!result)
+    const AppControl request =
+        CreatePadRequest({{"type", numbersOnly ? "number" : "number_zip"}, {"cmd", "show"}, {"tts", "skip"}});
+    if (!request)
     {
         return;
     }
-    if (*result != APP_CONTROL_ERROR_NONE)
+    const int result = app_control_send_launch_request(request.get(), nullptr, nullptr);
+    if (result != APP_CONTROL_ERROR_NONE)
     {
-        LOG_ERROR("Failed to launch Function-osd. Result: " << *result);
+        LOG_ERROR("Failed to launch Function-osd. Result: " << result);
         return;
     }
     LOG_DEBUG("Succeeded to launch Function-osd.");
@@ -109,12 +109,12 @@ void BaseDisplay::t_HideNumPad()
         LOG_DEBUG("Numpad already hidden");
         return;
     }
-    const std::optional<int> result = SendToNumberPad({{"cmd", "hide"}});
-    if (!result)
+    const AppControl request = CreatePadRequest({{"cmd", "hide"}});
+    if (!request)
     {
         return;
     }
-    if (*result != APP_CONTROL_ERROR_NONE)
+    if (app_control_send_launch_request(request.get(), nullptr, nullptr) != APP_CONTROL_ERROR_NONE)
     {
         LOG_ERROR("Failed to launch Function-osd.");
         return;

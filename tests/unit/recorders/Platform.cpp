@@ -116,6 +116,10 @@ int app_control_create(app_control_h* request)
 int app_control_destroy(app_control_h request)
 {
     --tv.liveRequests;
+    {
+        const std::lock_guard<std::mutex> lock(Tv::logMutex);
+        tv.linesBeforeDestroyed = tv.log.size();
+    }
     delete request;
     return APP_CONTROL_ERROR_NONE;
 }

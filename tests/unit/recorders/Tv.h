@@ -62,6 +62,7 @@ struct Tv
     static inline std::mutex logMutex;
     std::set<std::pair<std::string, int>> heldKeys; // key and mode
     int liveRequests = 0;
+    std::size_t linesBeforeDestroyed = 0; // of the log, when the last request was destroyed
     Evas_Object* window = nullptr;
     ui_app_lifecycle_callback_s application{};
     void* applicationData = nullptr;
