@@ -303,6 +303,10 @@ TEST_F(ImageListPopupTest, ThePictureFollowsUpAndDownWithinTheRows)
     Show("", false, {"a", "b"}, true, Texts{first, second}, 400, 300);
     EXPECT_EQ(Picture(), first);
     EXPECT_EQ(MinimumSize(Image()), "200x150");
+    Settle();
+    int most = 0;
+    evas_object_size_hint_max_get(elm_object_parent_widget_get(list->m_menuList), nullptr, &most);
+    EXPECT_EQ(most, -1) << "the list is no higher than the picture";
     EXPECT_THAT(After({"Up", "Down", "Down", "Return", "Up"}), ElementsAre(first, second, second, second, first));
     EXPECT_TRUE(tv.Logged(DLOG_INFO, "KEY_UP/DOWN pressed. Current index update to 1"));
     EXPECT_EQ(RowText(1), "b");

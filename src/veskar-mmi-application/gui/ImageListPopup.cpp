@@ -19,6 +19,13 @@ constexpr int MAX_IMAGE_WIDTH = 640;
 constexpr int SPACER_WIDTH = 20;
 constexpr int TEXT_INSET = 32;
 
+/** A box is as low as what is in it may be at most, an image here, and would keep the list beside it as low. */
+void UnlimitHeight(Evas_Object* box)
+{
+    const MainLoopSection section;
+    elm_box_pack_end(box, evas_object_rectangle_add(evas_object_evas_get(box)));
+}
+
 } // namespace
 
 const std::string ImageListPopup::KEY_DIRECTION_UP(KEY_UP);
@@ -101,6 +108,7 @@ Evas_Object* ImageListPopup::m_CreateWindowContent(Evas_Object* parent, Evas_Obj
     else
     {
         m_UpdateImage();
+        UnlimitHeight(m_imageBox);
         EFL_GUARD(elm_box_pack_end, m_contentBox, m_imageBox);
         EFL_GUARD(evas_object_show, m_imageBox);
     }
