@@ -142,6 +142,9 @@ Eina_Bool WindowWatch::s_OnRedraw(void* data)
         int height = 0;
         evas_output_size_get(canvas, &width, &height);
         evas_damage_rectangle_add(canvas, 0, 0, width, height);
+        // Drawing by hand does not wait for the rest of the main loop, which is when all of a screen has its place.
+        evas_smart_objects_calculate(canvas);
+        edje_message_signal_process();
         ecore_evas_manual_render(CanvasOf(watch->m_window));
     }
     return ECORE_CALLBACK_CANCEL;

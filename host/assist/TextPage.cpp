@@ -145,6 +145,7 @@ private:
     static void s_OnDeletion(void* data, Evas* evas, Evas_Object* object, void* event);
     static void s_OnJob(void* data);
     void m_UpdateLater();
+    void m_Fit();
     void m_Update();
     std::vector<Page> m_BreakIntoPages() const;
     void m_Place();
@@ -227,6 +228,18 @@ void TextPage::m_UpdateLater()
     m_pending = ecore_job_add(s_OnJob, this);
 }
 
+/** Breaks the text anew where the view is of another size. */
+void TextPage::m_Fit()
+{
+    int width = 0;
+    int height = 0;
+    elm_scroller_region_get(m_scroller, nullptr, nullptr, &width, &height);
+    if (width != m_viewWidth || height != m_viewHeight)
+    {
+        m_Update();
+    }
+}
+
 void TextPage::m_Update()
 {
     elm_scroller_region_get(m_scroller, nullptr, nullptr, &m_viewWidth, &m_viewHeight);
@@ -285,7 +298,10 @@ void TextPage::m_Indicate()
 
 void TextPage::s_OnResize(void* data, Evas*, Evas_Object*, void*)
 {
-    static_cast<TextPage*>(data)->m_UpdateLater();
+    auto* self = static_cast<TextPage*>(data);
+    // At once for the picture that is about to be drawn, and once more when everything has its place.
+    self->m_Fit();
+    self->m_UpdateLater();
 }
 
 void TextPage::s_OnDeletion(void* data, Evas*, Evas_Object*, void*)
@@ -297,7 +313,7 @@ void TextPage::s_OnJob(void* data)
 {
     auto* self = static_cast<TextPage*>(data);
     self->m_pending = nullptr;
-    self->m_Update();
+    self->m_Fit();
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <app.h>
 #include <dlog.h>
 
+#include <Ecore_Evas.h>
 #include <Elementary.h>
 #include <IVesKarController.h>
 
@@ -41,6 +42,17 @@ void Launch(const char* appId)
     app_control_destroy(request);
 }
 
+void TellLeaving(Ecore_Evas* /*canvas*/)
+{
+    Tell("off the screen");
+}
+
+/** Has it told when the compositor takes the window from the screen. */
+void WatchScreen(void (*leaving)(Ecore_Evas* canvas))
+{
+    ecore_evas_callback_hide_set(ecore_evas_ecore_evas_get(evas_object_evas_get(s_window)), leaving);
+}
+
 bool Create(void*)
 {
     Tell("create");
@@ -54,6 +66,7 @@ void Terminate(void*)
 {
     Tell("terminate");
     // The window's own doings are not told any more.
+    WatchScreen(nullptr);
     evas_object_hide(s_window);
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
     if (s_sendAtTheEnd)
@@ -69,6 +82,7 @@ void Terminate(void*)
 void Request(app_control_h request, void*)
 {
     Tell("request " + Value(request, "name"));
+    WatchScreen(TellLeaving);
     const std::string action = Value(request, "do");
     if (action == "hide" || action == "replace")
     {

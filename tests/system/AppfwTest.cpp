@@ -58,7 +58,7 @@ TEST_F(Appfw, TheRequestThatStartsTheProcessComesBetweenCreateAndResume)
     ExpectTold({"create", "request first", "resume"});
 }
 
-TEST_F(Appfw, EachHideAndShowIsToldBeforeTheNextRequest)
+TEST_F(Appfw, EachHideAndShowIsToldBeforeTheNextRequestAndAWindowThatComesBackAtOnceStays)
 {
     SendRaw(Request("start"));
     const std::string id = Applications::DIALOGUES;
@@ -71,7 +71,7 @@ TEST_F(Appfw, EachHideAndShowIsToldBeforeTheNextRequest)
             .dontExpectReply();
     }
     ExpectTold({"create", "request start", "resume", "request replace", "pause", "resume", "request replace", "pause",
-                "resume", "request hide", "pause", "request hide", "request show", "resume"});
+                "resume", "request hide", "off the screen", "pause", "request hide", "request show", "resume"});
 }
 
 TEST_F(Appfw, TheTvPausesResumesAndEndsItAndNothingIsToldAfterTerminate)

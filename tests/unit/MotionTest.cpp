@@ -1,0 +1,212 @@
+// Every picture that a viewer sees while a screen comes and while he moves in it, in the TV's own theme.
+
+#include "Screen.h"
+#include "WindowManager.h"
+
+#include <algorithm>
+#include <fstream>
+
+#include <Ecore_Evas.h>
+
+namespace
+{
+
+using VESKAR_APP::WindowManager;
+
+constexpr int WIDTH = 960;
+constexpr int HEIGHT = 540;
+constexpr int SLIDE = 24;
+
+using Row = std::vector<unsigned>;
+using Frame = std::vector<Row>;
+
+/** The same a little lower, as a sheet at the bottom is while it comes in: above it is nothing but the dimmed
+ * programme. */
+Frame Lowered(const Frame& frame, int by)
+{
+    Frame lowered(by, frame.front());
+    lowered.insert(lowered.end(), frame.begin(), frame.end() - by);
+    return lowered;
+}
+
+/** By how much it is lower than at the end; -1: it differs otherwise. */
+int Offset(const Frame& frame, const Frame& end)
+{
+    for (int offset = 0; offset <= SLIDE; ++offset)
+    {
+        if (frame == Lowered(end, offset))
+        {
+            return offset;
+        }
+    }
+    return -1;
+}
+
+struct MotionTest : TvTest
+{
+    std::unique_ptr<WindowManager> manager;
+    Evas* canvas;
+    Ecore_Idle_Enterer* drawing;
+    Frame last;
+    std::vector<Frame> frames; // each differs from the one before
+    std::vector<double> times;
+    int still = 0; // ticks without a new frame
+    const Texts images{Image("red", "\377\0\0"), Image("green", "\0\377\0"), Image("blue", "\0\0\377")};
+
+    MotionTest()
+    {
+        elm_config_scale_set(1.0);
+        elm_theme_overlay_add(nullptr, VESKAR_THEME_FILE);
+        manager = std::make_unique<WindowManager>([] {}, [] {});
+        canvas = evas_object_evas_get(tv.window);
+        evas_object_resize(tv.window, WIDTH, HEIGHT);
+        TakeKeyboard();
+        Settle();
+        drawing = ecore_idle_enterer_add(Draw, this);
+    }
+    ~MotionTest() override
+    {
+        ecore_idle_enterer_del(drawing);
+        manager.reset();
+        elm_theme_overlay_del(nullptr, VESKAR_THEME_FILE);
+        elm_config_scale_set(1.0);
+    }
+
+    static std::string Image(const std::string& name, const char* colour)
+    {
+        const std::string path = testing::TempDir() + name + ".ppm";
+        std::ofstream(path) << "P6 4 3 255\n";
+        for (int i = 0; i < 12; ++i)
+            std::ofstream(path, std::ios::app) << std::string(colour, 3);
+        return path;
+    }
+    /** Draws whenever the toolkit could, as it does for a compositor that has just asked for a picture. */
+    static Eina_Bool Draw(void* data)
+    {
+        auto* test = static_cast<MotionTest*>(data);
+        Ecore_Evas* output = ecore_evas_ecore_evas_get(test->canvas);
+        ecore_evas_manual_render(output);
+        const auto* pixels = static_cast<const unsigned*>(ecore_evas_buffer_pixels_get(output));
+        Frame frame;
+        for (int row = 0; row < HEIGHT; ++row, pixels += WIDTH)
+        {
+            frame.emplace_back(pixels, pixels + WIDTH);
+        }
+        if (test->last != frame)
+        {
+            test->last = frame;
+            test->frames.push_back(std::move(frame));
+            test->times.push_back(ecore_time_get());
+            test->still = 0;
+        }
+        return ECORE_CALLBACK_RENEW;
+    }
+
+    /** As a window does that a screen has shown. */
+    void TakeKeyboard()
+    {
+        ecore_evas_focus_set(ecore_evas_ecore_evas_get(canvas), 0);
+        ecore_evas_focus_set(ecore_evas_ecore_evas_get(canvas), 1);
+    }
+    /** Collects the frames from now on until nothing moves any more. */
+    void Watch()
+    {
+        frames.clear();
+        times.clear();
+        still = 0;
+        ecore_animator_add(Tick, this);
+        ecore_main_loop_begin();
+    }
+    /** A motion has a new frame at each tick, however late a busy machine is with it. */
+    static Eina_Bool Tick(void* data)
+    {
+        constexpr int REST = 6;
+        if (++static_cast<MotionTest*>(data)->still < REST)
+        {
+            return ECORE_CALLBACK_RENEW;
+        }
+        ecore_main_loop_quit();
+        return ECORE_CALLBACK_CANCEL;
+    }
+    void Key(const char* key)
+    {
+        evas_event_feed_key_down(canvas, key, key, "", "", 0, nullptr);
+        evas_event_feed_key_up(canvas, key, key, "", "", 0, nullptr);
+    }
+};
+
+TEST_F(MotionTest, AScreenComesWholeAndOnlySlides)
+{
+    const Texts rows(20, "row");
+    const Texts buttons{"OK", "Cancel", "A label that takes more than one line of its button"};
+    const std::string wrapped =
+        "A text that takes more than one line of the sheet, so that it is broken into several of them. ";
+    std::string page;
+    while (page.size() < 2000)
+    {
+        page += wrapped;
+    }
+    double shortest = 1;
+    const auto expectSlide = [&](const char* name, bool shown)
+    {
+        SCOPED_TRACE(name);
+        EXPECT_TRUE(shown);
+        TakeKeyboard();
+        Watch();
+        std::vector<int> offsets;
+        for (const Frame& frame : frames)
+        {
+            offsets.push_back(Offset(frame, last));
+        }
+        EXPECT_EQ(offsets.front(), SLIDE);
+        EXPECT_TRUE(std::is_sorted(offsets.rbegin(), offsets.rend())) << testing::PrintToString(offsets);
+        shortest = std::min(shortest, times.back() - times.front());
+    };
+    WindowManager& show = *manager;
+    expectSlide("message", show.ShowMessage(1, 255, "T", "S", "B", "Text", {"OK"}, false));
+    expectSlide("wrapped", show.ShowMessage(1, 255, wrapped, wrapped, wrapped, wrapped, buttons, false));
+    expectSlide("text page", show.ShowMessage(1, 255, "T", "S", "B", page, {"OK"}, false));
+    expectSlide("list", show.ShowList(1, 255, "T", "S", "B", rows, "LR", true, {}, true));
+    expectSlide("few rows", show.ShowList(1, 255, "T", "", "", {"a", "b"}, "L", false, {}, true));
+    expectSlide("rows to mark", show.ShowMultipleList(1, 255, "T", "", "", rows, "L", false, buttons, true));
+    expectSlide("image list",
+                show.ShowMultipleImageList(1, 255, "T", "S", "B", images, "L", false, {}, images, 400, 300, true));
+    expectSlide("image", show.ShowImage(1, 255, "T", "S", "B", images[0], 400, 300, {"OK"}, false));
+    expectSlide("progress", show.ShowProgress(1, 255, "T", "S", "Stop", 42));
+    expectSlide("PIN", show.ShowPinManager(1, 255, "T", "S", "B", 4, ""));
+    EXPECT_LE(shortest, 0.2); // the longest there may be; a busy machine makes some of them longer
+}
+
+TEST_F(MotionTest, AnEventChangesThePictureOnce)
+{
+    const Texts rows(20, "row");
+    const auto expectOneFrame = [this](const Texts& keys)
+    {
+        TakeKeyboard();
+        Watch();
+        for (const std::string& key : keys)
+        {
+            Key(key.c_str());
+            Watch();
+            EXPECT_EQ(frames.size(), 1U) << key;
+        }
+    };
+    WindowManager& show = *manager;
+    show.ShowMultipleImageList(1, 255, "T", "S", "B", images, "L", false, {}, images, 400, 300, true);
+    expectOneFrame({"Down", "Down", "Up", "Down", "Up", "Up"});
+    show.ShowList(1, 255, "T", "S", "B", rows, "L", false, {}, true);
+    expectOneFrame(Texts(14, "Down"));
+    show.ShowMultipleList(1, 255, "T", "S", "B", rows, "L", false, {}, true);
+    expectOneFrame({"Return", "Down", "Return", "Return"});
+    show.ShowMessage(1, 255, "T", "S", "B", "text", {"OK", "Cancel"}, false);
+    expectOneFrame({"Right", "Left"});
+    show.ShowPinManager(1, 255, "T", "S", "B", 4, "");
+    expectOneFrame({"1", "2", "BackSpace"});
+    show.ShowProgress(1, 255, "T", "S", "Stop", 42);
+    Watch();
+    show.ShowProgress(1, 255, "Another title", "Another line", "End", 43);
+    Watch();
+    EXPECT_EQ(frames.size(), 1U);
+}
+
+} // namespace
