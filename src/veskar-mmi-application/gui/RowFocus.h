@@ -57,11 +57,17 @@ private:
     /** Puts the focus of a list that has it on the viewer's row. */
     void m_Restore();
     void m_RestoreSoon();
+    /**
+     * A window has no keyboard before its first picture, and without one the toolkit lights no row; in that picture,
+     * too, the viewer sees where he is.
+     */
+    void m_LightEarly(bool lit);
 
     Evas_Object* m_window;
     Evas_Object* m_list;
     Evas_Object* m_below;
     Elm_Object_Item* m_row; // the viewer's; null: the one that the list goes to by itself
+    bool m_litEarly;
     Ecore_Job* m_restoring;
 };
 
