@@ -52,13 +52,25 @@ YieldingSize::YieldingSize(Evas_Object* window)
     const MainLoopSection section;
     m_beforeDrawing = ecore_idle_enterer_add(s_OnRest, this);
     evas_object_event_callback_add(m_window, EVAS_CALLBACK_RESIZE, s_OnWindowResized, this);
+    evas_object_event_callback_add(m_window, EVAS_CALLBACK_DEL, s_OnWindowDeleted, this);
 }
 
 YieldingSize::~YieldingSize()
 {
+    m_Stop();
+}
+
+void YieldingSize::m_Stop()
+{
+    if (m_window == nullptr)
+    {
+        return;
+    }
     const MainLoopSection section;
     ecore_idle_enterer_del(m_beforeDrawing);
     evas_object_event_callback_del_full(m_window, EVAS_CALLBACK_RESIZE, s_OnWindowResized, this);
+    evas_object_event_callback_del_full(m_window, EVAS_CALLBACK_DEL, s_OnWindowDeleted, this);
+    m_window = nullptr;
 }
 
 void YieldingSize::Ask(Evas_Object* object, int width, int height)
@@ -92,6 +104,11 @@ void YieldingSize::s_OnWindowResized(void* data, Evas* /*evas*/, Evas_Object* /*
     size->m_maxWidth = UNLIMITED;
     size->m_maxHeight = UNLIMITED;
     size->m_Apply();
+}
+
+void YieldingSize::s_OnWindowDeleted(void* data, Evas* /*evas*/, Evas_Object* /*window*/, void* /*eventInfo*/)
+{
+    static_cast<YieldingSize*>(data)->m_Stop();
 }
 
 bool YieldingSize::m_Yield()

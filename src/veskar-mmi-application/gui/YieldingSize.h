@@ -18,6 +18,7 @@ namespace VESKAR_APP
 class YieldingSize
 {
 public:
+    /** `window` may go first. */
     explicit YieldingSize(Evas_Object* window);
     ~YieldingSize();
 
@@ -37,7 +38,9 @@ private:
 
     static Eina_Bool s_OnRest(void* data);
     static void s_OnWindowResized(void* data, Evas* evas, Evas_Object* window, void* eventInfo);
+    static void s_OnWindowDeleted(void* data, Evas* evas, Evas_Object* window, void* eventInfo);
 
+    void m_Stop();
     /** Lowers the limits by as much as the screen is too large; false when it fits, or nothing is left to lower. */
     bool m_Yield();
     void m_Apply() const;

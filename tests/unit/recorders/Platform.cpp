@@ -304,7 +304,31 @@ int KeyRouter_UnSet_KeyList(wl_surface*, const _KeyList* list)
     return ForEach("release", list, Release);
 }
 
+// The toolkit assistant; its text page is by itself, so that a test can take the real one.
+
 void ea_init(void)
 {
     Did("ea", "init");
+}
+
+Evas_Object* ea_pin_add(Evas_Object* parent, int length, Ea_Pin_Entered_Cb callback, void*)
+{
+    if (tv.Fails("ea_pin_add"))
+    {
+        return nullptr;
+    }
+    Did("pin", std::to_string(length));
+    Evas_Object* pin = elm_button_add(parent);
+    evas_object_data_set(pin, "entered", reinterpret_cast<void*>(callback));
+    return pin;
+}
+
+void ea_pin_reset(Ea_Pin*)
+{
+    Did("pin", "reset");
+}
+
+int ea_pin_get_text(const Ea_Pin*, char* buffer, int size)
+{
+    return static_cast<int>(eina_strlcpy(buffer, tv.texts["pin"].c_str(), static_cast<std::size_t>(size)));
 }

@@ -1,4 +1,4 @@
-// The toolkit assistant's text page and PIN field, on plain widgets.
+// The toolkit assistant's text page, without text.
 
 #include "Tv.h"
 
@@ -39,26 +39,4 @@ void ea_textpage_textblock_style_set(Evas_Object*, Evas_Textblock_Style* style)
 {
     tv.pageStyle = evas_textblock_style_get(style);
     evas_textblock_style_free(style); // the page's, and nothing is drawn
-}
-
-Evas_Object* ea_pin_add(Evas_Object* parent, int length, Ea_Pin_Entered_Cb callback, void*)
-{
-    if (tv.Fails("ea_pin_add"))
-    {
-        return nullptr;
-    }
-    tv.deeds.push_back("pin " + std::to_string(length));
-    Evas_Object* pin = elm_button_add(parent);
-    evas_object_data_set(pin, "entered", reinterpret_cast<void*>(callback));
-    return pin;
-}
-
-void ea_pin_reset(Ea_Pin*)
-{
-    tv.deeds.push_back("pin reset");
-}
-
-int ea_pin_get_text(const Ea_Pin*, char* buffer, int size)
-{
-    return static_cast<int>(eina_strlcpy(buffer, tv.texts["pin"].c_str(), static_cast<std::size_t>(size)));
 }
