@@ -68,7 +68,7 @@ protected:
         evas_object_show(text);
         ecore_evas_manual_render(m_canvas);
         const auto* pixels = static_cast<const unsigned*>(ecore_evas_buffer_pixels_get(m_canvas));
-        drawing.pixels.assign(pixels, pixels + WIDTH * HEIGHT);
+        drawing.pixels.assign(pixels, pixels + std::size_t{WIDTH} * HEIGHT);
         for (auto row = drawing.pixels.begin(); row != drawing.pixels.end(); row += WIDTH)
         {
             drawing.inked += std::any_of(row, row + WIDTH, [](unsigned pixel) { return (pixel & 0xff) > 0x40; });
