@@ -151,7 +151,8 @@ std::string LaidOutWell(const char* text)
 {
     Nesting nesting;
     std::u32string result;
-    for (int at = 0; const char32_t character = eina_unicode_utf8_next_get(text, &at);)
+    int at = 0;
+    for (char32_t character = 0; (character = eina_unicode_utf8_next_get(text, &at)) != 0;)
     {
         if (!IsControl(character) && nesting.Take(character))
         {
