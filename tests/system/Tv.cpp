@@ -71,8 +71,11 @@ Picture TvTest::Shot()
 
 Picture TvTest::StillShot()
 {
-    // Longer than a frame that is on its way, and than any pause within a motion.
+    // Longer than a frame that is on its way, and than any pause within a motion. On a busy machine a frame may take
+    // any time; but then so does a picture of it.
     constexpr std::chrono::milliseconds STILL{300};
+    constexpr int PICTURES = 6;
+    int same = 0;
     Picture last = Shot();
     auto since = std::chrono::steady_clock::now();
     const auto isStill = [&]
@@ -82,8 +85,10 @@ Picture TvTest::StillShot()
         {
             last = std::move(next);
             since = std::chrono::steady_clock::now();
+            same = 0;
         }
-        return std::chrono::steady_clock::now() - since >= STILL;
+        ++same;
+        return same >= PICTURES && std::chrono::steady_clock::now() - since >= STILL;
     };
     EXPECT_TRUE(WaitUntil(isStill)) << "the screen does not come to rest";
     return last;
