@@ -19,6 +19,7 @@ namespace
 {
 
 constexpr int HEADER_HEIGHT = 30;
+constexpr int LIST_WIDTH = 1440;
 constexpr int LIST_HEIGHT = 484; // what a list takes at most: six rows, and what rounding may take of them
 constexpr int ROW_HEIGHT = 80;   // where the theme does not tell it
 constexpr const char* ROW_HEIGHT_ITEM = "row_height";
@@ -89,6 +90,8 @@ Evas_Object* ListDisplay<Screen>::m_CreateWindowContent(Evas_Object* parent, Eva
     }
     m_PopulateList(m_menuList, itemClass.get());
     EFL_GUARD(evas_object_show, m_menuList);
+    // Rows that a smaller view would not draw at first are not there when the list is to have the focus.
+    EFL_GUARD(evas_object_resize, m_menuList, ScaledSize(LIST_WIDTH), ScaledSize(LIST_HEIGHT));
     m_AskForRowsRoom();
     EFL_GUARD(evas_object_smart_callback_add, m_menuList, "realized", s_OnRowDrawn, this);
     if (!m_menuItems.empty())

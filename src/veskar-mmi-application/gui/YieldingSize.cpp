@@ -47,7 +47,7 @@ int Lowered(int limit, int asked, int excess)
 } // namespace
 
 YieldingSize::YieldingSize(Evas_Object* window)
-    : m_window(window), m_beforeDrawing(nullptr), m_maxWidth(UNLIMITED), m_maxHeight(UNLIMITED)
+    : m_window(window), m_beforeDrawing(nullptr), m_maxWidth(UNLIMITED), m_maxHeight(UNLIMITED), m_width(0), m_height(0)
 {
     const MainLoopSection section;
     m_beforeDrawing = ecore_idle_enterer_add(s_OnRest, this);
@@ -81,6 +81,8 @@ void YieldingSize::Ask(Evas_Object* object, int width, int height)
     };
     m_wishes.erase(std::remove_if(m_wishes.begin(), m_wishes.end(), same), m_wishes.end());
     m_wishes.push_back({object, width, height});
+    m_width = 0;
+    m_height = 0;
     m_Apply();
 }
 
@@ -103,6 +105,8 @@ void YieldingSize::s_OnWindowResized(void* data, Evas* /*evas*/, Evas_Object* /*
     auto* size = static_cast<YieldingSize*>(data);
     size->m_maxWidth = UNLIMITED;
     size->m_maxHeight = UNLIMITED;
+    size->m_width = 0;
+    size->m_height = 0;
     size->m_Apply();
 }
 
@@ -126,10 +130,13 @@ bool YieldingSize::m_Yield()
     const Size room = SizeOf(m_window);
     const int maxWidth = Lowered(m_maxWidth, widest, size.width - room.width);
     const int maxHeight = Lowered(m_maxHeight, highest, size.height - room.height);
-    if (maxWidth == m_maxWidth && maxHeight == m_maxHeight)
+    const bool inVain = size.width == m_width && size.height == m_height;
+    if (inVain || (maxWidth == m_maxWidth && maxHeight == m_maxHeight))
     {
         return false;
     }
+    m_width = size.width;
+    m_height = size.height;
     m_maxWidth = maxWidth;
     m_maxHeight = maxHeight;
     m_Apply();

@@ -41,7 +41,7 @@ private:
     static void s_OnWindowDeleted(void* data, Evas* evas, Evas_Object* window, void* eventInfo);
 
     void m_Stop();
-    /** Lowers the limits by as much as the screen is too large; false when it fits, or nothing is left to lower. */
+    /** Lowers the limits by as much as the screen is too large; false when it fits or nothing more can be gained. */
     bool m_Yield();
     void m_Apply() const;
 
@@ -50,6 +50,8 @@ private:
     std::vector<Wish> m_wishes;
     int m_maxWidth;
     int m_maxHeight;
+    int m_width; // of the screen when the limits were lowered last: that it is as large still tells that it was in vain
+    int m_height;
 };
 
 } // namespace VESKAR_APP
