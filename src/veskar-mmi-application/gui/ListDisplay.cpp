@@ -21,7 +21,7 @@ namespace
 constexpr int HEADER_HEIGHT = 30;
 constexpr int LIST_WIDTH = 1440;
 constexpr int LIST_HEIGHT = 484; // what a list takes at most: six rows, and what rounding may take of them
-constexpr int ROW_HEIGHT = 80;   // where the theme does not tell it
+constexpr int ROW_HEIGHT = 76;   // where the theme does not tell it
 constexpr const char* ROW_HEIGHT_ITEM = "row_height";
 
 struct FreeItemClass
