@@ -57,7 +57,11 @@ ListDisplay<Screen>::ListDisplay(IUserInteraction& userInteraction, bool selecta
 }
 
 template <class Screen>
-ListDisplay<Screen>::~ListDisplay() = default;
+ListDisplay<Screen>::~ListDisplay()
+{
+    // The rows go before the list does, and others are drawn in their place.
+    EFL_GUARD(evas_object_smart_callback_del_full, m_menuList, "realized", s_OnRowDrawn, this);
+}
 
 template <class Screen>
 void ListDisplay<Screen>::m_StoreMenuInformation(const std::string& title, const std::string& subTitle,
