@@ -108,6 +108,8 @@ void YieldingSize::s_OnWindowResized(void* data, Evas* /*evas*/, Evas_Object* /*
     size->m_width = 0;
     size->m_height = 0;
     size->m_Apply();
+    // At once: the theme must not hear of a screen that is too large for now only, and keep it for one that stays so.
+    s_OnRest(size);
 }
 
 void YieldingSize::s_OnWindowDeleted(void* data, Evas* /*evas*/, Evas_Object* /*window*/, void* /*eventInfo*/)
