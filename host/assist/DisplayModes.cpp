@@ -6,6 +6,7 @@
 #include "appfw/Window.h"
 
 #include <cstring>
+#include <memory>
 
 namespace veskar
 {
@@ -34,14 +35,18 @@ bool ContainsShownPopup(const Evas_Object* object)
     {
         return true;
     }
-    bool found = false;
+    // Null for what has no members; the list of them would be asked for with an error line.
+    const std::unique_ptr<Eina_Iterator, decltype(&eina_iterator_free)> members(evas_object_smart_iterator_new(object),
+                                                                                eina_iterator_free);
     void* member = nullptr;
-    Eina_List* members = evas_object_smart_members_get(object);
-    EINA_LIST_FREE(members, member)
+    while (members && eina_iterator_next(members.get(), &member))
     {
-        found = found || ContainsShownPopup(static_cast<Evas_Object*>(member));
+        if (ContainsShownPopup(static_cast<Evas_Object*>(member)))
+        {
+            return true;
+        }
     }
-    return found;
+    return false;
 }
 
 /** A screen is a popup on the window; the window itself may be shown without one. */

@@ -1,6 +1,7 @@
 #include "YieldingSize.h"
 
 #include "EflGuard.h"
+#include "ScaledSize.h"
 
 #include <algorithm>
 #include <limits>
@@ -12,6 +13,7 @@ namespace
 {
 
 constexpr int UNLIMITED = std::numeric_limits<int>::max();
+constexpr int LEAST = 160; // design pixels: three lines, an image to be recognised
 
 struct Size
 {
@@ -41,7 +43,7 @@ Size SizeAround(const Evas_Object* object)
 
 int Lowered(int limit, int asked, int excess)
 {
-    return excess > 0 ? std::max(0, std::min(limit, asked) - excess) : limit;
+    return excess > 0 ? std::max(ScaledSize(LEAST), std::min(limit, asked) - excess) : limit;
 }
 
 } // namespace
