@@ -32,4 +32,15 @@ auto EFL_GUARD(Function* function, Arguments&&... arguments)
     return function(std::forward<Arguments>(arguments)...);
 }
 
+/** For owners of what the toolkit hands out. */
+template <auto Free>
+struct GuardedFreeWith
+{
+    template <typename T>
+    void operator()(T* handle) const
+    {
+        EFL_GUARD(Free, handle);
+    }
+};
+
 } // namespace VESKAR_APP

@@ -1,15 +1,23 @@
 #include "VesKarKeyRouter.h"
 
-#include "Handles.h"
+#include "EflGuard.h"
 #include "Log.h"
 
 #include <cstring>
+#include <memory>
 
 #include <ecore_wayland.h>
 #include <key_router.h>
 
 namespace VESKAR_APP
 {
+
+namespace
+{
+
+using EinaIterator = std::unique_ptr<Eina_Iterator, GuardedFreeWith<eina_iterator_free>>;
+
+} // namespace
 
 int VesKarKeyRouter_GetId()
 {

@@ -1,7 +1,6 @@
 #include "ListDisplay.h"
 
 #include "EflGuard.h"
-#include "Handles.h"
 #include "ImageListPopup.h"
 #include "ListRow.h"
 #include "ListWindow.h"
@@ -24,12 +23,10 @@ constexpr int LIST_HEIGHT = 484; // what a list takes at most: six rows, and wha
 constexpr int ROW_HEIGHT = 76;   // where the theme does not tell it
 constexpr const char* ROW_HEIGHT_ITEM = "row_height";
 
-struct FreeItemClass
-{
-    void operator()(Elm_Genlist_Item_Class* itemClass) const { EFL_GUARD(elm_genlist_item_class_free, itemClass); }
-};
+using ItemClass = std::unique_ptr<Elm_Genlist_Item_Class, GuardedFreeWith<elm_genlist_item_class_free>>;
 
-using ItemClass = std::unique_ptr<Elm_Genlist_Item_Class, FreeItemClass>;
+/** A list's nodes; what they point to stays whose it is. */
+using EinaList = std::unique_ptr<Eina_List, GuardedFreeWith<eina_list_free>>;
 
 /** In design pixels, as all that the theme tells. */
 int RowHeight(const Evas_Object* list)

@@ -1,25 +1,28 @@
-/** Owners of what the platform's and the toolkit's C functions hand out; each frees its raw pointer once. */
+/** Owners of what the platform's C functions hand out; each frees its raw pointer once. */
 #pragma once
-
-#include "EflGuard.h"
 
 #include <cstdlib>
 #include <memory>
 #include <utility>
 
-#include <Eina.h>
 #include <app_control.h>
 
 namespace VESKAR_APP
 {
 
-struct FreeMemory
+/** Frees with the C function that belongs to what is owned. */
+template <auto Free>
+struct FreeWith
 {
-    void operator()(void* memory) const { std::free(memory); }
+    template <typename T>
+    void operator()(T* handle) const
+    {
+        Free(handle);
+    }
 };
 
 /** A string (or other block) that a C function allocated with malloc. */
-using CString = std::unique_ptr<char, FreeMemory>;
+using CString = std::unique_ptr<char, FreeWith<std::free>>;
 
 /** An array of strings that a C function allocated, elements and all. */
 class CStringArray
@@ -51,28 +54,8 @@ private:
     int m_size;
 };
 
-struct DestroyAppControl
-{
-    void operator()(app_control_h request) const { app_control_destroy(request); }
-};
-
 /** A service request that this application made. */
-using AppControl = std::unique_ptr<app_control_s, DestroyAppControl>;
-
-struct FreeEinaList
-{
-    void operator()(Eina_List* list) const { EFL_GUARD(eina_list_free, list); }
-};
-
-/** A list's nodes; what they point to stays whose it is. */
-using EinaList = std::unique_ptr<Eina_List, FreeEinaList>;
-
-struct FreeEinaIterator
-{
-    void operator()(Eina_Iterator* iterator) const { EFL_GUARD(eina_iterator_free, iterator); }
-};
-
-using EinaIterator = std::unique_ptr<Eina_Iterator, FreeEinaIterator>;
+using AppControl = std::unique_ptr<app_control_s, FreeWith<app_control_destroy>>;
 
 /** A new empty service request, or null when the platform gives none. */
 inline AppControl CreateAppControl()
