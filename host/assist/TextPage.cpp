@@ -1,5 +1,7 @@
 #include "CString.h"
 #include "ea.h"
+#include "toolkit/SizeHints.h"
+#include "toolkit/ThemeSizes.h"
 
 #include <Ecore.h>
 #include <algorithm>
@@ -206,6 +208,8 @@ void TextPage::SetStyle(StyleHandle style)
 {
     evas_object_textblock_style_set(m_text, style.get());
     m_style = std::move(style);
+    // A scroller asks for no height of its own, and the theme's is known once the program has set the style.
+    SetOuterLeastSize(m_scroller, {0, ThemeSize(m_scroller, "page_height")});
     m_Update();
 }
 

@@ -20,6 +20,17 @@
 namespace VESKAR_APP
 {
 
+/** What LOG_AT takes, for a level that is not known where the line is written. */
+struct LogLevel
+{
+    int priority;
+    const char* format;
+};
+
+constexpr LogLevel LOG_LEVEL_DEBUG{DLOG_DEBUG, VESKAR_LOG_PLAIN};
+constexpr LogLevel LOG_LEVEL_INFO{DLOG_INFO, VESKAR_LOG_GREEN};
+constexpr LogLevel LOG_LEVEL_ERROR{DLOG_ERROR, VESKAR_LOG_RED};
+
 /** The part of a path behind its last slash. */
 constexpr const char* LogFileName(const char* path)
 {
@@ -52,6 +63,7 @@ constexpr const char* LogFileName(const char* path)
 #define LOG_INFO(stream) VESKAR_LOG_STREAM(DLOG_INFO, VESKAR_LOG_GREEN, stream)
 #define LOG_WARN(stream) VESKAR_LOG_STREAM(DLOG_WARN, VESKAR_LOG_YELLOW, stream)
 #define LOG_ERROR(stream) VESKAR_LOG_STREAM(DLOG_ERROR, VESKAR_LOG_RED, stream)
+#define LOG_AT(level, stream) VESKAR_LOG_STREAM((level).priority, (level).format, stream)
 
 /** The trace at a function's beginning, and its rarer siblings at the other levels. */
 #define LOG_ENTRY() VESKAR_LOG_TEXT(DLOG_DEBUG, VESKAR_LOG_PLAIN, "")

@@ -151,7 +151,6 @@ TEST_F(BaseDisplayTest, ALineIsCentredAndSeveralAreWrappedAlsoWhenUpdatedInPlace
     display->t_SetSubtitle("<1>\n2");
     EXPECT_EQ(TextOf(subtitle), "<font=Sans:style=Regular font_size=25>&lt;1&gt;<br/>2</font></color>");
     EXPECT_EQ(elm_label_line_wrap_get(subtitle), ELM_WRAP_WORD);
-    EXPECT_NE(HorizontalAlignment(subtitle), 0.5);
     EXPECT_EQ(display->GetNumberLinesText(subtitle, "elm.text"), 2);
     EXPECT_THAT(tv.Log(DLOG_ERROR),
                 ElementsAre("Failed to read db/menu/system/accessibility/focuszoom, set to default value 0",
@@ -205,19 +204,24 @@ TEST_F(BaseDisplayTest, UpToThreeButtonsReportTheirNumberFromOne)
     EXPECT_THAT(answers, IsEmpty());
 }
 
-TEST_F(BaseDisplayTest, AnEmptyLabelHidesItsButtonForGoodAlsoWhereTheThemePlacesIt)
+TEST_F(BaseDisplayTest, AnEmptyLabelHidesItsButtonUntilItHasALabelAgain)
 {
-    for (const char* style : {"C_PopupBasic_WhiteBottom", ""})
-    {
-        Show({"", "No"}, "", "", "", style);
-        Settle();
-        EXPECT_FALSE(evas_object_visible_get(display->t_buttons[0])) << style;
-        EXPECT_TRUE(evas_object_visible_get(display->t_buttons[1])) << style;
-        display->t_UpdateButtonLabels({"Yes", ""});
-        Settle();
-        EXPECT_TRUE(evas_object_visible_get(display->t_buttons[0])) << style;
-        EXPECT_FALSE(evas_object_visible_get(display->t_buttons[1])) << style;
-    }
+    Show({"", "No"});
+    EXPECT_FALSE(evas_object_visible_get(display->t_buttons[0]));
+    EXPECT_TRUE(evas_object_visible_get(display->t_buttons[1]));
+    display->t_UpdateButtonLabels({"Yes", ""});
+    EXPECT_TRUE(evas_object_visible_get(display->t_buttons[0]));
+    EXPECT_FALSE(evas_object_visible_get(display->t_buttons[1]));
+}
+
+TEST_F(BaseDisplayTest, ATextBeforeItsLabelExistsLeavesTheSameTraceInTheLog)
+{
+    Plain early(*this, window, {}, "", false);
+    tv.Forget();
+    early.SetTexts("", "a", "");
+    EXPECT_THAT(tv.Log(DLOG_DEBUG), ElementsAre("Large text mode : 0", "High contrast mode : 0"));
+    EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("m_GetTextBlockLineNumber part name:elm.text"));
+    EXPECT_EQ(tv.Log(DLOG_ERROR).back(), "Get layout failed!");
 }
 
 TEST_F(BaseDisplayTest, OnlyTheFirstLabelIsGivenTheFocusAndMoreThanThreeShowNone)

@@ -159,7 +159,7 @@ using ImagePopupTest = ScreenTest;
 
 TEST_F(ImagePopupTest, TheRequestSizesTheImageAlsoWhenItDoesNotLoad)
 {
-    for (const auto& [asked, pixels] : {std::pair(0, 0), std::pair(400, 200), std::pair(401, 201)})
+    for (const auto& [asked, pixels] : {std::pair(0, 0), std::pair(401, 201), std::pair(9999, 5000)})
     {
         tv.Forget();
         Probe<VESKAR_APP::ImagePopup> popup(*this, "T", "S", "/no/such.png", asked, asked + 2, "B", Texts{}, false,

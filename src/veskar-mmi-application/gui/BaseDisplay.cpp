@@ -23,7 +23,6 @@ constexpr double BASE_SCALE = 2.0;
 
 constexpr const char* LAYOUT_GROUP = "kavro_layout";
 constexpr const char* LAYOUT_CONTENT_PART = "kavro_layout.content";
-constexpr const char* LAYOUT_ROOM_PART = "kavro_layout.room";
 
 constexpr const char* BUTTON_STYLE = "C_ButtonBasic_WhiteText";
 constexpr const char* RIGHT_DOCKED_STYLE = "C_PopupBasic_WhiteRightLarge";
@@ -36,33 +35,6 @@ constexpr short LAYER_ABOVE_SETUP = 32767;
 constexpr const char* KEY_EXIT = "XF86Exit";
 constexpr const char* KEY_BACK = "XF86Back";
 
-/** A layout that was larger stays so, unless its least size is taken back before it is found anew. */
-void MeasureAnew(void* layout, Evas* /*evas*/, Evas_Object* /*room*/, void* /*eventInfo*/)
-{
-    auto* object = static_cast<Evas_Object*>(layout);
-    evas_object_size_hint_min_set(object, 0, 0);
-    elm_layout_sizing_eval(object);
-}
-
-/** Instead of being shown. */
-void StayHidden(void* /*data*/, Evas_Object* /*button*/) {}
-
-/**
- * Inside a main-loop section. The popup shows the buttons it holds whenever it is laid out anew, so a hidden one also
- * has to refuse being shown.
- */
-void SetButtonShown(Evas_Object* button, bool shown)
-{
-    evas_object_intercept_show_callback_del(button, StayHidden);
-    if (shown)
-    {
-        evas_object_show(button);
-        return;
-    }
-    evas_object_intercept_show_callback_add(button, StayHidden, nullptr);
-    evas_object_hide(button);
-}
-
 } // namespace
 
 BaseDisplay::BaseDisplay(IUserInteraction& userInteraction, Evas_Object* mainWindow,
@@ -70,7 +42,7 @@ BaseDisplay::BaseDisplay(IUserInteraction& userInteraction, Evas_Object* mainWin
                          bool hasBottomText)
     : t_mainWindow(mainWindow), t_popup(nullptr), t_subtitleLabel(nullptr), t_buttonLabels(buttonLabels), t_buttons{},
       t_popupStyle(popupStyle), t_hasBottomText(hasBottomText), t_displayedButtons(0),
-      t_userInteraction(userInteraction), m_room(nullptr), m_wholeFrames(mainWindow)
+      t_userInteraction(userInteraction)
 {
     EFL_GUARD(elm_app_base_scale_set, BASE_SCALE);
 }
@@ -78,7 +50,6 @@ BaseDisplay::BaseDisplay(IUserInteraction& userInteraction, Evas_Object* mainWin
 BaseDisplay::~BaseDisplay()
 {
     LOG_ENTRY();
-    t_sizes.reset();
     EFL_GUARD(evas_object_del, t_popup);
 }
 
@@ -107,7 +78,6 @@ bool BaseDisplay::t_Create()
         LOG_ERROR("Main window not available");
         return false;
     }
-    t_sizes.emplace(t_mainWindow);
     t_popup = m_CreateMainPopup(t_mainWindow);
     Evas_Object* layout = m_CreateWindowsLayout(t_popup);
     Evas_Object* box = m_CreateWindowsBox(t_popup);
@@ -182,25 +152,13 @@ Evas_Object* BaseDisplay::m_CreateMainPopup(Evas_Object* parent)
     if (!t_popupStyle.empty())
     {
         // Deleting a profile is asked at the right edge, beside the menu, whatever kind of screen asks it.
-        EFL_GUARD(elm_object_style_set, popup, m_IsRightDocked() ? RIGHT_DOCKED_STYLE : t_popupStyle.c_str());
+        const char* style = t_title == RIGHT_DOCKED_TITLE ? RIGHT_DOCKED_STYLE : t_popupStyle.c_str();
+        EFL_GUARD(elm_object_style_set, popup, style);
     }
     const MainLoopSection section;
     elm_object_part_text_set(popup, "title,text", t_title.c_str());
     evas_object_event_callback_add(popup, EVAS_CALLBACK_KEY_DOWN, s_OnKeyPressed, this);
     return popup;
-}
-
-bool BaseDisplay::m_IsRightDocked() const
-{
-    return !t_popupStyle.empty() && t_title == RIGHT_DOCKED_TITLE;
-}
-
-void BaseDisplay::t_AskForRoom(int height)
-{
-    if (m_room != nullptr)
-    {
-        t_sizes->Ask(m_room, 0, height);
-    }
 }
 
 Evas_Object* BaseDisplay::m_CreateWindowsLayout(Evas_Object* parent)
@@ -218,11 +176,6 @@ Evas_Object* BaseDisplay::m_CreateWindowsLayout(Evas_Object* parent)
     }
     EFL_GUARD(evas_object_size_hint_align_set, layout, EVAS_HINT_FILL, EVAS_HINT_FILL);
     EFL_GUARD(evas_object_size_hint_weight_set, layout, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
-    const MainLoopSection section;
-    m_room = evas_object_rectangle_add(evas_object_evas_get(layout));
-    evas_object_color_set(m_room, 0, 0, 0, 0);
-    elm_object_part_content_set(layout, LAYOUT_ROOM_PART, m_room);
-    evas_object_event_callback_add(m_room, EVAS_CALLBACK_CHANGED_SIZE_HINTS, MeasureAnew, layout);
     return layout;
 }
 
@@ -303,6 +256,13 @@ void BaseDisplay::t_SetBottomText(const std::string& text)
     s_StoreMarkupText(text, t_bottomText);
 }
 
+void BaseDisplay::t_SetTexts(const std::string& title, const std::string& subtitle, const std::string& bottom)
+{
+    t_SetTitle(title);
+    t_SetSubtitle(subtitle);
+    t_SetBottomText(bottom);
+}
+
 void BaseDisplay::t_UpdateButtonLabels(const std::vector<std::string>& labels)
 {
     if (labels.size() != t_displayedButtons)
@@ -317,11 +277,11 @@ void BaseDisplay::t_UpdateButtonLabels(const std::vector<std::string>& labels)
         const MainLoopSection section;
         if (labels[i].empty())
         {
-            SetButtonShown(t_buttons[i], false);
+            evas_object_hide(t_buttons[i]);
             continue;
         }
         elm_object_domain_translatable_part_text_set(t_buttons[i], nullptr, nullptr, markup.c_str());
-        SetButtonShown(t_buttons[i], true);
+        evas_object_show(t_buttons[i]);
         if (i == 0)
         {
             elm_object_focus_set(t_buttons[i], EINA_TRUE);

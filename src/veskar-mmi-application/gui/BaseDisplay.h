@@ -1,11 +1,8 @@
 #pragma once
 
 #include "IUserInteraction.h"
-#include "WholeFrames.h"
-#include "YieldingSize.h"
 
 #include <array>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -52,12 +49,15 @@ public:
     static bool s_CheckEnlargedMode();
     static bool s_CheckHighContrastMode();
 
-    /** What these settings make of the texts: the pixels of their font, and the colour of rows and text pages. */
-    static int s_TextFontSize();
-    static const char* s_TextColour();
-
 protected:
     static constexpr unsigned char MAX_BUTTONS = 3;
+
+    /** The theme's names for the popup of most screens and for the larger one. */
+    static constexpr const char* POPUP_STYLE = "C_PopupBasic_WhiteBottom";
+    static constexpr const char* LARGE_POPUP_STYLE = "C_PopupBasic_WhiteBottomLarge";
+
+    /** The style of the lines above and below the content, and of a message. */
+    static constexpr const char* LABEL_STYLE = "popup/c_popup_bottom";
 
     virtual bool t_Create();
     virtual bool t_Show();
@@ -85,6 +85,9 @@ protected:
     /** Takes effect in t_Create; an empty text changes nothing. */
     void t_SetBottomText(const std::string& text);
 
+    /** All three. */
+    void t_SetTexts(const std::string& title, const std::string& subtitle, const std::string& bottom);
+
     /** One label for each created button; an empty one hides its button, the first one takes the focus. */
     void t_UpdateButtonLabels(const std::vector<std::string>& labels);
 
@@ -110,15 +113,8 @@ protected:
     Evas_Object* m_AddSubBottomTitle(Evas_Object* box, const std::string& text);
     void m_AddPopupButtons(Evas_Object* popup);
 
-    /** Formats a subtitle or bottom label; `text` is markup. Nothing happens to a null label. */
+    /** Formats a subtitle or bottom label; `text` is markup. A null label is only written of in the log. */
     void m_AlignLabelText(Evas_Object* label, const std::string& text);
-    static void s_PaintLabelWhite(Evas_Object* label);
-
-    /** Tells a label, once it has its style, when it stands in the narrow panel at the right. */
-    void t_PlaceLabel(Evas_Object* label) const;
-
-    /** While the screen is built: the pixels that its content would like to be high, if the screen has them. */
-    void t_AskForRoom(int height);
 
     static void s_OnKeyPressed(void* data, Evas* evas, Evas_Object* object, void* eventInfo);
     static void s_OnButtonClicked(void* data, Evas_Object* object, void* eventInfo);
@@ -136,14 +132,6 @@ protected:
     unsigned char t_displayedButtons;
     std::string t_ttsText;
     IUserInteraction& t_userInteraction;
-
-    std::optional<YieldingSize> t_sizes; // from t_Create on
-
-private:
-    bool m_IsRightDocked() const;
-
-    Evas_Object* m_room; // nothing to see: it is as large as the content would like to be
-    WholeFrames m_wholeFrames;
 };
 
 } // namespace VESKAR_APP

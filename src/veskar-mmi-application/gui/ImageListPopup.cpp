@@ -1,10 +1,8 @@
 #include "ImageListPopup.h"
 
 #include "EflGuard.h"
-#include "ImageFile.h"
-#include "ListRow.h"
-#include "MenuList.h"
-#include "Names.h"
+#include "Log.h"
+#include "RowData.h"
 #include "ScaledSize.h"
 
 #include <string_view>
@@ -17,26 +15,22 @@ namespace
 
 constexpr int MAX_IMAGE_WIDTH = 640;
 constexpr int SPACER_WIDTH = 20;
-constexpr int TEXT_INSET = 32;
-
-/** A box is as low as what is in it may be at most, an image here, and would keep the list beside it as low. */
-void UnlimitHeight(Evas_Object* box)
-{
-    const MainLoopSection section;
-    elm_box_pack_end(box, evas_object_rectangle_add(evas_object_evas_get(box)));
-}
 
 } // namespace
 
-const std::string ImageListPopup::KEY_DIRECTION_UP(KEY_UP);
-const std::string ImageListPopup::KEY_DIRECTION_DOWN(KEY_DOWN);
+const MenuListKind ImageListPopup::KIND = {1280,         LOG_LEVEL_DEBUG,    LOG_LEVEL_ERROR, s_CreateListItemTemplate,
+                                           s_ContentGet, s_OnMenuItemClicked};
+
+const std::string ImageListPopup::KEY_DIRECTION_UP = "Up";
+const std::string ImageListPopup::KEY_DIRECTION_DOWN = "Down";
 int ImageListPopup::s_numColumns = 1;
 bool ImageListPopup::s_menuFocused = false;
 
-ImageListPopup::ImageListPopup(IUserInteraction& userInteraction, bool flag, Evas_Object* mainWindow)
-    : ListDisplay(userInteraction, flag, mainWindow), m_image(nullptr), m_contentBox(nullptr), m_imageBox(nullptr),
-      m_imageWidth(0), m_imageHeight(0), m_currentIndex(0)
+ImageListPopup::ImageListPopup(IUserInteraction& userInteraction, bool /*flag*/, Evas_Object* mainWindow)
+    : BaseDisplay(userInteraction, mainWindow, {}, LARGE_POPUP_STYLE, true), m_list(KIND, this), m_image(nullptr),
+      m_contentBox(nullptr), m_imageBox(nullptr), m_imageWidth(0), m_imageHeight(0), m_currentIndex(0)
 {
+    LOG_ENTRY();
 }
 
 bool ImageListPopup::SetMenuInformation(const std::string& title, const std::string& subTitle,
@@ -45,7 +39,10 @@ bool ImageListPopup::SetMenuInformation(const std::string& title, const std::str
                                         const std::vector<std::string>& buttons,
                                         const std::vector<std::string>& imageLocations, int width, int height)
 {
-    m_StoreMenuInformation(title, subTitle, bottom, format, firstRowHeader, entries, buttons);
+    t_SetTexts(title, subTitle, bottom);
+    t_buttonLabels = buttons;
+    m_list.SetMenuInformation(title, subTitle, bottom, format, firstRowHeader, entries);
+    s_numColumns = ColumnCount(format);
     m_imageLocations = imageLocations;
     m_imageWidth = width;
     m_imageHeight = height;
@@ -54,14 +51,14 @@ bool ImageListPopup::SetMenuInformation(const std::string& title, const std::str
 
 void ImageListPopup::SetFocusToList(bool firstElement)
 {
-    if (!m_menuItems.empty())
+    if (m_list.HasItems())
     {
         // Before the list is given the focus, or the first "focused" would be missed.
         const MainLoopSection section;
-        evas_object_smart_callback_add(m_menuList, "focused", s_OnMenuFocusd, this);
-        evas_object_smart_callback_add(m_menuList, "unfocused", s_OnMenuUnfocusd, this);
+        evas_object_smart_callback_add(m_list.Widget(), "focused", s_OnMenuFocusd, this);
+        evas_object_smart_callback_add(m_list.Widget(), "unfocused", s_OnMenuUnfocusd, this);
     }
-    ListDisplay::SetFocusToList(firstElement);
+    m_list.SetFocusToList(firstElement);
 }
 
 bool ImageListPopup::t_Show()
@@ -85,21 +82,24 @@ Evas_Object* ImageListPopup::m_CreateWindowContent(Evas_Object* parent, Evas_Obj
         evas_object_size_hint_weight_set(m_contentBox, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
         evas_object_size_hint_align_set(m_contentBox, EVAS_HINT_FILL, EVAS_HINT_FILL);
     }
-    if (m_entries.empty())
+    if (!m_list.HasEntries())
     {
         LOG_ERROR("There are no entries to display. Returning");
         return nullptr;
     }
-    ListDisplay::m_CreateWindowContent(parent, box);
+    Evas_Object* list = s_CreateMenuList(parent);
+    t_SetTTSText(m_list.Fill(list, box), nullptr);
+    LOG_DEBUG("Finished adding data to the list.");
     Evas_Object* spacer = EFL_GUARD(elm_box_add, m_contentBox);
     {
         const MainLoopSection section;
-        evas_object_size_hint_weight_set(m_menuList, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
-        evas_object_size_hint_align_set(m_menuList, EVAS_HINT_FILL, EVAS_HINT_FILL);
-        elm_box_pack_end(m_contentBox, m_menuList);
+        evas_object_size_hint_weight_set(list, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
+        evas_object_size_hint_align_set(list, EVAS_HINT_FILL, EVAS_HINT_FILL);
+        elm_box_pack_end(m_contentBox, list);
+        evas_object_show(list);
+        evas_object_size_hint_min_set(spacer, SPACER_WIDTH, m_imageHeight);
         elm_box_pack_end(m_contentBox, spacer);
     }
-    t_sizes->Ask(spacer, SPACER_WIDTH, m_imageHeight);
     m_imageBox = EFL_GUARD(elm_box_add, m_contentBox);
     if (m_imageBox == nullptr)
     {
@@ -108,7 +108,6 @@ Evas_Object* ImageListPopup::m_CreateWindowContent(Evas_Object* parent, Evas_Obj
     else
     {
         m_UpdateImage();
-        UnlimitHeight(m_imageBox);
         EFL_GUARD(elm_box_pack_end, m_contentBox, m_imageBox);
         EFL_GUARD(evas_object_show, m_imageBox);
     }
@@ -118,7 +117,7 @@ Evas_Object* ImageListPopup::m_CreateWindowContent(Evas_Object* parent, Evas_Obj
 
 Evas_Object* ImageListPopup::s_CreateMenuList(Evas_Object* parent)
 {
-    return CreateEvenMenuList(parent, ELM_OBJECT_SELECT_MODE_DEFAULT, false);
+    return AddEvenMenuList(parent, ELM_OBJECT_SELECT_MODE_DEFAULT, false);
 }
 
 Elm_Genlist_Item_Class* ImageListPopup::s_CreateListItemTemplate()
@@ -136,17 +135,7 @@ char* ImageListPopup::s_TextGet(void* data, Evas_Object* /*object*/, const char*
 
 Evas_Object* ImageListPopup::s_ContentGet(void* data, Evas_Object* object, const char* part)
 {
-    Evas_Object* header = CreateRow(static_cast<const char*>(data), object, part, s_numColumns);
-    if (header != nullptr)
-    {
-        // The rows stand beside the image, not in the middle, and their texts so far within them.
-        const int inset = ScaledSize(TEXT_INSET);
-        const MainLoopSection section;
-        elm_box_align_set(header, 0.0, 0.5);
-        evas_object_size_hint_align_set(header, 0.0, 0.5);
-        evas_object_size_hint_padding_set(header, inset, inset, 0, 0);
-    }
-    return header;
+    return CreateRow(static_cast<const char*>(data), object, part, s_numColumns);
 }
 
 void ImageListPopup::s_OnMenuItemClicked(void* data, Evas_Object* object, void* /*eventInfo*/)
@@ -157,7 +146,8 @@ void ImageListPopup::s_OnMenuItemClicked(void* data, Evas_Object* object, void* 
         LOG_ERROR(" pthis == NULL");
         return;
     }
-    static_cast<ImageListPopup*>(data)->t_ItemSelectedCallback(static_cast<unsigned char>(GetFocusElement(object)));
+    static_cast<ImageListPopup*>(data)->t_ItemSelectedCallback(
+        static_cast<unsigned char>(MenuList::GetFocusElement(object)));
 }
 
 void ImageListPopup::s_OnMenuFocusd(void* data, Evas_Object* /*object*/, void* /*eventInfo*/)
@@ -185,11 +175,6 @@ void ImageListPopup::s_OnMenuUnfocusd(void* data, Evas_Object* /*object*/, void*
 void ImageListPopup::m_UpdateImage()
 {
     LOG_ENTRY_INFO();
-    if (m_image != nullptr)
-    {
-        // Another row's image would be taken for this one's, wherever this one has none.
-        EFL_GUARD(evas_object_hide, m_image);
-    }
     if (m_currentIndex >= m_imageLocations.size())
     {
         LOG_ERROR("Wrong index value!");
@@ -199,6 +184,7 @@ void ImageListPopup::m_UpdateImage()
     if (path.empty())
     {
         LOG_ERROR("There are no images to display. We could still have text menu");
+        EFL_GUARD(evas_object_hide, m_image); // the image of another row would be taken for this one's
         return;
     }
     LOG_DEBUG("Loading a new image file: " << path << " width:" << m_imageWidth << " height:" << m_imageHeight);
@@ -211,7 +197,7 @@ void ImageListPopup::m_UpdateImage()
         LOG_ERROR("Error creating an image object!");
         return;
     }
-    if (!SetImageFile(m_image, path))
+    if (!EFL_GUARD(elm_image_file_set, m_image, path.c_str(), nullptr))
     {
         LOG_ERROR("Loading the image file has failed :" << path);
         return;
@@ -225,10 +211,11 @@ void ImageListPopup::m_UpdateImage()
     }
     const int width = ScaledSize(m_imageWidth);
     const int height = ScaledSize(m_imageHeight);
-    t_sizes->Ask(m_image, width, height);
+    const int maxWidth = ScaledSize(MAX_IMAGE_WIDTH);
     {
         const MainLoopSection section;
-        evas_object_size_hint_max_set(m_image, ELM_SCALE_SIZE(MAX_IMAGE_WIDTH), height);
+        evas_object_size_hint_min_set(m_image, width, height);
+        evas_object_size_hint_max_set(m_image, maxWidth, height);
         evas_object_size_hint_weight_set(m_image, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
         evas_object_size_hint_align_set(m_image, EVAS_HINT_FILL, EVAS_HINT_FILL);
         evas_object_show(m_image);
@@ -241,14 +228,15 @@ void ImageListPopup::m_UpdateImage()
 void ImageListPopup::t_OnKeyPressed(void* event)
 {
     LOG_ENTRY();
-    if (m_entries.empty())
+    if (!m_list.HasEntries())
     {
         return;
     }
     if (!s_menuFocused)
     {
         // The focus has left the list for the buttons below it: the Up that brings it back lands on the last row.
-        m_currentIndex = static_cast<unsigned int>(m_firstRowHeader ? m_entries.size() - 1 : m_entries.size());
+        m_currentIndex =
+            static_cast<unsigned int>(m_list.FirstRowIsHeader() ? m_list.EntryCount() - 1 : m_list.EntryCount());
         LOG_ERROR("Menu not focused or there are no entries!");
         return;
     }
@@ -258,14 +246,12 @@ void ImageListPopup::t_OnKeyPressed(void* event)
     {
         --m_currentIndex;
     }
-    else if (key == KEY_DIRECTION_DOWN && m_currentIndex < m_entries.size() - 1)
+    else if (key == KEY_DIRECTION_DOWN && m_currentIndex < m_list.EntryCount() - 1)
     {
         ++m_currentIndex;
     }
     LOG_INFO("KEY_UP/DOWN pressed. Current index update to " << m_currentIndex);
     m_UpdateImage();
-    // Into the list from a button, and up from past its end, the toolkit's row would be another than the image's.
-    m_MoveToRow(m_currentIndex);
 }
 
 } // namespace VESKAR_APP

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "ListDisplay.h"
+#include "BaseDisplay.h"
+#include "MenuList.h"
 
 namespace VESKAR_APP
 {
 
 /** A list, and beside it the image that belongs to the row the viewer is on. */
-class ImageListPopup : public ListDisplay<ImageListPopup>
+class ImageListPopup : public BaseDisplay
 {
 public:
     /** Nothing depends on `flag`. */
@@ -22,7 +23,7 @@ public:
                                     const std::vector<std::string>& entries, const std::vector<std::string>& buttons,
                                     const std::vector<std::string>& imageLocations, int width, int height);
 
-    /** As ListDisplay's; also follows the list's focus. */
+    /** As ListWindow's; also follows the list's focus. */
     void SetFocusToList(bool firstElement);
 
 protected:
@@ -40,12 +41,10 @@ protected:
 
     void m_UpdateImage();
 
-private:
-    friend class ListDisplay<ImageListPopup>;
+    MenuList m_list;
 
-    static constexpr int HEADER_WIDTH = 1280;
-    static constexpr LogLevel TRACE = LOG_LEVEL_DEBUG;
-    static constexpr LogLevel FAULT = LOG_LEVEL_ERROR;
+private:
+    static const MenuListKind KIND;
 
     static const std::string KEY_DIRECTION_UP;
     static const std::string KEY_DIRECTION_DOWN;

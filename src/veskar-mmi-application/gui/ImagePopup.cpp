@@ -1,9 +1,7 @@
 #include "ImagePopup.h"
 
 #include "EflGuard.h"
-#include "ImageFile.h"
 #include "Log.h"
-#include "Names.h"
 #include "ScaledSize.h"
 
 namespace VESKAR_APP
@@ -15,9 +13,7 @@ ImagePopup::ImagePopup(IUserInteraction& userInteraction, const std::string& tit
     : BaseDisplay(userInteraction, mainWindow, buttons, LARGE_POPUP_STYLE, true), m_image(nullptr),
       m_imageLocation(imageLocation), m_width(width), m_height(height), m_noClose(noClose)
 {
-    t_SetTitle(title);
-    t_SetSubtitle(sub);
-    t_SetBottomText(bottom);
+    t_SetTexts(title, sub, bottom);
 }
 
 Evas_Object* ImagePopup::m_CreateWindowContent(Evas_Object* layout, Evas_Object* /*box*/)
@@ -25,11 +21,13 @@ Evas_Object* ImagePopup::m_CreateWindowContent(Evas_Object* layout, Evas_Object*
     LOG_ENTRY();
     LOG_DEBUG("Loading the image file: " << m_imageLocation << " width:" << m_width << " height:" << m_height);
     m_image = EFL_GUARD(elm_image_add, layout);
-    if (!SetImageFile(m_image, m_imageLocation))
+    if (!EFL_GUARD(elm_image_file_set, m_image, m_imageLocation.c_str(), nullptr))
     {
         LOG_ERROR("Loading the image file has failed :" << m_imageLocation);
     }
-    t_sizes->Ask(m_image, ScaledSize(m_width), ScaledSize(m_height));
+    const int width = ScaledSize(m_width);
+    const int height = ScaledSize(m_height);
+    EFL_GUARD(evas_object_size_hint_min_set, m_image, width, height);
     EFL_GUARD(evas_object_size_hint_weight_set, m_image, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
     EFL_GUARD(evas_object_size_hint_align_set, m_image, 0.5, 0);
     EFL_GUARD(evas_object_show, m_image);

@@ -1,25 +1,37 @@
 #include "ListWindow.h"
 
 #include "EflGuard.h"
-#include "ListRow.h"
-#include "MenuList.h"
+#include "Log.h"
+#include "RowData.h"
 
 namespace VESKAR_APP
 {
 
+const MenuListKind ListWindow::KIND = {1217,         LOG_LEVEL_DEBUG,    LOG_LEVEL_ERROR, s_CreateListItemTemplate,
+                                       s_ContentGet, s_OnMenuItemClicked};
+
 int ListWindow::s_numColumns = 1;
 
 ListWindow::ListWindow(IUserInteraction& userInteraction, bool selectable, Evas_Object* mainWindow)
-    : ListDisplay(userInteraction, selectable, mainWindow)
+    : BaseDisplay(userInteraction, mainWindow, {}, LARGE_POPUP_STYLE, true), m_list(KIND, this), m_selectable(selectable)
 {
+    LOG_ENTRY();
 }
 
 bool ListWindow::SetMenuInformation(const std::string& title, const std::string& subTitle, const std::string& bottom,
                                     const std::string& format, bool firstRowHeader,
                                     const std::vector<std::string>& entries, const std::vector<std::string>& buttons)
 {
-    m_StoreMenuInformation(title, subTitle, bottom, format, firstRowHeader, entries, buttons);
+    t_SetTexts(title, subTitle, bottom);
+    t_buttonLabels = buttons;
+    m_list.SetMenuInformation(title, subTitle, bottom, format, firstRowHeader, entries);
+    s_numColumns = ColumnCount(format);
     return true;
+}
+
+void ListWindow::SetFocusToList(bool firstElement)
+{
+    m_list.SetFocusToList(firstElement);
 }
 
 bool ListWindow::t_Show()
@@ -27,6 +39,16 @@ bool ListWindow::t_Show()
     LOG_ENTRY();
     SetFocusToList(true);
     return BaseDisplay::t_Show();
+}
+
+Evas_Object* ListWindow::m_CreateWindowContent(Evas_Object* parent, Evas_Object* box)
+{
+    LOG_ENTRY();
+    Evas_Object* list = s_CreateMenuList(parent);
+    t_SetTTSText(m_list.Fill(list, box), nullptr);
+    LOG_DEBUG("Finished adding data to the list.");
+    EFL_GUARD(evas_object_show, list);
+    return list;
 }
 
 Evas_Object* ListWindow::s_CreateMenuList(Evas_Object* parent)
@@ -43,8 +65,6 @@ Evas_Object* ListWindow::s_CreateMenuList(Evas_Object* parent)
     elm_genlist_select_mode_set(list, ELM_OBJECT_SELECT_MODE_ALWAYS); // a row pressed twice is reported twice
     elm_scroller_bounce_set(list, EINA_FALSE, EINA_TRUE);
     SwitchFocusHighlightOn();
-    // A list asks for no width by itself, and a row's cells do not give way: a panel at the side has to be wide enough.
-    evas_object_size_hint_min_set(parent, ELM_SCALE_SIZE(LIST_WIDTH), 0);
     return list;
 }
 
@@ -72,7 +92,7 @@ void ListWindow::s_OnMenuItemClicked(void* data, Evas_Object* object, void* /*ev
     auto* window = static_cast<ListWindow*>(data);
     if (window->m_selectable)
     {
-        window->t_ItemSelectedCallback(static_cast<unsigned char>(GetFocusElement(object)));
+        window->t_ItemSelectedCallback(static_cast<unsigned char>(MenuList::GetFocusElement(object)));
     }
 }
 

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "ListDisplay.h"
+#include "BaseDisplay.h"
+#include "MenuList.h"
 
 namespace VESKAR_APP
 {
 
 /** Rows in up to eight columns, to read or to choose one from. */
-class ListWindow : public ListDisplay<ListWindow>
+class ListWindow : public BaseDisplay
 {
 public:
     /** Unless it is `selectable` a pressed row reports nothing. */
@@ -21,23 +22,25 @@ public:
                                     const std::string& format, bool firstRowHeader,
                                     const std::vector<std::string>& entries, const std::vector<std::string>& buttons);
 
+    /** Moves the focus into the list as soon as all its rows exist; `firstElement` changes the log alone. */
+    void SetFocusToList(bool firstElement);
+
 protected:
     bool t_Show() override;
+    Evas_Object* m_CreateWindowContent(Evas_Object* parent, Evas_Object* box) override;
 
     static Evas_Object* s_CreateMenuList(Evas_Object* parent);
     static Elm_Genlist_Item_Class* s_CreateListItemTemplate();
     static Evas_Object* s_ContentGet(void* data, Evas_Object* object, const char* part);
     static void s_OnMenuItemClicked(void* data, Evas_Object* object, void* eventInfo);
 
+    MenuList m_list;
+
 private:
-    friend class ListDisplay<ListWindow>;
-
-    static constexpr int HEADER_WIDTH = 1217;
-    static constexpr int LIST_WIDTH = 1280; // the cells, and the margins and the bar beside them
-    static constexpr LogLevel TRACE = LOG_LEVEL_DEBUG;
-    static constexpr LogLevel FAULT = LOG_LEVEL_ERROR;
-
+    static const MenuListKind KIND;
     static int s_numColumns;
+
+    bool m_selectable;
 };
 
 } // namespace VESKAR_APP

@@ -3,9 +3,8 @@
 #include "EflGuard.h"
 #include "Log.h"
 #include "Markup.h"
-#include "Names.h"
 #include "Orientation.h"
-#include "ScaledSize.h"
+#include "TextStyle.h"
 
 #include <cstring>
 #include <string_view>
@@ -22,14 +21,12 @@ namespace
 constexpr std::size_t LARGE_POPUP_BYTES = 300;
 constexpr std::size_t MAX_LABEL_BYTES = 300;
 
-constexpr int PAGE_HEIGHT = 470; // some ten lines
+constexpr const char* PAGE_STYLE = "C_Scrollbar_White";
 constexpr const char* TEXT_PAGE_FONT = "BrelmonFace_300";
 constexpr const char* PARAGRAPH_ALIGNMENT = "mixed";
 
-const char* StyleFor(const std::string& text)
-{
-    return text.size() < LARGE_POPUP_BYTES ? POPUP_STYLE : LARGE_POPUP_STYLE;
-}
+constexpr std::string_view KEY_UP = "Up";
+constexpr std::string_view KEY_DOWN = "Down";
 
 void SetLabelText(Evas_Object* label, const std::string& markup)
 {
@@ -41,12 +38,11 @@ void SetLabelText(Evas_Object* label, const std::string& markup)
 MessagePopup::MessagePopup(IUserInteraction& userInteraction, const std::string& title, const std::string& sub,
                            const std::string& text, const std::string& bottom, const std::vector<std::string>& buttons,
                            bool noClose, Evas_Object* mainWindow)
-    : BaseDisplay(userInteraction, mainWindow, buttons, StyleFor(text), true), m_content(nullptr), m_text(text),
-      m_noClose(noClose)
+    : BaseDisplay(userInteraction, mainWindow, buttons,
+                  text.size() < LARGE_POPUP_BYTES ? POPUP_STYLE : LARGE_POPUP_STYLE, true),
+      m_content(nullptr), m_text(text), m_noClose(noClose)
 {
-    t_SetTitle(title);
-    t_SetSubtitle(sub);
-    t_SetBottomText(bottom);
+    t_SetTexts(title, sub, bottom);
 }
 
 Evas_Object* MessagePopup::m_CreateWindowContent(Evas_Object* layout, Evas_Object* /*box*/)
@@ -68,7 +64,6 @@ Evas_Object* MessagePopup::m_CreateTextLabel(const char* markup, Evas_Object* pa
         elm_object_text_set(m_content, markup);
         elm_object_style_set(m_content, LABEL_STYLE);
     }
-    t_PlaceLabel(m_content);
     std::string text;
     if (GetNumberLinesText(m_content, TEXT_PART) < 2)
     {
@@ -84,7 +79,7 @@ Evas_Object* MessagePopup::m_CreateTextLabel(const char* markup, Evas_Object* pa
         text = std::string(rightToLeft ? "<align=right>" : "<align=left>") + markup;
     }
     SetLabelText(m_content, text + "</align>");
-    s_PaintLabelWhite(m_content);
+    PaintLabelWhite(m_content);
     // The label fills its place in either case; it is the markup that centres a single line.
     EFL_GUARD(evas_object_size_hint_align_set, m_content, EVAS_HINT_FILL, EVAS_HINT_FILL);
     EFL_GUARD(evas_object_size_hint_weight_set, m_content, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);
@@ -105,7 +100,6 @@ Evas_Object* MessagePopup::m_CreateTextPage(const char* markup, Evas_Object* par
     ea_textpage_text_set(m_content, strndup(markup, std::strlen(markup))); // the page frees its copy
     evas_object_size_hint_align_set(m_content, EVAS_HINT_FILL, EVAS_HINT_FILL);
     ea_textpage_page_show(m_content, 0);
-    t_AskForRoom(ScaledSize(PAGE_HEIGHT));
     return m_content;
 }
 
@@ -120,15 +114,15 @@ Evas_Object* MessagePopup::m_AddTextPageObj(Evas_Object* parent)
     }
     {
         const MainLoopSection section;
-        elm_object_style_set(page, SCROLLER_STYLE);
+        elm_object_style_set(page, PAGE_STYLE);
         elm_object_focus_allow_set(page, EINA_FALSE);
         elm_scroller_policy_set(page, ELM_SCROLLER_POLICY_OFF, ELM_SCROLLER_POLICY_ON);
         elm_scroller_bounce_set(page, EINA_FALSE, EINA_TRUE);
     }
-    const std::string size = std::to_string(ScaledSize(s_CheckEnlargedMode() ? 39 : 33));
+    const std::string size = std::to_string(PageFontSize());
     const std::string style = std::string("DEFAULT='font=") + TEXT_PAGE_FONT + " font_size=" + size +
                               " linesize=" + size + " linegap=0 align=" + PARAGRAPH_ALIGNMENT +
-                              " wrap=word color=" + s_TextColour() + "'";
+                              " wrap=word color=" + TextColour() + "'";
     LOG_DEBUG("Text style: " << style);
     const MainLoopSection section;
     Evas_Textblock_Style* textStyle = evas_textblock_style_new(); // the page's from here on

@@ -1,9 +1,8 @@
 #include "MultipleListWindow.h"
 
 #include "EflGuard.h"
-#include "ListRow.h"
-#include "MenuList.h"
-#include "Names.h"
+#include "Log.h"
+#include "RowData.h"
 
 #include <algorithm>
 #include <cstring>
@@ -11,11 +10,15 @@
 namespace VESKAR_APP
 {
 
+const MenuListKind MultipleListWindow::KIND = {
+    1280, LOG_LEVEL_INFO, LOG_LEVEL_INFO, s_CreateListItemTemplate, s_ContentGet, s_OnMenuItemClicked};
+
 int MultipleListWindow::s_numColumns = 1;
 
 MultipleListWindow::MultipleListWindow(IUserInteraction& userInteraction, bool selectable, Evas_Object* mainWindow)
-    : ListDisplay(userInteraction, selectable, mainWindow)
+    : BaseDisplay(userInteraction, mainWindow, {}, LARGE_POPUP_STYLE, true), m_list(KIND, this), m_selectable(selectable)
 {
+    LOG_ENTRY();
 }
 
 bool MultipleListWindow::SetMenuInformation(const std::string& title, const std::string& subTitle,
@@ -23,14 +26,17 @@ bool MultipleListWindow::SetMenuInformation(const std::string& title, const std:
                                             const std::vector<std::string>& entries,
                                             const std::vector<std::string>& buttons)
 {
-    m_StoreMenuInformation(title, subTitle, bottom, format, firstRowHeader, entries, buttons);
+    t_SetTexts(title, subTitle, bottom);
+    t_buttonLabels = buttons;
+    m_list.SetMenuInformation(title, subTitle, bottom, format, firstRowHeader, entries);
+    s_numColumns = ColumnCount(format);
     return true;
 }
 
 void MultipleListWindow::SetFocusToList(bool firstElement)
 {
-    ListDisplay::SetFocusToList(firstElement);
-    if (m_menuItems.empty() || t_buttons[0] == nullptr)
+    m_list.SetFocusToList(firstElement);
+    if (!m_list.HasItems() || t_buttons[0] == nullptr)
     {
         return;
     }
@@ -43,9 +49,19 @@ bool MultipleListWindow::t_Show()
     return BaseDisplay::t_Show();
 }
 
+Evas_Object* MultipleListWindow::m_CreateWindowContent(Evas_Object* parent, Evas_Object* box)
+{
+    LOG_ENTRY();
+    Evas_Object* list = s_CreateMenuList(parent);
+    t_SetTTSText(m_list.Fill(list, box), nullptr);
+    LOG_INFO("Finished adding data to the list.");
+    EFL_GUARD(evas_object_show, list);
+    return list;
+}
+
 Evas_Object* MultipleListWindow::s_CreateMenuList(Evas_Object* parent)
 {
-    return CreateEvenMenuList(parent, ELM_OBJECT_SELECT_MODE_ALWAYS, true);
+    return AddEvenMenuList(parent, ELM_OBJECT_SELECT_MODE_ALWAYS, true);
 }
 
 Elm_Genlist_Item_Class* MultipleListWindow::s_CreateListItemTemplate()
@@ -111,7 +127,7 @@ void MultipleListWindow::s_OnDeleteButtonClicked(void* data, Evas_Object* /*obje
     {
         return;
     }
-    const Eina_List* selected = GetFocussedElements(window->m_menuList);
+    const Eina_List* selected = GetFocussedElements(window->m_list.Widget());
     if (selected == nullptr)
     {
         LOG_INFO(" selectedItems == NULL");

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "ListDisplay.h"
+#include "BaseDisplay.h"
+#include "MenuList.h"
 
 namespace VESKAR_APP
 {
 
 /** Rows with check boxes: the viewer marks any number of them and confirms with the first button. */
-class MultipleListWindow : public ListDisplay<MultipleListWindow>
+class MultipleListWindow : public BaseDisplay
 {
 public:
     /** Unless it is `selectable` the first button reports no rows. */
@@ -18,7 +19,7 @@ public:
                                     const std::string& format, bool firstRowHeader,
                                     const std::vector<std::string>& entries, const std::vector<std::string>& buttons);
 
-    /** As ListDisplay's; also makes the first button report the marked rows, once more for each call. */
+    /** As ListWindow's; also makes the first button report the marked rows, once more for each call. */
     void SetFocusToList(bool firstElement);
 
     /** The marked rows' items, or null without one. The list is the toolkit's. */
@@ -26,6 +27,7 @@ public:
 
 protected:
     bool t_Show() override;
+    Evas_Object* m_CreateWindowContent(Evas_Object* parent, Evas_Object* box) override;
 
     static Evas_Object* s_CreateMenuList(Evas_Object* parent);
     static Elm_Genlist_Item_Class* s_CreateListItemTemplate();
@@ -34,14 +36,13 @@ protected:
     static void s_OnMenuItemClicked(void* data, Evas_Object* object, void* eventInfo);
     static void s_OnDeleteButtonClicked(void* data, Evas_Object* object, void* eventInfo);
 
+    MenuList m_list;
+
 private:
-    friend class ListDisplay<MultipleListWindow>;
-
-    static constexpr int HEADER_WIDTH = 1280;
-    static constexpr LogLevel TRACE = LOG_LEVEL_INFO;
-    static constexpr LogLevel FAULT = LOG_LEVEL_INFO;
-
+    static const MenuListKind KIND;
     static int s_numColumns;
+
+    bool m_selectable;
 };
 
 } // namespace VESKAR_APP

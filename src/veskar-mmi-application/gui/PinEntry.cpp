@@ -2,7 +2,6 @@
 
 #include "EflGuard.h"
 #include "Log.h"
-#include "Names.h"
 
 #include <string_view>
 

@@ -1,5 +1,4 @@
 #include "TestPopup.h"
-#include "Names.h"
 
 namespace VESKAR_APP
 {

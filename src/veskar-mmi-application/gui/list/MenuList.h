@@ -1,5 +1,10 @@
-/** What the toolkit lists of several list screens have in common. */
 #pragma once
+
+#include "Log.h"
+
+#include <memory>
+#include <string>
+#include <vector>
 
 #include <Elementary.h>
 
@@ -10,10 +15,73 @@ namespace VESKAR_APP
 Evas_Object* AddMenuList(Evas_Object* parent);
 
 /** A new list whose rows are all of one height, ready but for its rows; or null with an error line. */
-Evas_Object* CreateEvenMenuList(Evas_Object* parent, Elm_Object_Select_Mode selectMode, bool multiSelect);
+Evas_Object* AddEvenMenuList(Evas_Object* parent, Elm_Object_Select_Mode selectMode, bool multiSelect);
 
 /** Both inside a main-loop section of the caller's. */
 void ApplyMenuListLook(Evas_Object* list);
 void SwitchFocusHighlightOn();
+
+/** In what one kind of list differs from the others. */
+struct MenuListKind
+{
+    int headerWidth;                                // design pixels
+    LogLevel trace;                                 // of the steps
+    LogLevel fault;                                 // of a callback without its object
+    Elm_Genlist_Item_Class* (*createRowTemplate)(); // freed by the list
+    Elm_Gen_Item_Content_Get_Cb createHeader;       // for the header part
+    Evas_Smart_Cb onRowPressed;                     // gets the screen as its data
+};
+
+/**
+ * The rows of a list screen: a header, and a toolkit list with the body rows. The screen owns it and creates the
+ * toolkit list, which is a widget of the screen and outlives this.
+ */
+class MenuList
+{
+public:
+    /** `screen` is handed to the row callback. */
+    MenuList(const MenuListKind& kind, void* screen);
+    ~MenuList();
+
+    MenuList(const MenuList&) = delete;
+    MenuList& operator=(const MenuList&) = delete;
+
+    /** Stores the rows and writes the texts to the log. An entry is one row, its cells separated by tabs. */
+    void SetMenuInformation(const std::string& title, const std::string& subTitle, const std::string& bottom,
+                            const std::string& format, bool firstRowHeader, const std::vector<std::string>& entries);
+
+    bool HasEntries() const { return !m_entries.empty(); }
+    std::size_t EntryCount() const { return m_entries.size(); }
+    bool HasItems() const { return !m_menuItems.empty(); }
+    bool FirstRowIsHeader() const { return m_firstRowHeader; }
+
+    /** The toolkit list, or null before Fill. */
+    Evas_Object* Widget() const { return m_menuList; }
+
+    /** Takes the toolkit list, puts the header row at the end of `box`, adds the body rows. Gives what to speak. */
+    std::string Fill(Evas_Object* menuList, Evas_Object* box);
+
+    /** Moves the focus into the list as soon as all its rows exist; `firstElement` changes the log alone. */
+    void SetFocusToList(bool firstElement);
+
+    /** The toolkit's index of the pressed row, -1 without one. */
+    static int GetFocusElement(const Evas_Object* genlist);
+
+private:
+    static void s_OnItemRealized(void* data, Evas_Object* object, void* eventInfo);
+
+    void m_CreateListHeader(std::string headerEntry, Evas_Object* box);
+    std::string m_PopulateList(Elm_Genlist_Item_Class* itemClass);
+    /** Focuses the list when every row is realised; false when no row is. */
+    bool m_FocusIfAllRealised();
+
+    const MenuListKind& m_kind;
+    void* m_screen;
+    Evas_Object* m_menuList;
+    std::vector<std::shared_ptr<Elm_Object_Item>> m_menuItems; // deletes the toolkit's items
+    std::string m_format;
+    std::vector<std::string> m_entries; // the rows' data points into them: not changed while the list lives
+    bool m_firstRowHeader;
+};
 
 } // namespace VESKAR_APP

@@ -1,22 +1,22 @@
-/** How a list is scrolled for a viewer who goes through it row by row. */
+/** How a list is scrolled for a viewer who walks through it row by row. */
 #pragma once
 
 #include <Elementary.h>
 
-namespace VESKAR_APP
+namespace veskar
 {
 
 enum class Way
 {
-    UP,
-    DOWN
+    Up,
+    Down
 };
 
 /** The row in this direction, or null. */
 Elm_Object_Item* Neighbour(Elm_Object_Item* row, Way way);
 
 /**
- * Brings the row into view whole, clear of the ends where the list fades out, and beyond it the row that comes next.
+ * Brings the whole row into view, clear of the ends where the list fades out, and beyond it the row that comes next.
  * Of a row higher than the view, what the viewer meets first.
  */
 void ShowRow(Evas_Object* list, Elm_Object_Item* row, Way way);
@@ -24,4 +24,4 @@ void ShowRow(Evas_Object* list, Elm_Object_Item* row, Way way);
 /** Scrolls on within a row that is higher than the view; false when there is nothing more of it. */
 bool ScrollWithin(Evas_Object* list, Elm_Object_Item* row, Way way);
 
-} // namespace VESKAR_APP
+} // namespace veskar

@@ -1,18 +1,14 @@
 #include "RowView.h"
 
-#include "EflGuard.h"
-#include "ScaledSize.h"
+#include "ThemeSizes.h"
 
 #include <algorithm>
 #include <optional>
 
-namespace VESKAR_APP
+namespace veskar
 {
-
 namespace
 {
-
-constexpr int FADE_HEIGHT = 24;
 
 /** What the viewer sees of the list, and where the row is, with the room that it needs to be clear of the fades. */
 struct View
@@ -47,12 +43,13 @@ std::optional<View> ViewOf(Evas_Object* list, Elm_Object_Item* row)
     evas_object_geometry_get(list, nullptr, &listY, nullptr, nullptr);
     edje_object_part_geometry_get(elm_layout_edje_get(list), "elm.swallow.content", nullptr, &paneY, nullptr, nullptr);
     rowY -= listY + paneY;
+    const int fade = ThemeSize(list, "fade_height");
     View view{};
     elm_scroller_region_get(list, nullptr, &view.top, nullptr, &view.height);
     elm_scroller_child_size_get(list, nullptr, &view.last);
     view.last = std::max(view.last - view.height, 0);
-    view.rowTop = view.top + rowY - ScaledSize(FADE_HEIGHT);
-    view.rowBottom = view.top + rowY + rowHeight + ScaledSize(FADE_HEIGHT);
+    view.rowTop = view.top + rowY - fade;
+    view.rowBottom = view.top + rowY + rowHeight + fade;
     return view;
 }
 
@@ -72,18 +69,16 @@ bool ScrollTo(Evas_Object* list, const View& view, int top)
 
 Elm_Object_Item* Neighbour(Elm_Object_Item* row, Way way)
 {
-    const MainLoopSection section;
-    return way == Way::UP ? elm_genlist_item_prev_get(row) : elm_genlist_item_next_get(row);
+    return way == Way::Up ? elm_genlist_item_prev_get(row) : elm_genlist_item_next_get(row);
 }
 
 void ShowRow(Evas_Object* list, Elm_Object_Item* row, Way way)
 {
-    const MainLoopSection section;
     if (Elm_Object_Item* ahead = Neighbour(row, way))
     {
         elm_genlist_item_show(ahead, ELM_GENLIST_ITEM_SCROLLTO_IN);
     }
-    // After the other one: where there is not room for both, this one has it.
+    // After the other one: where there is room for one only, it is this one's.
     elm_genlist_item_show(row, ELM_GENLIST_ITEM_SCROLLTO_IN);
     const std::optional<View> view = ViewOf(list, row);
     if (!view)
@@ -96,13 +91,12 @@ void ShowRow(Evas_Object* list, Elm_Object_Item* row, Way way)
     }
     else
     {
-        ScrollTo(list, *view, way == Way::DOWN ? view->rowTop : view->WithRowEnd());
+        ScrollTo(list, *view, way == Way::Down ? view->rowTop : view->WithRowEnd());
     }
 }
 
 bool ScrollWithin(Evas_Object* list, Elm_Object_Item* row, Way way)
 {
-    const MainLoopSection section;
     const std::optional<View> view = ViewOf(list, row);
     if (!view || view->HoldsRow())
     {
@@ -110,11 +104,11 @@ bool ScrollWithin(Evas_Object* list, Elm_Object_Item* row, Way way)
     }
     // Some of what was read stays in view, so that the viewer finds his line again.
     const int step = view->height * 3 / 4;
-    if (way == Way::UP)
+    if (way == Way::Up)
     {
         return view->rowTop < view->top && ScrollTo(list, *view, std::max(view->top - step, view->rowTop));
     }
     return view->WithRowEnd() > view->top && ScrollTo(list, *view, std::min(view->top + step, view->WithRowEnd()));
 }
 
-} // namespace VESKAR_APP
+} // namespace veskar

@@ -15,11 +15,11 @@ namespace VESKAR_APP
 constexpr const char* HEADER_PART = "elm.swallow.content";
 constexpr const char* BODY_PART = "elm.swallow.icon";
 
+/** The style of rows that are one text each. */
+constexpr const char* TEXT_ROW_STYLE = "C_TextItem_WhiteSingleline01";
+
 /** The row data of an entry, which is the cells with a tab between them. */
 std::string RowData(const std::string& format, const std::string& entry);
-
-/** What the voice guide says for an entry: the entry with its `<` and `&` escaped, for the guide takes markup. */
-std::string SpokenRow(const std::string& entry);
 
 /** The number of columns whose width a format asks for: at least 1, at most 8. */
 int ColumnCount(const std::string& format);
@@ -30,7 +30,7 @@ int ColumnCount(const std::string& format);
  */
 Evas_Object* CreateRow(const char* rowData, Evas_Object* parent, const char* part, int numColumns);
 
-/** The cells run together, as markup; malloc'd, for the toolkit to free. */
+/** The cells without anything between them, as markup; malloc'd, for the toolkit to free. */
 char* CreateRowText(const char* rowData, const char* part);
 
 } // namespace VESKAR_APP

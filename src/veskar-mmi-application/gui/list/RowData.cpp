@@ -1,10 +1,10 @@
-#include "ListRow.h"
+#include "RowData.h"
 
-#include "BaseDisplay.h"
 #include "EflGuard.h"
 #include "Log.h"
 #include "Markup.h"
 #include "ScaledSize.h"
+#include "TextStyle.h"
 
 #include <algorithm>
 #include <cstring>
@@ -21,7 +21,6 @@ constexpr int MAX_COLUMNS = 8;
 constexpr int BODY_WIDTH = 1154;
 constexpr int LOGGED_WIDTH = 1217;
 constexpr int CELL_HEIGHT = 36;
-constexpr int OVERHANG_WIDTH = 51; // as far as a row may go beside its columns
 
 struct Row
 {
@@ -67,8 +66,8 @@ const char* Alignment(const std::string& format, std::size_t column)
 
 std::string CellMarkup(const std::string& cell, const char* alignment, bool header)
 {
-    const std::string fontSize = std::to_string(BaseDisplay::s_TextFontSize());
-    const std::string colour = BaseDisplay::s_TextColour();
+    const std::string fontSize = std::to_string(TextFontSize());
+    const std::string colour = TextColour();
     std::string text = std::string("<align=") + alignment + ">" + ToMarkup(cell) + "</align>";
     if (header)
     {
@@ -78,40 +77,11 @@ std::string CellMarkup(const std::string& cell, const char* alignment, bool head
     return "<color=" + colour + "><font=Sans:style=Regular font_size=" + fontSize + ">" + text + "</font></color>";
 }
 
-/** Room without a cell, at the end of a row. */
-void PadRow(Evas_Object* row, int width)
-{
-    const MainLoopSection section;
-    Evas_Object* spacer = elm_box_add(row);
-    evas_object_size_hint_min_set(spacer, width, 0);
-    evas_object_size_hint_max_set(spacer, width, -1);
-    elm_box_pack_end(row, spacer);
-}
-
-/** A cell past the last column hangs over the end of its row, which takes no room for it: `beyond` counts such cells.
- */
-void HangOver(Evas_Object* label, int width, int beyond)
-{
-    const MainLoopSection section;
-    evas_object_size_hint_padding_set(label, beyond * width, -(beyond + 1) * width, 0, 0);
-}
-
 } // namespace
 
 std::string RowData(const std::string& format, const std::string& entry)
 {
     return format + "\t" + entry + "\t";
-}
-
-std::string SpokenRow(const std::string& entry)
-{
-    std::string spoken;
-    for (const std::string& cell : SplitAtTabs(entry + "\t"))
-    {
-        spoken += ToMarkup(cell) + "\t";
-    }
-    spoken.pop_back();
-    return spoken + ", ";
 }
 
 int ColumnCount(const std::string& format)
@@ -139,31 +109,15 @@ Evas_Object* CreateRow(const char* rowData, Evas_Object* parent, const char* par
         Evas_Object* label = EFL_GUARD(elm_label_add, parent);
         EFL_GUARD(elm_label_line_wrap_set, label, ELM_WRAP_WORD);
         EFL_GUARD(elm_label_wrap_width_set, label, cellWidth);
-        // The width told is that of a whole row with its margins; the cells share the narrower body.
+        // The width logged is that of a whole row with its margins; the cells share the narrower body.
         LOG_DEBUG("Scaled max label width: " << ScaledSize(LOGGED_WIDTH) << ", Number of columns: " << numColumns);
         const std::string markup = CellMarkup(row.cells[column], Alignment(row.format, column), header);
-        if (const int beyond = static_cast<int>(column) - numColumns; beyond >= 0)
-        {
-            HangOver(label, cellWidth, beyond);
-        }
-
         const MainLoopSection section;
         elm_object_part_text_set(label, nullptr, markup.c_str());
         evas_object_size_hint_min_set(label, cellWidth, cellHeight);
         elm_box_pack_end(box, label);
         evas_object_size_hint_align_set(label, EVAS_HINT_FILL, 0.5);
         evas_object_show(label);
-    }
-    // A row of fewer cells takes the room of all, so that its cells keep to theirs; one of more grows to show how the
-    // next begins. A header stands centred over the columns, and so takes no more than they do.
-    const auto columns = static_cast<std::size_t>(numColumns);
-    if (row.cells.size() < columns)
-    {
-        PadRow(box, cellWidth * static_cast<int>(columns - row.cells.size()));
-    }
-    else if (row.cells.size() > columns && !row.cells[columns].empty() && !header)
-    {
-        PadRow(box, ScaledSize(OVERHANG_WIDTH));
     }
     EFL_GUARD(elm_box_recalculate, box);
     EFL_GUARD(evas_object_size_hint_weight_set, box, EVAS_HINT_EXPAND, EVAS_HINT_EXPAND);

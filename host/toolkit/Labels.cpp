@@ -1,0 +1,61 @@
+// What the theme's labels cannot find out on their own: that there is nothing to read between the tags of their markup,
+// and that they stand in the panel at the side, where lines are shorter. Lines may be counted right after a text or a
+// style was set, so both are passed on immediately.
+
+#include "CString.h"
+#include "Widgets.h"
+
+namespace
+{
+
+constexpr const char* LINES_STYLE = "popup/c_popup_bottom";
+constexpr const char* SIDE_PANEL_STYLE = "C_PopupBasic_WhiteRightLarge";
+
+bool StandsInSidePanel(const Evas_Object* label)
+{
+    const Evas_Object* popup = veskar::PopupAround(label);
+    return popup != nullptr && std::strcmp(elm_object_style_get(popup), SIDE_PANEL_STYLE) == 0;
+}
+
+bool HasInk(const Evas_Object* label)
+{
+    const veskar::CString text(elm_entry_markup_to_utf8(elm_object_text_get(label)));
+    return text != nullptr && *text != '\0';
+}
+
+void InformTheme(Evas_Object* label)
+{
+    if (!veskar::Is(label, "elm_label") || std::strcmp(elm_object_style_get(label), LINES_STYLE) != 0)
+    {
+        return;
+    }
+    elm_object_signal_emit(label, HasInk(label) ? "veskar,filled" : "veskar,empty", "veskar");
+    if (StandsInSidePanel(label))
+    {
+        elm_object_signal_emit(label, "veskar,side", "veskar");
+    }
+    edje_object_message_signal_process(elm_layout_edje_get(label));
+}
+
+} // namespace
+
+// NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's.
+extern "C"
+{
+    void __real_elm_object_part_text_set(Evas_Object* object, const char* part, const char* text);
+    Eina_Bool __real_elm_object_style_set(Evas_Object* object, const char* style);
+
+    void __wrap_elm_object_part_text_set(Evas_Object* object, const char* part, const char* text)
+    {
+        __real_elm_object_part_text_set(object, part, text);
+        InformTheme(object);
+    }
+
+    Eina_Bool __wrap_elm_object_style_set(Evas_Object* object, const char* style)
+    {
+        const Eina_Bool set = __real_elm_object_style_set(object, style);
+        InformTheme(object);
+        return set;
+    }
+}
+// NOLINTEND(bugprone-reserved-identifier)

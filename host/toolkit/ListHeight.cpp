@@ -1,0 +1,76 @@
+#include "ListHeight.h"
+
+#include "SizeHints.h"
+#include "ThemeSizes.h"
+#include "Widgets.h"
+
+#include <algorithm>
+
+namespace veskar
+{
+namespace
+{
+
+/** Of rows that hold cells; a row that is one text takes the width that there is. */
+int RowWidth(const Evas_Object* list)
+{
+    const Elm_Object_Item* row = elm_genlist_first_item_get(list);
+    if (row == nullptr || elm_genlist_item_item_class_get(row)->func.text_get != nullptr)
+    {
+        return 0;
+    }
+    return ThemeSize(list, "cells_width");
+}
+
+} // namespace
+
+ListHeight::ListHeight(Evas_Object* list)
+    : m_list(list), m_shown(list, EVAS_CALLBACK_SHOW, ObjectCallback::Call<&ListHeight::m_OnShown>(this)),
+      m_rowRealised(list, "realized", SmartCallback::Call<&ListHeight::m_OnRowRealised>(this))
+{
+}
+
+void ListHeight::m_OnShown()
+{
+    // Only rows in view are realised, and a program may wait for all of them before it gives the list the focus.
+    evas_object_resize(m_list, ThemeSize(m_list, "view_width"), ThemeSize(m_list, "view_height"));
+    m_Ask();
+}
+
+void ListHeight::m_OnRowRealised(void* /*row*/)
+{
+    // Only a realised row has its real height, and it may have several lines.
+    m_Ask();
+    m_TightenHeader();
+}
+
+void ListHeight::m_Ask()
+{
+    const int rows = static_cast<int>(elm_genlist_items_count(m_list)) * ThemeSize(m_list, "row_height");
+    int realised = 0;
+    elm_scroller_child_size_get(m_list, nullptr, &realised);
+    const int height = std::min(std::max(rows, realised), ThemeSize(m_list, "view_height"));
+    SetOuterLeastSize(m_list, {RowWidth(m_list), height});
+}
+
+void ListHeight::m_TightenHeader()
+{
+    const Evas_Object* popup = PopupAround(m_list);
+    const Evas_Object* lines = popup != nullptr ? elm_object_part_content_get(popup, nullptr) : nullptr;
+    if (!Is(lines, "elm_box"))
+    {
+        return;
+    }
+    void* line = nullptr;
+    Eina_List* children = elm_box_children_get(lines);
+    EINA_LIST_FREE(children, line)
+    {
+        auto* object = static_cast<Evas_Object*>(line);
+        if (Is(object, "elm_box"))
+        {
+            evas_object_size_hint_weight_set(object, EVAS_HINT_EXPAND, 0);
+        }
+    }
+}
+
+} // namespace veskar

@@ -1,0 +1,29 @@
+/** Finding widgets by what they are. */
+#pragma once
+
+#include <Elementary.h>
+
+#include <cstring>
+
+namespace veskar
+{
+
+/** False for null. */
+inline bool Is(const Evas_Object* object, const char* type)
+{
+    const char* actual = object != nullptr ? evas_object_type_get(object) : nullptr;
+    return actual != nullptr && std::strcmp(actual, type) == 0;
+}
+
+/** The screen that the widget is part of, or null. */
+inline Evas_Object* PopupAround(const Evas_Object* widget)
+{
+    Evas_Object* around = elm_object_parent_widget_get(widget);
+    while (around != nullptr && !Is(around, "elm_popup"))
+    {
+        around = elm_object_parent_widget_get(around);
+    }
+    return around;
+}
+
+} // namespace veskar

@@ -1,0 +1,99 @@
+#include "Shown.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+
+#include <Ecore_Evas.h>
+#include <unistd.h>
+
+namespace
+{
+
+std::string Image(const std::string& name, const char* colour)
+{
+    std::string path = testing::TempDir() + name + std::to_string(getpid()) + ".ppm";
+    std::ofstream file(path);
+    file << "P6 4 3 255\n";
+    for (int pixel = 0; pixel < 12; ++pixel)
+    {
+        file << std::string(colour, 3);
+    }
+    return path;
+}
+
+} // namespace
+
+ShownTest::ShownTest() : images{Image("red", "\377\0\0"), Image("green", "\0\377\0"), Image("blue", "\0\0\377")}
+{
+    elm_theme_overlay_add(nullptr, VESKAR_THEME_FILE);
+    manager = std::make_unique<VESKAR_APP::WindowManager>([] {}, [] {});
+    canvas = evas_object_evas_get(tv.window);
+    evas_object_resize(tv.window, WIDTH, HEIGHT);
+    TakeKeyboard();
+    Settle();
+    m_drawing = ecore_idle_enterer_add(s_Draw, this);
+}
+
+ShownTest::~ShownTest()
+{
+    ecore_idle_enterer_del(m_drawing);
+    manager.reset();
+    std::for_each(images.begin(), images.end(), [](const std::string& path) { std::remove(path.c_str()); });
+    elm_theme_overlay_del(nullptr, VESKAR_THEME_FILE);
+}
+
+/** Draws whenever the toolkit could, as it does for a compositor that has just asked for a picture. */
+Eina_Bool ShownTest::s_Draw(void* data)
+{
+    auto* test = static_cast<ShownTest*>(data);
+    Ecore_Evas* output = ecore_evas_ecore_evas_get(test->canvas);
+    ecore_evas_manual_render(output);
+    const auto* pixels = static_cast<const unsigned*>(ecore_evas_buffer_pixels_get(output));
+    Frame frame;
+    for (int row = 0; row < HEIGHT; ++row, pixels += WIDTH)
+    {
+        frame.emplace_back(pixels, pixels + WIDTH);
+    }
+    if (test->last != frame)
+    {
+        test->last = frame;
+        test->frames.push_back(std::move(frame));
+        test->times.push_back(ecore_time_get());
+        test->m_still = 0;
+    }
+    return ECORE_CALLBACK_RENEW;
+}
+
+void ShownTest::TakeKeyboard()
+{
+    ecore_evas_focus_set(ecore_evas_ecore_evas_get(canvas), 0);
+    ecore_evas_focus_set(ecore_evas_ecore_evas_get(canvas), 1);
+}
+
+void ShownTest::Watch()
+{
+    frames.clear();
+    times.clear();
+    m_still = 0;
+    ecore_timer_add(0.04, s_IsStill, this);
+    ecore_main_loop_begin();
+}
+
+/** Not by the clock alone: a busy machine draws late, but between two of these calls it draws. */
+Eina_Bool ShownTest::s_IsStill(void* data)
+{
+    constexpr int STILL = 4;
+    if (++static_cast<ShownTest*>(data)->m_still < STILL)
+    {
+        return ECORE_CALLBACK_RENEW;
+    }
+    ecore_main_loop_quit();
+    return ECORE_CALLBACK_CANCEL;
+}
+
+void ShownTest::Key(const char* key)
+{
+    evas_event_feed_key_down(canvas, key, key, "", "", 0, nullptr);
+    evas_event_feed_key_up(canvas, key, key, "", "", 0, nullptr);
+}

@@ -1,0 +1,44 @@
+/**
+ * The application as the viewer sees it: in the TV's own theme, with what the desk adds to its toolkit, picture by
+ * picture.
+ */
+#pragma once
+
+#include "Screen.h"
+#include "WindowManager.h"
+
+#include <vector>
+
+using Row = std::vector<unsigned>;
+using Frame = std::vector<Row>;
+
+struct ShownTest : TvTest
+{
+    ShownTest();
+    ~ShownTest() override;
+
+    /** As a window does that a screen has shown. */
+    void TakeKeyboard();
+
+    /** Collects the frames from now on until nothing moves any more. */
+    void Watch();
+
+    void Key(const char* key);
+
+    static constexpr int WIDTH = 960;
+    static constexpr int HEIGHT = 540;
+
+    std::unique_ptr<VESKAR_APP::WindowManager> manager;
+    Evas* canvas;
+    Frame last;
+    std::vector<Frame> frames; // each differs from the one before
+    std::vector<double> times;
+    const Texts images; // three files of one colour each
+
+private:
+    static Eina_Bool s_Draw(void* data);
+    static Eina_Bool s_IsStill(void* data);
+
+    Ecore_Idle_Enterer* m_drawing;
+    int m_still = 0; // calls without a new frame
+};

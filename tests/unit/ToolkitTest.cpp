@@ -1,0 +1,214 @@
+// What the desk adds to its stock toolkit, seen at the screens that need it.
+
+#include "Shown.h"
+
+#include <algorithm>
+
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct Box
+{
+    int x;
+    int y;
+    int width;
+    int height;
+
+    int Right() const { return x + width; }
+    int Bottom() const { return y + height; }
+};
+
+Box BoxOf(const Evas_Object* object)
+{
+    Box box{};
+    evas_object_geometry_get(object, &box.x, &box.y, &box.width, &box.height);
+    return box;
+}
+
+/** Whether every pixel of `row` is in the other one, at most one place aside: a centred text may move by that. */
+bool IsWithin(const Row& row, const Row& other)
+{
+    for (std::size_t x = 1; x + 1 < row.size(); ++x)
+    {
+        if (row[x] != other[x] && row[x] != other[x - 1] && row[x] != other[x + 1])
+        {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool Alike(const Frame& one, const Frame& other)
+{
+    const auto alike = [](const Row& a, const Row& b)
+    {
+        return IsWithin(a, b) && IsWithin(b, a);
+    };
+    return std::equal(one.begin(), one.end(), other.begin(), alike);
+}
+
+/** Whether nothing is drawn between these columns but grounds, which are of one colour in a row. */
+bool IsBlank(const Frame& frame, int from, int to)
+{
+    const auto isPlain = [from, to](const Row& row)
+    {
+        return std::all_of(row.begin() + from, row.begin() + to, [&](unsigned pixel) { return pixel == row[from]; });
+    };
+    return std::all_of(frame.begin(), frame.end(), isPlain);
+}
+
+constexpr const char* LONG = "A text that takes more than one line of the sheet, so that it is broken into several of "
+                             "them, and then some more of it, until there is no doubt about that.";
+
+struct ToolkitTest : ShownTest
+{
+    /** The picture once it is still. */
+    Frame Picture()
+    {
+        TakeKeyboard();
+        Watch();
+        return last;
+    }
+    Frame Progress(int uiId, const std::string& text, const std::string& button = "Stop")
+    {
+        EXPECT_TRUE(manager->ShowProgress(uiId, 255, "Title", text, button, 42));
+        return Picture();
+    }
+    Evas_Object* Find(const std::string& type, std::size_t index = 0)
+    {
+        return WidgetsOnScreen(tv.window, type).at(index);
+    }
+    void ExpectOnScreen(const std::string& type)
+    {
+        for (Evas_Object* widget : WidgetsOnScreen(tv.window, type))
+        {
+            const Box box = BoxOf(widget);
+            EXPECT_GE(box.x, 0) << type;
+            EXPECT_GE(box.y, 0) << type;
+            EXPECT_LE(box.Right(), WIDTH) << type;
+            EXPECT_LE(box.Bottom(), HEIGHT) << type;
+        }
+    }
+};
+
+TEST_F(ToolkitTest, AnUpdatedProgressLooksAsIfItHadBegunSo)
+{
+    const Frame withText = Progress(1, "Text");
+    const Frame withoutText = Progress(2, "");
+    const Frame withLongText = Progress(3, LONG);
+    EXPECT_TRUE(IsBlank(withLongText, 40, 110)); // texts keep to the middle of the sheet
+    EXPECT_FALSE(Alike(withText, withoutText));
+    EXPECT_FALSE(Alike(withText, withLongText));
+    const Frame withoutButton = Progress(4, "Text", "");
+    // Each is an update of the screen that is there.
+    EXPECT_TRUE(Alike(Progress(4, "Text"), withText));
+    EXPECT_TRUE(Alike(Progress(4, ""), withoutText));
+    EXPECT_TRUE(Alike(Progress(4, "Text"), withText));
+    EXPECT_TRUE(Alike(Progress(4, LONG), withLongText));
+    EXPECT_TRUE(Alike(Progress(4, "Text"), withText));
+    EXPECT_TRUE(Alike(Progress(4, LONG), withLongText));
+    EXPECT_TRUE(Alike(Progress(4, "Text", ""), withoutButton));
+}
+
+TEST_F(ToolkitTest, ASheetUpdatedToThePanelsTitleKeepsTheLinesOfASheet)
+{
+    Progress(1, LONG);
+    const int height = BoxOf(Find("elm_label")).height;
+    manager->ShowProgress(1, 255, "Delete Kavro Operator Profile", LONG, "Stop", 42);
+    Picture();
+    EXPECT_EQ(BoxOf(Find("elm_label")).height, height);
+}
+
+TEST_F(ToolkitTest, ThePanelAtTheSideHoldsRowsOfCellsAndBreaksItsTextsToItsWidth)
+{
+    manager->ShowList(1, 255, "Delete Kavro Operator Profile", "", "", {"Name\tActive\tPrice", "a\tb\tc"}, "LCR", true,
+                      {"OK"}, true);
+    Picture();
+    const Box list = BoxOf(Find("elm_genlist"));
+    ExpectOnScreen("elm_label");
+    for (Evas_Object* cell : Widgets(Find("elm_genlist"), "elm_label"))
+    {
+        EXPECT_GE(BoxOf(cell).x, list.x);
+        EXPECT_LE(BoxOf(cell).Right(), list.Right());
+    }
+    EXPECT_EQ(Widgets(Find("elm_genlist"), "elm_label").size(), 3U);
+
+    manager->ShowMessage(1, 255, "Delete Kavro Operator Profile", LONG, "", "Text", {"OK"}, false);
+    EXPECT_THAT(tv.Log(DLOG_INFO), testing::Contains(testing::StartsWith("line num: 3 ")));
+}
+
+TEST_F(ToolkitTest, AHeaderStandsDirectlyAboveItsRows)
+{
+    manager->ShowList(1, 255, "Delete Kavro Operator Profile", "", "", {"Name\tPrice", "a\tb"}, "LR", true, {"OK"},
+                      true);
+    Picture();
+    const Box header = BoxOf(elm_object_parent_widget_get(Find("elm_label", 1)));
+    EXPECT_LE(BoxOf(Find("elm_genlist")).y - header.Bottom(), 20);
+}
+
+TEST_F(ToolkitTest, AScreenTooLargeForTheTvIsMadeToFit)
+{
+    manager->ShowImage(1, 255, "T", "S", "B", images[0], 3000, 2000, {"OK"}, false);
+    Picture();
+    ExpectOnScreen("elm_label");
+    ExpectOnScreen("elm_button");
+    ExpectOnScreen("elm_image");
+    EXPECT_GT(BoxOf(Find("elm_image")).height, HEIGHT / 3);
+
+    manager->ShowMultipleImageList(1, 255, "T", "S", "B", {"a", "b", "c"}, "L", false, {"OK"}, images, 600, 1500, true);
+    Picture();
+    Key("Down"); // another picture is as large
+    Picture();
+    ExpectOnScreen("elm_button");
+    ExpectOnScreen("elm_image");
+    EXPECT_GT(BoxOf(Find("elm_genlist")).height, 0);
+}
+
+TEST_F(ToolkitTest, AHiddenButtonStaysHiddenAndNoKeyLeadsThere)
+{
+    manager->ShowList(1, 255, "T", "", "", {"a", "b"}, "L", false, {"", "No"}, true);
+    Picture();
+    EXPECT_FALSE(evas_object_visible_get(Find("elm_button", 0)));
+    EXPECT_TRUE(evas_object_visible_get(Find("elm_button", 1)));
+    Key("Down");
+    Key("Down");
+    Picture();
+    EXPECT_NE(elm_object_focused_object_get(tv.window), Find("elm_button", 0));
+}
+
+TEST_F(ToolkitTest, RowsAreWalkedOneByOneAsFastAsKeysCome)
+{
+    manager->ShowMultipleList(7, 255, "T", "", "", Texts(20, "row"), "L", false, {"OK"}, true);
+    Picture();
+    Key("Up"); // the button has the focus of a list as long as this
+    Key("Return");
+    for (int step = 0; step < 14; ++step)
+    {
+        Key("Down");
+    }
+    Key("Return");
+    Key("Up");
+    Key("Return");
+    for (int step = 0; step < 7; ++step)
+    {
+        Key("Down");
+    }
+    Key("Return"); // on the first button
+    EXPECT_THAT(tv.Did("answer"), ElementsAre("answer 7 255 0 0 0 \"11145\""));
+}
+
+TEST_F(ToolkitTest, UpFromPastTheLastPictureIsAStepFromTheLastRow)
+{
+    manager->ShowMultipleImageList(7, 255, "T", "", "", {"head", "a", "b", "c"}, "L", true, {}, images, 40, 30, true);
+    Picture();
+    for (const char* key : {"Down", "Down", "Down", "Up", "Return"})
+    {
+        Key(key);
+    }
+    EXPECT_THAT(tv.Did("answer"), ElementsAre("answer 7 255 0 0 2 \"\""));
+}
+
+} // namespace
