@@ -4,13 +4,13 @@
  * It expects kiosk-shell and the pixman renderer, and is loaded with --modules=…/veskar-compositor.so. The option
  * --no-keyrouter (or VESKAR_NO_KEYROUTER=1) leaves the key router out: a TV on which no key can be grabbed.
  */
-#include "Backdrop.h"
-#include "DeskKeyboard.h"
-#include "KeyRouter.h"
-#include "Overlays.h"
-#include "RemoteCommands.h"
 #include "RemoteSocketPath.h"
-#include "Routing.h"
+#include "keys/KeyRouter.h"
+#include "keys/Routing.h"
+#include "picture/Backdrop.h"
+#include "remote/RemoteCommands.h"
+#include "seat/DeskKeyboard.h"
+#include "windows/Overlays.h"
 
 #include <cstring>
 #include <iostream>

@@ -7,10 +7,10 @@
  */
 #pragma once
 
-#include "GrabTable.h"
 #include "RemoteSocket.h"
-#include "Screenshot.h"
-#include "Seat.h"
+#include "keys/GrabTable.h"
+#include "picture/Screenshot.h"
+#include "seat/Seat.h"
 
 namespace veskar
 {

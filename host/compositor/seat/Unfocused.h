@@ -2,7 +2,7 @@
 #pragma once
 
 #include "KeyTable.h"
-#include "Weston.h"
+#include "weston/Weston.h"
 
 namespace veskar
 {

@@ -1,7 +1,7 @@
 #include "Backdrop.h"
 
 #include "Landscape.h"
-#include "Outputs.h"
+#include "weston/Outputs.h"
 
 namespace veskar
 {

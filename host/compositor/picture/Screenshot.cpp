@@ -1,7 +1,7 @@
 #include "Screenshot.h"
 
-#include "Outputs.h"
 #include "PngFile.h"
+#include "weston/Outputs.h"
 
 namespace veskar
 {

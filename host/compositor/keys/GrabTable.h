@@ -2,7 +2,7 @@
 #pragma once
 
 #include "KeyTable.h"
-#include "Listener.h"
+#include "weston/Listener.h"
 
 #include <functional>
 #include <list>

@@ -6,8 +6,8 @@
  */
 #pragma once
 
-#include "EventSource.h"
 #include "FileDescriptor.h"
+#include "weston/EventSource.h"
 
 #include <functional>
 #include <map>

@@ -8,9 +8,9 @@
 #pragma once
 
 #include "GrabTable.h"
-#include "Seat.h"
-#include "SurfaceRef.h"
-#include "WindowStack.h"
+#include "seat/Seat.h"
+#include "weston/SurfaceRef.h"
+#include "windows/WindowStack.h"
 
 #include <map>
 

@@ -1,8 +1,8 @@
 /** The programme that is "on": a still picture below all windows, on the first output. */
 #pragma once
 
-#include "Listener.h"
 #include "PictureClient.h"
+#include "weston/Listener.h"
 
 namespace veskar
 {

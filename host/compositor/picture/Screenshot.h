@@ -1,7 +1,7 @@
 /** Exact pictures of what is on the output, as PNG files. The compositor must draw with pixman. */
 #pragma once
 
-#include "Listener.h"
+#include "weston/Listener.h"
 
 #include <functional>
 #include <list>

@@ -1,6 +1,6 @@
 #include "Overlays.h"
 
-#include "Unfocused.h"
+#include "seat/Unfocused.h"
 
 namespace veskar
 {

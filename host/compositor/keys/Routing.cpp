@@ -1,7 +1,7 @@
 #include "Routing.h"
 
-#include "DeskKeyboard.h"
-#include "Unfocused.h"
+#include "seat/DeskKeyboard.h"
+#include "seat/Unfocused.h"
 
 namespace veskar
 {

@@ -4,10 +4,10 @@
 #include <cstring>
 #include <string>
 
+#include "Application.h"
+#include "BusName.h"
+#include "Log.h"
 #include "TvBus.h"
-#include "appfw/Application.h"
-#include "appfw/BusName.h"
-#include "appfw/Log.h"
 
 namespace
 {

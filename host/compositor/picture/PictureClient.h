@@ -7,7 +7,7 @@
  */
 #pragma once
 
-#include "EventSource.h"
+#include "weston/EventSource.h"
 
 #include <cstdint>
 #include <functional>

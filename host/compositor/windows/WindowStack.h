@@ -1,7 +1,7 @@
 /** The windows on the screen, one above the other. */
 #pragma once
 
-#include "Weston.h"
+#include "weston/Weston.h"
 
 #include <functional>
 

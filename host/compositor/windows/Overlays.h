@@ -6,9 +6,9 @@
  */
 #pragma once
 
-#include "Seat.h"
-#include "SurfaceRef.h"
 #include "WindowStack.h"
+#include "seat/Seat.h"
+#include "weston/SurfaceRef.h"
 
 #include <optional>
 
