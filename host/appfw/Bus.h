@@ -8,6 +8,8 @@
 #include <Ecore.h>
 #include <Eldbus.h>
 
+#include "FreeWith.h"
+
 namespace veskar
 {
 
@@ -39,17 +41,10 @@ private:
     bool m_bus;
 };
 
-struct BusDeleter
-{
-    /** The last reference gone, what is still queued is written out first. */
-    void operator()(Eldbus_Connection* connection) const { eldbus_connection_unref(connection); }
-    void operator()(Eldbus_Message* message) const { eldbus_message_unref(message); }
-    void operator()(Eldbus_Service_Interface* object) const { eldbus_service_object_unregister(object); }
-};
-
-using BusConnection = std::unique_ptr<Eldbus_Connection, BusDeleter>;
-using BusMessage = std::unique_ptr<Eldbus_Message, BusDeleter>;
-using BusObject = std::unique_ptr<Eldbus_Service_Interface, BusDeleter>;
+/** When the last owner goes, what is still queued is written out first. */
+using BusConnection = std::unique_ptr<Eldbus_Connection, FreeWith<eldbus_connection_unref>>;
+using BusMessage = std::unique_ptr<Eldbus_Message, FreeWith<eldbus_message_unref>>;
+using BusObject = std::unique_ptr<Eldbus_Service_Interface, FreeWith<eldbus_service_object_unregister>>;
 
 /** A method call without its arguments. */
 inline BusMessage NewCall(const std::string& busName, const std::string& path, const std::string& interface,

@@ -1,6 +1,7 @@
 #include "Speech.h"
 
 #include "CString.h"
+#include "FreeWith.h"
 #include "Log.h"
 
 #include <condition_variable>
@@ -23,12 +24,7 @@ struct Sentence
     Turn turn;
 };
 
-struct CloseConnection
-{
-    void operator()(SPDConnection* connection) const { spd_close(connection); }
-};
-
-using Connection = std::unique_ptr<SPDConnection, CloseConnection>;
+using Connection = std::unique_ptr<SPDConnection, FreeWith<spd_close>>;
 
 /** Nothing where no dispatcher is running: a TV without a voice starts none. */
 Connection Connect()

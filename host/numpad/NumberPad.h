@@ -1,6 +1,7 @@
 /** The number pad: while it is shown, keys move through it and type its digits into the screen below. */
 #pragma once
 
+#include "FreeWith.h"
 #include "HeldKeys.h"
 #include "KeyGrid.h"
 #include "PadWindow.h"
@@ -30,11 +31,7 @@ public:
     NumberPad& operator=(const NumberPad&) = delete;
 
 private:
-    struct HandlerDelete
-    {
-        void operator()(Ecore_Event_Handler* handler) const { ecore_event_handler_del(handler); }
-    };
-    using Handler = std::unique_ptr<Ecore_Event_Handler, HandlerDelete>;
+    using Handler = std::unique_ptr<Ecore_Event_Handler, FreeWith<ecore_event_handler_del>>;
 
     static Eina_Bool s_OnKeyDown(void* data, int type, void* event);
     static Eina_Bool s_OnKeyUp(void* data, int type, void* event);

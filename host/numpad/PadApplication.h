@@ -1,6 +1,7 @@
 /** The process of the number pad: the pad while it is shown, and the end of the process when it is not. */
 #pragma once
 
+#include "FreeWith.h"
 #include "NumberPad.h"
 #include "ShownSetting.h"
 
@@ -33,16 +34,6 @@ public:
     void Terminate();
 
 private:
-    struct TimerDelete
-    {
-        void operator()(Ecore_Timer* timer) const { ecore_timer_del(timer); }
-    };
-
-    struct JobDelete
-    {
-        void operator()(Ecore_Job* job) const { ecore_job_del(job); }
-    };
-
     void m_EndSoon();
     void m_HideSoon();
     static void s_HideNow(void* data);
@@ -50,8 +41,8 @@ private:
 
     ShownSetting m_setting;
     std::optional<NumberPad> m_pad;
-    std::unique_ptr<Ecore_Timer, TimerDelete> m_idle;
-    std::unique_ptr<Ecore_Job, JobDelete> m_hiding;
+    std::unique_ptr<Ecore_Timer, FreeWith<ecore_timer_del>> m_idle;
+    std::unique_ptr<Ecore_Job, FreeWith<ecore_job_del>> m_hiding;
 };
 
 } // namespace veskar

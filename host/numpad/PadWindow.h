@@ -1,6 +1,7 @@
 /** The pad on the screen: a transparent window of the screen's size, and in it the panel with the keys. */
 #pragma once
 
+#include "FreeWith.h"
 #include "KeyGrid.h"
 
 #include <Elementary.h>
@@ -37,14 +38,9 @@ private:
     void m_AddPanel(const KeyGrid& keys);
     Evas_Object* m_AddKey(const char* key);
 
-    struct ObjectDelete
-    {
-        void operator()(Evas_Object* object) const { evas_object_del(object); }
-    };
-
     std::function<void()> m_appeared;
     std::function<void()> m_closed;
-    std::unique_ptr<Evas_Object, ObjectDelete> m_window;
+    std::unique_ptr<Evas_Object, FreeWith<evas_object_del>> m_window;
     std::vector<Evas_Object*> m_keys; // the window's children, in the order of the grid's places
     std::size_t m_current = 0;
     bool m_isClosed = false;

@@ -1,5 +1,7 @@
 #include "PngFile.h"
 
+#include "FreeWith.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -11,11 +13,6 @@ namespace veskar
 
 namespace
 {
-
-struct FileClose
-{
-    void operator()(FILE* file) const { std::fclose(file); }
-};
 
 // libpng reports errors by longjmp, which skips destructors: nothing here but pointers and what the caller owns.
 bool Encode(const Picture& picture, FILE* file)
@@ -49,7 +46,7 @@ bool Encode(const Picture& picture, FILE* file)
 std::string WritePng(const Picture& picture, const std::string& path)
 {
     const std::string temporary = path + ".part";
-    std::unique_ptr<FILE, FileClose> file(std::fopen(temporary.c_str(), "wbe"));
+    std::unique_ptr<FILE, FreeWith<std::fclose>> file(std::fopen(temporary.c_str(), "wbe"));
     if (!file)
     {
         return path + ": " + std::strerror(errno);

@@ -1,6 +1,7 @@
 /** The seat of the TV: its keyboard is the remote control. */
 #pragma once
 
+#include "FreeWith.h"
 #include "KeyTable.h"
 #include "weston/Listener.h"
 
@@ -31,12 +32,7 @@ public:
     void Inject(const Key& key, wl_keyboard_key_state state);
 
 private:
-    struct KeymapDelete
-    {
-        void operator()(xkb_keymap* keymap) const { xkb_keymap_unref(keymap); }
-    };
-
-    std::unique_ptr<xkb_keymap, KeymapDelete> m_keymap;
+    std::unique_ptr<xkb_keymap, FreeWith<xkb_keymap_unref>> m_keymap;
     std::unique_ptr<weston_seat> m_own;
     weston_seat* m_seat = nullptr;
     std::unique_ptr<Listener> m_gone;

@@ -1,5 +1,7 @@
-/** A file descriptor that the compositor's event loop watches, for as long as this lives; gone before it is closed. */
+/** The owner of an event loop's watch over a file descriptor; it must end before the descriptor is closed. */
 #pragma once
+
+#include "FreeWith.h"
 
 #include <memory>
 #include <wayland-server-core.h>
@@ -7,11 +9,6 @@
 namespace veskar
 {
 
-struct EventSourceRemove
-{
-    void operator()(wl_event_source* source) const { wl_event_source_remove(source); }
-};
-
-using EventSource = std::unique_ptr<wl_event_source, EventSourceRemove>;
+using EventSource = std::unique_ptr<wl_event_source, FreeWith<wl_event_source_remove>>;
 
 } // namespace veskar
