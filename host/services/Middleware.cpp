@@ -122,7 +122,7 @@ void Middleware::m_RegisterDesk()
         .withInputParamNames("uiId", "sourceId", "request")
         .withOutputParamNames("uiId", "sourceId", "kind", "button", "item", "data")
         .implementedAs(
-            [this](Waiter::Result&& result, std::int32_t uiId, std::uint8_t sourceId, const RequestData& request) {
+            [this](AnswerResult&& result, std::int32_t uiId, std::uint8_t sourceId, const RequestData& request) {
                 m_Ask(std::move(result), {uiId, sourceId}, request);
             });
     m_object->registerMethod(Desk::TELL)
@@ -158,10 +158,20 @@ void Middleware::m_WatchNames()
     }
 }
 
-void Middleware::m_Ask(Waiter::Result&& result, ScreenIds screen, const RequestData& request)
+void Middleware::m_Ask(AnswerResult&& result, ScreenIds screen, const RequestData& request)
 {
     Print("request " + NameOf(request) + ", " + NameOf(screen) + ", waits for the answer");
-    const auto added = m_screens.Add(m_Caller(), screen, std::move(result));
+    const auto reply = Share(std::move(result));
+    const auto added = m_screens.Add(m_Caller(), screen,
+                                     {[reply](const Answer& answer)
+                                      {
+                                          reply->returnResults(answer.screen.uiId, answer.screen.sourceId, answer.kind,
+                                                               answer.button, answer.item, answer.data);
+                                      },
+                                      [reply](const sdbus::Error& error)
+                                      {
+                                          reply->returnError(error);
+                                      }});
     m_Forward(request,
               [this, added](const sdbus::Error* refusal)
               {

@@ -23,6 +23,8 @@ public:
     void TaskRequested(const std::string& task, const std::string& action);
 
 private:
+    using AnswerResult =
+        sdbus::Result<std::int32_t, std::uint8_t, std::int32_t, std::uint8_t, std::uint8_t, std::string>;
     using MenuResult = sdbus::Result<Desk::Tasks, Desk::Positions>;
     using Delivered = std::function<void(const sdbus::Error* refusal)>;
 
@@ -30,7 +32,7 @@ private:
     void m_RegisterDesk();
     void m_WatchNames();
 
-    void m_Ask(Waiter::Result&& result, ScreenIds screen, const RequestData& request);
+    void m_Ask(AnswerResult&& result, ScreenIds screen, const RequestData& request);
     void m_Tell(sdbus::Result<>&& result, const RequestData& request);
     void m_OpenMenu(MenuResult&& result, const RequestData& request);
     void m_SendResponse(const Answer& answer);

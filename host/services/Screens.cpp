@@ -15,14 +15,14 @@ sdbus::Error Gone()
 
 } // namespace
 
-std::weak_ptr<Waiter> Screens::Add(std::string client, ScreenIds screen, Waiter::Result result)
+std::weak_ptr<Waiter> Screens::Add(std::string client, ScreenIds screen, Outcome outcome)
 {
-    return m_waiters.emplace_back(std::make_shared<Waiter>(Waiter{std::move(client), screen, std::move(result)}));
+    return m_waiters.emplace_back(std::make_shared<Waiter>(Waiter{std::move(client), screen, std::move(outcome)}));
 }
 
 void Screens::Fail(const std::shared_ptr<Waiter>& waiter, const sdbus::Error& error)
 {
-    waiter->result.returnError(error);
+    waiter->outcome.failed(error);
     m_waiters.remove(waiter);
 }
 
@@ -47,8 +47,7 @@ std::size_t Screens::Answered(const Answer& answer, const std::string& process)
             {
                 return false;
             }
-            waiter->result.returnResults(answer.screen.uiId, answer.screen.sourceId, answer.kind, answer.button,
-                                         answer.item, answer.data);
+            waiter->outcome.answered(answer);
             return true;
         });
     return before - m_waiters.size();
@@ -82,7 +81,7 @@ void Screens::ProcessEnded(const std::string& process)
             const bool ended = waiter->process == process && !waiter->passedOn;
             if (ended)
             {
-                waiter->result.returnError(Gone());
+                waiter->outcome.failed(Gone());
             }
             return ended;
         });

@@ -4,6 +4,7 @@
 #include <sdbus-c++/sdbus-c++.h>
 
 #include <cstdint>
+#include <functional>
 #include <list>
 #include <memory>
 #include <string>
@@ -27,17 +28,22 @@ struct Answer
     std::string data;
 };
 
-/** One request that waits for its answer. Its client owns it: it ends with the answer, or with its client. */
+/** How one who waits learns what became of the request; one of the two is called, once. */
+struct Outcome
+{
+    std::function<void(const Answer&)> answered;
+    std::function<void(const sdbus::Error&)> failed;
+};
+
+/** One request that waits for its answer. It ends with the answer, or when the client that sent it leaves the bus. */
 struct Waiter
 {
-    using Result = sdbus::Result<std::int32_t, std::uint8_t, std::int32_t, std::uint8_t, std::uint8_t, std::string>;
-
     std::string client;
     ScreenIds screen;
-    Result result;
-    /** The application's process that answers for it: it has handled the request. Empty until then. */
+    Outcome outcome;
+    /** The application's process that has handled the request and will answer it. Empty until it has. */
     std::string process = {};
-    /** The process that got the request has left before it replied: the next one answers. */
+    /** The process that got the request left before it replied, so the next one answers. */
     bool passedOn = false;
 };
 
@@ -55,7 +61,7 @@ struct Waiter
 class Screens
 {
 public:
-    std::weak_ptr<Waiter> Add(std::string client, ScreenIds screen, Waiter::Result result);
+    std::weak_ptr<Waiter> Add(std::string client, ScreenIds screen, Outcome outcome);
 
     /** The request was refused, or went nowhere: its waiter learns why. */
     void Fail(const std::shared_ptr<Waiter>& waiter, const sdbus::Error& error);

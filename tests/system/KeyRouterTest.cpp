@@ -71,16 +71,6 @@ TEST_F(KeyRouter, SendsAnExclusiveKeyToItsHolderWhateverOthersAskedFor)
     EXPECT_EQ(WhoHears("XF86Back"), "upper");
 }
 
-TEST_F(KeyRouter, GivesAKeyExclusivelyToOneWindowAtATime)
-{
-    EXPECT_TRUE(m_lower->Grab("7", KEYROUTER_MODE_EXCLUSIVE));
-    EXPECT_FALSE(m_upper->Grab("7", KEYROUTER_MODE_EXCLUSIVE));
-    EXPECT_TRUE(m_upper->Grab("7", KEYROUTER_MODE_TOPMOST));
-    EXPECT_EQ(WhoHears("7"), "lower");
-    EXPECT_TRUE(m_lower->Ungrab("7", KEYROUTER_MODE_EXCLUSIVE));
-    EXPECT_TRUE(m_upper->Grab("7", KEYROUTER_MODE_EXCLUSIVE));
-}
-
 TEST_F(KeyRouter, SendsToAWindowThatIsNotShownOnlyWhatItHoldsExclusively)
 {
     m_third.emplace();

@@ -46,19 +46,6 @@ TEST_F(MwTest, AnswersArePrintedAndBecomeTheStatus)
     }
 }
 
-TEST_F(MwTest, EachOfTwoAtOnceGetsItsOwnAnswer)
-{
-    Process first = Shown(1);
-    Process second = Shown(2);
-    m_application.Answer(2, 254, 0, 9);
-    m_application.Answer(2, 255, 0, 2);
-    m_application.Answer(1, 255, 0, 1);
-    EXPECT_EQ(second.Status(), 0);
-    EXPECT_EQ(second.Output(), Answer(2, 255, 0, 2, 0));
-    EXPECT_EQ(first.Status(), 0);
-    EXPECT_EQ(first.Output(), Answer(1, 255, 0, 1, 0));
-}
-
 TEST_F(MwTest, ScreenReplacedByOneWithTheSameIdsIsClosedAndTheSecondWaitsOn)
 {
     Process first = Shown(5);
@@ -66,15 +53,6 @@ TEST_F(MwTest, ScreenReplacedByOneWithTheSameIdsIsClosedAndTheSecondWaitsOn)
     Process second = Shown(5);
     EXPECT_EQ(first.Status(), 2);
     m_application.Answer(5, 255, 0, 1);
-    EXPECT_EQ(second.Status(), 0);
-}
-
-TEST_F(MwTest, ScreenUpdatedInPlaceAnswersEverybodyWhoWaitsForIt)
-{
-    Process first = Shown(5, "progress");
-    Process second = Shown(5, "progress");
-    m_application.Answer(5, 255, 0, 1);
-    EXPECT_EQ(first.Status(), 0);
     EXPECT_EQ(second.Status(), 0);
 }
 

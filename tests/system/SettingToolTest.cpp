@@ -1,0 +1,52 @@
+// The settings, as the tool writes them and the platform reads them.
+
+#include <system_info.h>
+#include <ui_orientation.h>
+#include <vconf.h>
+
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "Process.h"
+
+namespace
+{
+
+constexpr const char* NUMBER = "db/menu/system/accessibility/focuszoom";
+constexpr const char* FLAG = "com.brelmon/featureconf/product.b2b_option_support";
+
+TEST(Settings, WhatTheToolSetsIsReadByThePlatform)
+{
+    RunCommand({"veskar-setting", "set", NUMBER, "-5"});
+    RunCommand({"veskar-setting", "set", FLAG, "on"});
+    RunCommand({"veskar-setting", "set", "db/menu_widget/orientation", "1"});
+    RunCommand({"veskar-setting", "set", "db/menu_widget/language", "el"});
+    int number = 0;
+    bool flag = false;
+    EXPECT_EQ(vconf_get_int(NUMBER, &number), 0);
+    EXPECT_EQ(number, -5);
+    EXPECT_EQ(system_info_get_custom_bool(FLAG, &flag), 0);
+    EXPECT_TRUE(flag);
+    EXPECT_EQ(ua_UI_orientation_get(), 1);
+    const std::unique_ptr<char, void (*)(void*)> language(vconf_get_str("db/menu_widget/language"), free);
+    EXPECT_STREQ(language.get(), "el");
+    EXPECT_EQ(RunCommand({"veskar-setting", "get", FLAG}), "1\n");
+}
+
+TEST(Settings, TheToolRefusesWhatNothingReadsAndValuesOfAnotherType)
+{
+    EXPECT_EQ(Process({"veskar-setting", "set", "db/nobody", "1"}).Status(), 64);
+    EXPECT_EQ(Process({"veskar-setting", "set", "db/nobody", "1", "--force"}).Status(), 0);
+    EXPECT_EQ(Process({"veskar-setting", "set", NUMBER, "large"}).Status(), 64);
+    EXPECT_EQ(Process({"veskar-setting", "set", FLAG, "2"}).Status(), 64);
+    EXPECT_EQ(Process({"veskar-setting", "get", "memory/nobody", "--force"}).Status(), 1);
+    for (const char* key : {NUMBER, FLAG, "db/menu_widget/language", "memory/ephotel/hotelmenu/hotelfactorymode"})
+    {
+        EXPECT_NE(RunCommand({"veskar-setting", "list"}).find(key), std::string::npos) << key;
+    }
+}
+
+} // namespace
