@@ -5,12 +5,11 @@
 #include "Mode.h"
 #include "SettingKeys.h"
 #include "Speech.h"
+#include "SpokenText.h"
 #include "appfw/Window.h"
 #include "vconf.h"
 #include "voice_guide.h"
 
-#include <algorithm>
-#include <cctype>
 #include <cstdlib>
 #include <fstream>
 
@@ -18,19 +17,6 @@ namespace veskar
 {
 namespace
 {
-
-/** What is to be heard: no markup, one line. */
-std::string Plain(const std::string& markup)
-{
-    const CString plain(elm_entry_markup_to_utf8(markup.c_str()));
-    std::string sentence = plain ? plain.get() : "";
-    const auto isControl = [](unsigned char character)
-    {
-        return std::iscntrl(character) != 0;
-    };
-    std::replace_if(sentence.begin(), sentence.end(), isControl, ' ');
-    return sentence;
-}
 
 std::string Language()
 {
@@ -54,13 +40,13 @@ void Record(const std::string& sentence)
     }
 }
 
-void Speak(const std::string& markup, Turn turn)
+void Speak(const std::string& text, Turn turn)
 {
     if (!IsOn(VOICE_GUIDE_KEY))
     {
         return;
     }
-    const std::string sentence = Plain(markup);
+    const std::string sentence = SpokenText(text);
     ASSIST_INFO("Speaking: %s", sentence.c_str());
     Record(sentence);
     Say(sentence, Language(), turn);
@@ -74,11 +60,11 @@ VoiceGuide& VoiceGuide::TheOne()
     return *guide;
 }
 
-void VoiceGuide::SpeakScreen(const char* markup)
+void VoiceGuide::SpeakScreen(const char* text)
 {
     m_spoken = {};
     m_viewerMoved = false;
-    Speak(markup, Turn::AtOnce);
+    Speak(text, Turn::AtOnce);
 }
 
 void VoiceGuide::FollowFocus()
