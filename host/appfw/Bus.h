@@ -1,4 +1,4 @@
-/** Owners of the bus library's handles. Main thread only, as the library itself. */
+/** Owners of the bus library's handles. Main thread only, like the library itself. */
 #pragma once
 
 #include <memory>
@@ -14,8 +14,8 @@ namespace veskar
 {
 
 /**
- * The library is usable while one of these lives. The main loop's library comes first: it uses the bus itself while it
- * initialises, and would do so in the middle of the bus library's own initialisation.
+ * The bus library is usable while an object of this class exists. The main loop's library is initialised first: it uses
+ * the bus library for that, and must not do so in the middle of the bus library's own initialisation.
  */
 class BusLibrary
 {
@@ -41,7 +41,7 @@ private:
     bool m_bus;
 };
 
-/** When the last owner goes, what is still queued is written out first. */
+/** The last owner writes out what is still queued. */
 using BusConnection = std::unique_ptr<Eldbus_Connection, FreeWith<eldbus_connection_unref>>;
 using BusMessage = std::unique_ptr<Eldbus_Message, FreeWith<eldbus_message_unref>>;
 using BusObject = std::unique_ptr<Eldbus_Service_Interface, FreeWith<eldbus_service_object_unregister>>;
@@ -53,14 +53,14 @@ inline BusMessage NewCall(const std::string& busName, const std::string& path, c
     return BusMessage(eldbus_message_method_call_new(busName.c_str(), path.c_str(), interface.c_str(), method.c_str()));
 }
 
-/** Both live as long as the message that they were read from. */
+/** Valid as long as the message that it was read from. */
 struct BusError
 {
     const char* name;
     const char* text;
 };
 
-/** The error that came in place of a reply, or nothing where it is a reply. */
+/** The error that came instead of a reply, or nothing for a reply. */
 inline std::optional<BusError> ErrorOf(const Eldbus_Message* reply)
 {
     BusError error{};

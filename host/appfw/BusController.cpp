@@ -1,4 +1,4 @@
-/** The middleware, as a peer on the bus. */
+/** The controller's interface as method calls to the middleware on the bus. */
 #include <IVesKarController.h>
 
 #include <cstring>
@@ -50,7 +50,7 @@ public:
         }
         const bool sent =
             fit && Call(Controller::SEND_RESPONSE, "iyiyys", uiId, sourceId, kind, button, item, data.c_str());
-        // It may be a PIN, and this copy is ours.
+        // It may be a PIN, and this copy belongs to this function.
         explicit_bzero(data.data(), data.size());
         return sent;
     }

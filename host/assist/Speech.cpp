@@ -26,7 +26,7 @@ struct Sentence
 
 using Connection = std::unique_ptr<SPDConnection, FreeWith<spd_close>>;
 
-/** Nothing where no dispatcher is running: a TV without a voice starts none. */
+/** Null when no dispatcher is running; none is started, because a TV may have no voice. */
 Connection Connect()
 {
     constexpr int START_NONE = 0;
@@ -54,7 +54,7 @@ bool Speak(SPDConnection* connection, const Sentence& sentence)
     return spd_say(connection, SPD_MESSAGE, sentence.text.c_str()) >= 0;
 }
 
-/** Signals are the main thread's, but for one of its own: that of a dispatcher gone in the middle of a sentence. */
+/** The main thread handles signals. This also blocks SIGPIPE, which comes when a dispatcher ends while it speaks. */
 void BlockSignals()
 {
     sigset_t all;
@@ -103,7 +103,7 @@ private:
             {
                 continue;
             }
-            // None yet, or it has gone and may be back by now.
+            // Not connected yet, or the dispatcher has ended; it may have been restarted.
             connection = Connect();
             if (connection)
             {

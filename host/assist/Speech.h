@@ -8,15 +8,15 @@ namespace veskar
 
 enum class Turn
 {
-    /** Cuts short what is being said and drops what waits. */
+    /** Interrupts the current sentence and drops those that wait. */
     AtOnce,
-    /** After everything that waits. */
+    /** After all sentences that wait. */
     Next
 };
 
 /**
- * Says `text` in `language` ("el_GR"; empty: the voice's own). Never waits for the voice: a thread of its own talks to
- * it. Any thread.
+ * Says `text` in `language` ("el_GR"; empty: the voice's own). Does not block: a separate thread talks to the
+ * dispatcher. Any thread.
  */
 void Say(std::string text, std::string language, Turn turn);
 

@@ -24,7 +24,7 @@ std::string Language()
     return language ? language.get() : "";
 }
 
-/** Lets others read what was spoken: one line for each sentence in the file that the environment names. */
+/** Appends each sentence as a line to the file that the environment names, so that tests can read what was spoken. */
 void Record(const std::string& sentence)
 {
     const char* path = std::getenv("VESKAR_VOICE_FILE");
@@ -99,8 +99,8 @@ Eina_Bool VoiceGuide::s_OnKey(void* data, int, void*)
 }
 
 /**
- * Looked at when everything at hand is done, instead of listening to the widgets: while a screen opens and while a list
- * moves, the focus passes elements on which it does not stay.
+ * Checks the focus when the main loop becomes idle, instead of listening to the widgets: while a screen opens or a list
+ * moves, the focus passes over elements on which it does not stay.
  */
 Eina_Bool VoiceGuide::s_OnIdle(void* data)
 {
@@ -128,7 +128,7 @@ void VoiceGuide::m_LookAtFocus()
     m_spoken = focused;
     const std::string tick = TickOf(focused, Language());
     const std::string sentence = sameElement ? tick : text + (tick.empty() ? "" : ", " + tick);
-    // What the viewer has not asked for waits until the screen is read out.
+    // Before the viewer has pressed a key, the focused element waits until the screen has been read out.
     Speak(sentence, m_viewerMoved ? Turn::AtOnce : Turn::Next);
 }
 

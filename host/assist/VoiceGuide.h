@@ -1,4 +1,4 @@
-/** The viewer's voice guide: reads out each screen, and then what the viewer moves to. */
+/** The voice guide: reads out each screen, and then each element that the viewer moves to. */
 #pragma once
 
 #include "Focused.h"
@@ -12,18 +12,18 @@ namespace veskar
 class VoiceGuide
 {
 public:
-    /** Never destroyed: screens are spoken as long as the toolkit runs, which has no moment of its own to end it. */
+    /** Never destroyed: it is needed for as long as the toolkit runs. */
     static VoiceGuide& TheOne();
 
     VoiceGuide(const VoiceGuide&) = delete;
     VoiceGuide& operator=(const VoiceGuide&) = delete;
 
-    /** Speaks a screen's sentence, given as markup, at once. The element that then has the focus is spoken after it. */
+    /** Speaks a screen's text immediately (see SpokenText.h), then the element that has the focus. */
     void SpeakScreen(const char* markup);
 
     /**
-     * From now on speaks each button and row that gets the focus in the program's window, and each tick of a row. May
-     * be called again.
+     * Starts to speak each button and row that gets the focus in the program's window, and each tick of a row. May be
+     * called more than once.
      */
     void FollowFocus();
 
@@ -35,10 +35,10 @@ private:
     static Eina_Bool s_OnIdle(void* data);
     void m_LookAtFocus();
 
-    Evas_Object* m_window = nullptr; // null once it is deleted: the toolkit still idles after it
+    Evas_Object* m_window = nullptr; // null after it is deleted, because s_OnIdle still runs then
     Focused m_spoken;
     bool m_viewerMoved = false;
-    bool m_follows = false; // the keys and the main loop, which outlive any window
+    bool m_follows = false; // the handlers of keys and idle turns are registered; they stay when the window is deleted
 };
 
 } // namespace veskar

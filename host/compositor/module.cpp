@@ -22,7 +22,7 @@ namespace veskar
 namespace
 {
 
-/** All of the module's parts; each destroyed before what it uses. */
+/** Owns all parts of the module. Members are in this order so that each is destroyed before the parts that it uses. */
 class Tv
 {
 public:
@@ -43,7 +43,7 @@ public:
     }
 
 private:
-    /** When the socket is there, the TV is ready: only then can a screenshot show all of it. */
+    /** The tools take the socket as a sign that the TV is ready, so it waits until a screenshot shows the whole TV. */
     void m_OpenSocket()
     {
         if (m_socket)
@@ -107,7 +107,7 @@ extern "C" __attribute__((visibility("default"))) int wet_module_init(weston_com
     const bool withKeyRouter = !TakeOption("--no-keyrouter", argc, argv) && !IsSet("VESKAR_NO_KEYROUTER");
     try
     {
-        new Tv(compositor, withKeyRouter); // it ends itself with the compositor
+        new Tv(compositor, withKeyRouter); // deletes itself when the compositor ends
     }
     catch (const std::exception& error)
     {

@@ -16,13 +16,13 @@
 namespace veskar
 {
 
-/** Shown for as long as it lives. Main thread, while the toolkit is initialised. */
+/** The pad is shown for the lifetime of this object. Main thread only, while the toolkit is initialised. */
 class NumberPad
 {
 public:
     /**
      * `setting` must outlive the pad. `unwanted` is called, from one of the toolkit's callbacks, when the viewer or the
-     * compositor wants the pad to go.
+     * compositor closes the pad.
      */
     NumberPad(bool withBackSpace, ShownSetting& setting, std::function<void()> unwanted);
     ~NumberPad();

@@ -12,7 +12,7 @@
 namespace veskar
 {
 
-/** To be made before the toolkit is initialised; the rest on the main thread while it is. */
+/** Construct it before the toolkit is initialised; call the rest on the main thread while it is. */
 class PadApplication
 {
 public:
@@ -21,16 +21,16 @@ public:
     PadApplication(const PadApplication&) = delete;
     PadApplication& operator=(const PadApplication&) = delete;
 
-    /** The process ends soon, unless the pad is shown. */
+    /** The process ends soon after this unless the pad is shown. */
     void Create();
 
-    /** A pad that is shown already stays as it is. */
+    /** Does nothing when the pad is shown already. */
     void Show(bool withBackSpace);
 
-    /** As Create, then. */
+    /** Hides the pad. The process ends soon after this unless the pad is shown. */
     void Hide();
 
-    /** Gives back everything of the toolkit's. */
+    /** Releases everything that belongs to the toolkit. */
     void Terminate();
 
 private:

@@ -1,4 +1,4 @@
-/** The pad on the screen: a transparent window of the screen's size, and in it the panel with the keys. */
+/** The pad's window: transparent, as large as the screen, with the panel of keys in it. */
 #pragma once
 
 #include "FreeWith.h"
@@ -12,13 +12,13 @@
 namespace veskar
 {
 
-/** Main thread, while the toolkit is initialised. */
+/** Main thread only, while the toolkit is initialised. */
 class PadWindow
 {
 public:
     /**
-     * Shows the keys. `appeared` is called once, when the window is on the screen; `closed` when the compositor wants
-     * it to go. Both from the main loop.
+     * Shows the keys. `appeared` is called once, when the window is on the screen; `closed` when the compositor closes
+     * it. Both are called from the main loop.
      */
     PadWindow(const KeyGrid& keys, std::function<void()> appeared, std::function<void()> closed);
     ~PadWindow();
@@ -28,7 +28,7 @@ public:
 
     Evas_Object* Window() const { return m_window.get(); }
 
-    /** The focus goes to the key with this index in the grid's places. */
+    /** Moves the focus to the key with this index in the grid's places. */
     void SetCurrent(std::size_t key);
 
 private:

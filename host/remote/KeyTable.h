@@ -2,7 +2,7 @@
  * Every key of the remote control: its platform name, the code under which the compositor sends it and the symbol that
  * the generated keymap gives it.
  *
- * The codes lie above those of any real keyboard, so that an injected key is never taken for a typed one.
+ * The codes lie above those of any real keyboard, so that a sent key is never mistaken for a typed one.
  */
 #pragma once
 

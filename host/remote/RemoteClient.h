@@ -1,4 +1,4 @@
-/** A program's end of the remote control's socket. Blocking; not for several threads at once. */
+/** A program's end of the remote control's socket. Calls block. Not thread-safe. */
 #pragma once
 
 #include "FileDescriptor.h"
@@ -10,13 +10,13 @@
 namespace veskar
 {
 
-/** There is no compositor at the other end, or no longer. */
+/** No compositor listens at the socket, or it has ended. */
 struct RemoteUnreachable : std::runtime_error
 {
     using std::runtime_error::runtime_error;
 };
 
-/** The compositor would not do it, and says why. */
+/** The compositor refused the command. The text says why. */
 struct RemoteRefusal : std::runtime_error
 {
     using std::runtime_error::runtime_error;

@@ -10,7 +10,7 @@ namespace veskar
 {
 namespace
 {
-/** What the bus says of a name that nobody owns and nobody can be started for. */
+/** True for the bus's errors about a name that nobody owns and for which no program can be started. */
 bool IsNoApplication(const std::string& errorName)
 {
     return errorName == "org.freedesktop.DBus.Error.ServiceUnknown" ||
@@ -18,7 +18,7 @@ bool IsNoApplication(const std::string& errorName)
            errorName.rfind("org.freedesktop.DBus.Error.Spawn.", 0) == 0;
 }
 
-/** The desk's error for what came back instead of the application's reply. */
+/** Translates the error that came instead of the application's reply into one of the desk's errors. */
 sdbus::Error DeskError(const sdbus::Error& error)
 {
     if (IsNoApplication(error.getName()))
@@ -45,7 +45,7 @@ std::optional<std::string> TextOf(const RequestData& request, const char* key)
     return isText ? std::optional{found->second.get<std::string>()} : std::nullopt;
 }
 
-/** The kind of request, as far as one line tells. */
+/** The kind of request, for a log line. */
 std::string NameOf(const RequestData& request)
 {
     for (const char* key : {"signal_tvservice_key", "menu_pos_key", "signal_type_key"})
@@ -63,7 +63,7 @@ bool IsMenuRequest(const RequestData& request)
     return TextOf(request, "signal_type_key") == "signal_menu_pos";
 }
 
-/** The library's results can only be moved, and a callback must be copyable. */
+/** The library's results can only be moved, but a callback must be copyable. */
 template <typename... Results>
 std::shared_ptr<sdbus::Result<Results...>> Share(sdbus::Result<Results...>&& result)
 {
@@ -154,7 +154,7 @@ void Middleware::m_WatchNames()
     }
     catch (const sdbus::Error&)
     {
-        m_owner.clear(); // It does not run.
+        m_owner.clear(); // it is not running
     }
 }
 
@@ -178,14 +178,14 @@ void Middleware::m_Ask(AnswerResult&& result, ScreenIds screen, const RequestDat
                   const auto waiter = added.lock();
                   if (waiter == nullptr)
                   {
-                      return; // Its client is gone.
+                      return; // its client has left the bus
                   }
                   if (refusal != nullptr)
                   {
                       m_screens.Fail(waiter, *refusal);
                       return;
                   }
-                  // Also where a leaving process has passed the request on: it replies after the next one has.
+                  // Right also if a leaving process passed the request on: it replies only after the next process has.
                   m_screens.Delivered(waiter, m_owner);
               });
 }

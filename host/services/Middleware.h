@@ -1,4 +1,4 @@
-/** The middleware's side of the application: requests go out through it, answers and menu positions come in. */
+/** The middleware: sends requests to the application and receives its answers and menu positions. */
 #pragma once
 
 #include "DeskBus.h"
@@ -12,14 +12,14 @@
 
 namespace veskar
 {
-/** Everything happens on the thread that serves the connection. */
+/** Only for the thread that serves the connection. */
 class Middleware
 {
 public:
-    /** Puts the objects on the connection, which outlives this; the names are the caller's to own, afterwards. */
+    /** Registers its objects on the connection, which must outlive this. The caller requests the names afterwards. */
     explicit Middleware(sdbus::IConnection& connection);
 
-    /** The context manager's side of a menu request. */
+    /** Part of a menu request: the application asked the context manager for this task. */
     void TaskRequested(const std::string& task, const std::string& action);
 
 private:
@@ -48,16 +48,17 @@ private:
     std::unique_ptr<sdbus::IProxy> m_application;
     std::unique_ptr<sdbus::IProxy> m_bus;
     Screens m_screens;
-    /** The application's process, by the name that no other one ever has; empty while there is none. */
+    /** The unique bus name of the application's process; empty while there is none. */
     std::string m_owner;
     /**
-     * The menu requests that have no reply yet. Only the first one was sent: where a leaving process passes requests
-     * on, their replies come through it, and nothing would tell which of several brought which position.
+     * The menu requests that have no reply yet. Only the first of them has been sent: with several on their way it
+     * would be unknown which of them opened which position, because a leaving process passes requests on to the next
+     * one.
      */
     std::deque<std::pair<RequestData, Delivered>> m_menus;
     /**
-     * What the menu request that was sent has brought so far. The application asks for the task first and replies last:
-     * so what came since the last task came because of it, whoever else opened menus before.
+     * The results of the menu request that was sent, up to now. The application first asks for the task and replies
+     * last, so everything since the last task belongs to that request.
      */
     Desk::Tasks m_tasks;
     Desk::Positions m_positions;

@@ -77,7 +77,7 @@ void Screens::ProcessEnded(const std::string& process)
     m_waiters.remove_if(
         [&process](const std::shared_ptr<Waiter>& waiter)
         {
-            // Of a request that was passed on the reply is still to come, and tells more.
+            // The reply to a request that was passed on is still to come, and says what became of it.
             const bool ended = waiter->process == process && !waiter->passedOn;
             if (ended)
             {

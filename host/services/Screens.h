@@ -1,4 +1,4 @@
-/** Who waits for the answer of which screen. */
+/** Keeps track of who waits for the answer of which screen. */
 #pragma once
 
 #include <sdbus-c++/sdbus-c++.h>
@@ -48,34 +48,38 @@ struct Waiter
 };
 
 /**
- * The rule for several waiters with the same ids: an answer is for every one of them whose request the application had
- * handled when it answered. The application handles one request at a time and answers for the screen that it replaces
- * before it has handled the one that replaces it. So two handled requests with the same ids that both wait for an
- * answer made one screen (a progress screen updated in place) and share what comes of it; while of two messages with
- * the same ids the first is answered as closed before the second counts, and the second waits on. A request whose
- * screen the application closed without an answer waits on too, and shares the next answer with these ids if one comes.
+ * Several waiters can have the same ids. An answer is for each of them whose request the application had handled when
+ * it answered. The application handles one request at a time, and answers for a screen that is replaced before it has
+ * handled the request that replaces it. Therefore:
  *
- * It holds because the daemon sends every request itself, on the connection on which the answers come: the bus keeps
- * the order of one connection's messages.
+ *  - Two handled requests with the same ids made one screen (a progress screen that was updated in place). Both get its
+ *    answer.
+ *  - Of two messages with the same ids, the first is answered as closed while the second is still being handled. The
+ *    second keeps waiting.
+ *  - A request whose screen was closed without an answer keeps waiting, and gets the next answer with these ids.
+ *
+ * The daemon sends every request on the connection on which the answers arrive, and the bus keeps the order of one
+ * connection's messages. So the daemon sees replies and answers in the order in which the application sent them.
  */
 class Screens
 {
 public:
     std::weak_ptr<Waiter> Add(std::string client, ScreenIds screen, Outcome outcome);
 
-    /** The request was refused, or went nowhere: its waiter learns why. */
+    /** The request was refused or could not be delivered. Tells the waiter why. */
     void Fail(const std::shared_ptr<Waiter>& waiter, const sdbus::Error& error);
-    /** The request was handled, and is this process's from now on; empty: of one that has gone again. */
+    /** `process` has handled the request and will answer it. Empty when it has ended already: the waiter fails. */
     void Delivered(const std::shared_ptr<Waiter>& waiter, const std::string& process);
-    /** How many waiters the answer that this process sent was for. */
+    /** Passes on an answer that `process` sent. Returns how many waiters it was for. */
     std::size_t Answered(const Answer& answer, const std::string& process);
     /**
-     * The application's process gave up its name. What it had not handled, it passes on to the next one, whose answers
-     * come on a connection of their own: nothing tells any more which came first, so they count from now on.
+     * The application's process gave up its name. It passes the requests that it has not handled on to the next
+     * process, whose answers come on another connection. So an answer of the next process can overtake the reply to
+     * such a request, and counts for it from now on.
      */
     void ProcessLeft();
     void ProcessCame(const std::string& process);
-    /** The process is off the bus, and its last answer has come: who still waits for one learns it. */
+    /** The process has left the bus after its last answer. Those who still wait for an answer of it fail. */
     void ProcessEnded(const std::string& process);
     void RemoveClient(const std::string& client);
 

@@ -1,4 +1,4 @@
-/** Who asked for which key. A surface's grabs end with the surface. */
+/** Records which surface has grabbed which key. A surface's grabs end when it is destroyed. */
 #pragma once
 
 #include "KeyTable.h"
@@ -34,21 +34,21 @@ class GrabTable
 {
 public:
     /**
-     * False when another surface holds the key exclusively and exclusiveness is asked for. A surface has at most one
-     * registration of a key, and beside it at most one grab in one of the other two modes: the newer replaces the
-     * older.
+     * Returns false when `mode` is Exclusive and another surface holds the key exclusively. A surface can have one
+     * registration of a key and, at the same time, one grab of it in one of the other two modes. A new grab replaces an
+     * older one of its sort.
      */
     bool Add(wl_client* client, weston_surface* surface, const Key& key, GrabMode mode);
 
-    /** Nothing happens where there is no such grab. */
+    /** Does nothing when there is no such grab. */
     void Remove(weston_surface* surface, const Key& key, GrabMode mode);
 
-    /** Ends every grab of this client; to be called before the client is gone. */
+    /** Ends every grab of this client. Must be called before the client is destroyed. */
     void RemoveClient(wl_client* client);
 
     bool Holds(weston_surface* surface, const Key& key, GrabMode mode) const;
 
-    /** A surface that holds the key in this mode and that is accepted, or null. */
+    /** A surface that holds the key in this mode and for which `accepts` is true, or null. */
     weston_surface* Holder(const Key& key, GrabMode mode, const std::function<bool(weston_surface*)>& accepts) const;
 
     /** The surface that holds the key exclusively, or null. */

@@ -57,7 +57,7 @@ void Routing::s_OnKey(weston_keyboard_grab* grab, const timespec* time, uint32_t
 
 void Routing::m_KeyDown(const timespec* time, const Key& key)
 {
-    // Two typed keys can stand for the same key of the remote.
+    // Two keys of the keyboard can stand for the same key of the remote control.
     const auto [press, isNew] = m_pressed.try_emplace(&key);
     if (!isNew)
     {
@@ -71,7 +71,7 @@ void Routing::m_KeyDown(const timespec* time, const Key& key)
     }
     if (IsOverlay(target))
     {
-        // It was told of the focus when it appeared, and the screen below shows that it really has it.
+        // It got a focus event when it appeared. The screen below keeps the real focus, and so looks focused.
         SendUnfocused(m_seat.Keyboard(), time, key, WL_KEYBOARD_KEY_STATE_PRESSED, target);
         return;
     }
@@ -122,17 +122,17 @@ weston_surface* Routing::m_TargetOf(const Key& key) const
     {
         return registrant;
     }
-    // Its client has shown it, and its first picture is on the way.
+    // A window that its client has shown but not drawn yet.
     if (weston_surface* coming = m_grabs.Holder(key, GrabMode::Registered, weston_surface_is_desktop_surface))
     {
         return coming;
     }
-    // Nobody has the focus while the desktop's own focus is outside the TV's window.
+    // No window has the focus while the desktop's own focus is outside the TV's window.
     weston_surface* focus = m_seat.Keyboard()->focus;
     return focus != nullptr ? focus : topmost;
 }
 
-/** The toolkit drops a key that comes to a window without the focus. */
+/** The toolkit drops a key for a window that does not have the focus. */
 void Routing::m_LendFocus(weston_surface* target)
 {
     weston_keyboard* keyboard = m_seat.Keyboard();
@@ -163,8 +163,8 @@ void Routing::m_GiveFocusBack()
     weston_seat* seat = keyboard->seat;
     if (seat->saved_kbd_focus != nullptr)
     {
-        // The desktop's focus is outside the TV's window. The compositor remembers whose ours was, and must not find
-        // anyone with it when the desktop's comes back or goes away once more.
+        // The desktop's focus is outside the TV's window. The compositor has saved which window had the TV's focus, and
+        // gives it back when the desktop's focus returns. Until then no window may have it.
         weston_keyboard_set_focus(keyboard, nullptr);
         seat->use_saved_kbd_focus = true;
         return;
@@ -172,7 +172,7 @@ void Routing::m_GiveFocusBack()
     weston_surface* next = lender != nullptr && weston_surface_is_mapped(lender) ? lender : m_windows.Topmost();
     if (next == nullptr && borrower != nullptr && weston_surface_is_desktop_surface(borrower))
     {
-        next = borrower; // it will be drawn, and be the only one
+        next = borrower; // not drawn yet; it will be the only window
     }
     weston_keyboard_set_focus(keyboard, next);
 }

@@ -1,9 +1,12 @@
 /**
- * Where a key goes.
+ * Decides which surface gets a key. The first of these that exists:
  *
- * To the surface that holds it exclusively; else to the topmost window, if that one holds it topmost; else to the
- * topmost window that registered it (one that is shown but not drawn yet is below all others); else to the window with
- * the focus. A key goes up where it went down.
+ *  - the surface that holds the key exclusively;
+ *  - the topmost window, if it holds the key in mode Topmost;
+ *  - the topmost window that registered the key (a window that is shown but not drawn yet counts as the lowest);
+ *  - the window with the focus.
+ *
+ * The release of a key goes to the surface that got the press.
  */
 #pragma once
 
@@ -20,7 +23,7 @@ namespace veskar
 class Routing
 {
 public:
-    /** Everything given must outlive this object. */
+    /** All arguments must outlive this object. */
     Routing(Seat& seat, const GrabTable& grabs, const WindowStack& windows);
     ~Routing();
 
@@ -30,7 +33,7 @@ public:
 private:
     struct Hook
     {
-        weston_keyboard_grab_interface handlers; // first: its address is the hook's
+        weston_keyboard_grab_interface handlers; // must be first: its address is also the hook's
         Routing* self;
     };
 

@@ -52,7 +52,7 @@ void Backdrop::m_Show(wl_resource* buffer, int width, int height)
     m_compositor->renderer->attach(m_surface, weston_buffer_from_resource(buffer));
     weston_surface_set_size(m_surface, width, height);
     SetRegion(m_surface->opaque, width, height);
-    SetRegion(m_surface->input, 0, 0); // a click is for nobody
+    SetRegion(m_surface->input, 0, 0); // it takes no clicks
     m_surface->is_mapped = true;
     view->is_mapped = true;
     weston_view_set_position(view, 0, 0);

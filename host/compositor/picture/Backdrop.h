@@ -1,4 +1,4 @@
-/** The programme that is "on": a still picture below all windows, on the first output. */
+/** The TV programme: a still picture below all windows, on the first output. */
 #pragma once
 
 #include "PictureClient.h"
@@ -10,7 +10,7 @@ namespace veskar
 class Backdrop
 {
 public:
-    /** `shown` is called whenever the picture has come on, the first time soon after the event loop starts. */
+    /** `shown` is called each time a new picture is on the output, first soon after the event loop starts. */
     Backdrop(weston_compositor* compositor, std::function<void()> shown);
     ~Backdrop();
 

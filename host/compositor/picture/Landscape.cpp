@@ -39,7 +39,7 @@ constexpr Colour SUN{255, 244, 214};
 constexpr Colour FAR_HILL{124, 84, 118};
 constexpr Colour NEAR_HILL{20, 22, 40};
 
-// Where things are, as shares of the picture's height.
+// Positions and sizes, as fractions of the picture's height.
 constexpr float WATERLINE = 0.70F;
 constexpr float SUN_X = 1.16F;
 constexpr float SUN_Y = 0.585F;
@@ -83,7 +83,7 @@ float RidgeAt(float x, int range)
     return WATERLINE - (0.30F - 0.22F * nearness) * height - 0.012F * (1 - nearness);
 }
 
-/** All that is above the water; `x` and `y` are in heights of the picture. */
+/** Everything above the water. Coordinates are in units of the picture's height. */
 class Scene
 {
 public:
@@ -197,7 +197,7 @@ std::vector<uint32_t> DrawLandscape(int width, int height)
         for (int column = 0; column < width; ++column)
         {
             const Colour colour = y < WATERLINE ? scene.At(column, y) : Water(scene, column, row, width, height);
-            // Long gradients show bands without it.
+            // Dithered, because long gradients would show bands.
             pixels.push_back(Packed(colour, NoiseAt(column, row)));
         }
     }

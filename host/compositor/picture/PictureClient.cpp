@@ -22,7 +22,7 @@ namespace
     throw std::system_error(errno, std::generic_category(), what);
 }
 
-/** A file in memory with these pixels; none where there is no memory for it. */
+/** A file in memory with these pixels; owns nothing when there is not enough memory. */
 FileDescriptor FileOf(const std::vector<uint32_t>& pixels)
 {
     FileDescriptor file(memfd_create("veskar-picture", MFD_CLOEXEC));
@@ -68,8 +68,8 @@ PictureClient::PictureClient(wl_display* server, Draw draw, Ready ready)
     {
         Fail("wl_client_create");
     }
-    serverEnd.Release();                                              // the client's now
-    m_clientEnd.reset(wl_display_connect_to_fd(clientEnd.Release())); // closed by the library in any case
+    serverEnd.Release();                                              // owned by the client now
+    m_clientEnd.reset(wl_display_connect_to_fd(clientEnd.Release())); // the library closes it even if this fails
     if (!m_clientEnd)
     {
         Fail("wl_display_connect_to_fd");
@@ -101,7 +101,7 @@ void PictureClient::Request(int width, int height)
 int PictureClient::s_OnReadable(int, uint32_t, void* data)
 {
     auto* self = static_cast<PictureClient*>(data);
-    wl_display_dispatch(self->m_clientEnd.get()); // does not wait: there is something to read
+    wl_display_dispatch(self->m_clientEnd.get()); // does not block, because there is something to read
     wl_display_flush(self->m_clientEnd.get());
     return 0;
 }
@@ -122,7 +122,7 @@ void PictureClient::s_OnGlobal(void* data, wl_registry* registry, uint32_t name,
 
 void PictureClient::m_MakeBuffer()
 {
-    // No exception: what called this is the Wayland library.
+    // No exception may leave this function: its caller is the Wayland library.
     const FileDescriptor file = FileOf(m_draw(m_width, m_height));
     if (!file)
     {

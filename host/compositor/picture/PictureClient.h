@@ -36,7 +36,7 @@ public:
     PictureClient(const PictureClient&) = delete;
     PictureClient& operator=(const PictureClient&) = delete;
 
-    /** `ready` is called later, from the event loop; a newer request replaces one that is still under way. */
+    /** `ready` is called later, from the event loop. A new request replaces one that is not ready yet. */
     void Request(int width, int height);
 
 private:

@@ -14,7 +14,7 @@ namespace veskar
 namespace
 {
 
-// libpng reports errors by longjmp, which skips destructors: nothing here but pointers and what the caller owns.
+// libpng reports errors with longjmp, which skips destructors. So nothing in this function has one.
 bool Encode(const Picture& picture, FILE* file)
 {
     png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
@@ -25,7 +25,7 @@ bool Encode(const Picture& picture, FILE* file)
         return false;
     }
     png_init_io(png, file);
-    // The compositor stands still meanwhile: speed matters more than size.
+    // The compositor is blocked while this runs, so speed matters more than size.
     png_set_compression_level(png, 1);
     png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_SUB);
     png_set_IHDR(png, info, picture.width, picture.height, 8, PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,

@@ -16,7 +16,10 @@ struct Picture
     std::vector<uint32_t> pixels;
 };
 
-/** Written beside `path`, then renamed, so that a file under that name is always complete. Returns what went wrong. */
+/**
+ * Writes a temporary file and renames it to `path`, so that a file at `path` is always complete. Returns an error
+ * message, or an empty text on success.
+ */
 std::string WritePng(const Picture& picture, const std::string& path);
 
 } // namespace veskar

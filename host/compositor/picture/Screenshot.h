@@ -14,7 +14,7 @@ namespace veskar
 class Screenshots
 {
 public:
-    /** Called once, with what went wrong or an empty text. */
+    /** Called once, with an error message, or with an empty text on success. */
     using Done = std::function<void(const std::string& error)>;
 
     explicit Screenshots(weston_compositor* compositor) : m_compositor(compositor) {}
@@ -23,7 +23,7 @@ public:
     Screenshots(const Screenshots&) = delete;
     Screenshots& operator=(const Screenshots&) = delete;
 
-    /** Draws a frame and writes it; the file appears under its name when it is complete. */
+    /** Draws a frame and writes it to `path`. The file appears there only when it is complete. */
     void Take(const std::string& path, Done done);
 
 private:

@@ -9,7 +9,7 @@ namespace veskar
 namespace
 {
 
-/** All of the named keys, or the first name that is none in `unknown`. */
+/** The named keys. If one of the names is unknown: no keys, and that name in `unknown`. */
 std::vector<const Key*> KeysIn(const std::string& words, std::string& unknown)
 {
     std::vector<const Key*> keys;
@@ -27,7 +27,7 @@ std::vector<const Key*> KeysIn(const std::string& words, std::string& unknown)
     return keys;
 }
 
-/** A command that does something with each of the keys that it names, or with none when one name is unknown. */
+/** A command that runs `action` for each key that it names, or for none of them when one name is unknown. */
 RemoteCommand ForEachKey(std::function<void(const Key&)> action)
 {
     return [action = std::move(action)](const std::string& words, const RemoteAnswer& answer)

@@ -2,8 +2,8 @@
  * What the remote control's socket understands:
  *
  *     press KEY…   each key down and up        keys    every key's platform name
- *     down KEY     hold it                     grabs   for each grab: key, mode, process id/program
- *     up KEY       let it go                   shot PATH   the screen as a PNG; answered when the file is complete
+ *     down KEY     press it                    grabs   for each grab: key, mode, process id/program
+ *     up KEY       release it                  shot PATH   the screen as a PNG; answered when the file is complete
  */
 #pragma once
 
@@ -15,7 +15,7 @@
 namespace veskar
 {
 
-/** Everything given must outlive the socket. */
+/** All arguments must outlive the socket. */
 void SetRemoteCommands(RemoteSocket& socket, Seat& seat, const GrabTable& grabs, Screenshots& screenshots);
 
 } // namespace veskar

@@ -57,7 +57,7 @@ std::string TextOf(const RemoteReply& reply)
 
 } // namespace
 
-/** One client. It lives until the client hangs up, and until the answer to its last command has come. */
+/** One client's connection. It lives until the client disconnects; an answer that comes later is dropped. */
 class RemoteSocket::Connection : public std::enable_shared_from_this<Connection>
 {
 public:
@@ -79,7 +79,7 @@ public:
     {
         m_busy = false;
         const std::string text = TextOf(reply);
-        // No reply is as long as a socket's buffer: one that does not fit has no reader.
+        // Every reply is shorter than a socket's buffer, so the client of one that does not fit has stopped reading.
         if (!m_client || send(m_client.Get(), text.data(), text.size(), MSG_DONTWAIT | MSG_NOSIGNAL) !=
                              static_cast<ssize_t>(text.size()))
         {
@@ -144,7 +144,7 @@ private:
     EventSource m_source;
     std::string m_received;
     bool m_busy = false;    // a command is being answered
-    bool m_running = false; // runLines is on the stack
+    bool m_running = false; // m_RunLines is on the stack
 };
 
 RemoteSocket::RemoteSocket(wl_event_loop* loop, const std::string& path)

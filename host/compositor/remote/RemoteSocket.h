@@ -2,7 +2,7 @@
  * The socket of the remote control: commands in, replies out, one line each.
  *
  * A reply is any number of lines that start with a space, then a line "ok" or "error WHAT". A client may send its next
- * command before the reply has come; it is taken up after that.
+ * command before the reply to the last one. Commands of one client are executed one after the other.
  */
 #pragma once
 
@@ -21,10 +21,10 @@ namespace veskar
 struct RemoteReply
 {
     std::vector<std::string> lines;
-    std::string error; // empty: all is well
+    std::string error; // empty when the command succeeded
 };
 
-/** To be called once, at once or later. The client may be gone by then. */
+/** Must be called once, immediately or later. Does nothing when the client has disconnected. */
 using RemoteAnswer = std::function<void(const RemoteReply&)>;
 
 /** `words` is what follows the command's name in its line. */
@@ -33,7 +33,7 @@ using RemoteCommand = std::function<void(const std::string& words, const RemoteA
 class RemoteSocket
 {
 public:
-    /** Throws std::system_error when it cannot listen at `path`. A socket that is left there is replaced. */
+    /** Replaces a socket that is left at `path`. Throws std::system_error when it cannot listen there. */
     RemoteSocket(wl_event_loop* loop, const std::string& path);
     ~RemoteSocket();
 

@@ -15,7 +15,7 @@ namespace
 struct Typed
 {
     uint32_t code;
-    const char* label; // null: its line in the help is another's
+    const char* label; // null: the help has no line of its own for it
     const char* key;
 };
 

@@ -1,4 +1,4 @@
-/** A desktop's keyboard in the part of the remote control: which typed key stands for which key of the remote. */
+/** A desktop's keyboard as the remote control: which of its keys stands for which key of the remote control. */
 #pragma once
 
 #include "KeyTable.h"
@@ -8,10 +8,10 @@
 namespace veskar
 {
 
-/** The remote's key for one of Linux' input event codes, as the backend reports it; null for one that means nothing. */
+/** The remote control's key for a Linux input event code, as the backend reports it; null when there is none. */
 const Key* DeskKey(uint32_t code);
 
-/** One line for each typed key, for a person who sits before the window. */
+/** Help for the person at the keyboard: one line for each key. */
 std::string DeskKeyboardHelp();
 
 } // namespace veskar

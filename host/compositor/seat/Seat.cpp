@@ -74,7 +74,7 @@ void Seat::KeepKeymap()
     {
         return;
     }
-    // While keys are down the compositor puts a new keymap off, and the key that is just coming would mean another.
+    // The compositor delays a new keymap while keys are down, and would read the current key with the wrong one.
     const size_t pressed = board->keys.size;
     board->keys.size = 0;
     weston_seat_update_keymap(m_seat, m_keymap.get());

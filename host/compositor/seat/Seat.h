@@ -13,22 +13,26 @@ namespace veskar
 class Seat
 {
 public:
-    /** Takes the backend's first seat where it has one (the shell can handle one only) and makes one where not. */
+    /**
+     * Uses the backend's first seat if there is one, because the shell handles only one; creates a seat otherwise.
+     * Throws std::runtime_error.
+     */
     explicit Seat(weston_compositor* compositor);
     ~Seat();
 
     Seat(const Seat&) = delete;
     Seat& operator=(const Seat&) = delete;
 
-    /** Null once the backend has taken its seat away. */
+    /** Null after the backend has removed its seat. */
     weston_keyboard* Keyboard() const;
 
-    /** The backend shows a window on a desktop, and a person can type there. */
+    /** True when the TV is a window on a desktop, where a person can type. */
     bool HasRealKeyboard() const { return !m_own; }
 
-    /** The backend replaces the keymap whenever the desktop's changes; ours comes back here. */
+    /** Restores the remote control's keymap, which the backend replaces whenever the desktop's keymap changes. */
     void KeepKeymap();
 
+    /** Sends a key event as the remote control does. Does nothing while there is no keyboard. */
     void Inject(const Key& key, wl_keyboard_key_state state);
 
 private:

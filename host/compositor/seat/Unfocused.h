@@ -1,4 +1,4 @@
-/** The keyboards of a client while another one has the focus: it hears keys without taking the focus from that one. */
+/** Sends keys to a client that does not have the focus, without taking the focus from the client that has it. */
 #pragma once
 
 #include "KeyTable.h"
@@ -7,7 +7,7 @@
 namespace veskar
 {
 
-/** The toolkit drops a key that comes to a window which was never told that it has the focus. */
+/** Sends the surface's client a focus event. The toolkit drops every key for a window that never got one. */
 void TellOfFocus(weston_keyboard* keyboard, weston_surface* surface);
 
 void SendUnfocused(weston_keyboard* keyboard, const timespec* time, const Key& key, wl_keyboard_key_state state,

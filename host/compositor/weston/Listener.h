@@ -1,8 +1,8 @@
 /**
- * One handler of a Wayland signal, linked for exactly as long as this object lives.
+ * Connects one handler to a Wayland signal for the lifetime of this object.
  *
- * A handler may destroy its own Listener. The handler of a "destroyed" signal must: the signal's list dies with its
- * owner, and a Listener that outlives it would unlink itself from freed memory.
+ * A handler may destroy its own Listener. The handler of a "destroyed" signal must do so: the signal is part of the
+ * object that is being destroyed, and a Listener that outlives it would unlink itself from freed memory.
  */
 #pragma once
 
@@ -33,13 +33,14 @@ public:
 private:
     struct Hook
     {
-        wl_listener listener; // first: its address is the hook's
+        wl_listener listener; // must be first: its address is also the hook's
         Listener* self;
     };
 
     static void s_Notify(wl_listener* listener, void* data)
     {
-        const Handler handler = reinterpret_cast<Hook*>(listener)->self->m_handler; // it may destroy the Listener
+        // A copy, because the handler may destroy the Listener.
+        const Handler handler = reinterpret_cast<Hook*>(listener)->self->m_handler;
         handler(data);
     }
 

@@ -12,7 +12,7 @@ Overlays::Overlays(weston_compositor* compositor, const Seat& seat, const Window
 {
 }
 
-/** The shell gives every window that appears the focus. */
+/** The shell gives the focus to every window that appears; an overlay must not keep it. */
 void Overlays::m_OnActivated(weston_surface* surface)
 {
     if (!IsOverlay(surface) || m_seat.Keyboard() == nullptr)
@@ -39,7 +39,7 @@ void Overlays::m_StayOver(weston_surface* screen)
         weston_desktop_surface_close(weston_surface_get_desktop_surface(m_overlay.Get()));
         return;
     }
-    // A window is hidden by a commit without a picture, and the library tells of that in no other way.
+    // A client hides a window by a commit without a picture. The library has no other signal for that.
     m_screenCommitted.emplace(screen->commit_signal,
                               [this, screen](void*)
                               {

@@ -1,8 +1,8 @@
 /**
- * Windows that lie over a screen and serve it, as a number pad does.
+ * Windows that lie over a screen and serve it, such as the number pad.
  *
- * An overlay takes no keyboard focus: what it does not grab goes to the screen below. It is asked to close when there
- * is no screen below it any more, however that one has ended.
+ * An overlay does not get the keyboard focus, so keys that it does not grab go to the screen below. It is asked to
+ * close when no screen is left below it, for whatever reason.
  */
 #pragma once
 
@@ -18,7 +18,7 @@ namespace veskar
 class Overlays
 {
 public:
-    /** Everything given must outlive this object. */
+    /** All arguments must outlive this object. */
     Overlays(weston_compositor* compositor, const Seat& seat, const WindowStack& windows);
 
     Overlays(const Overlays&) = delete;

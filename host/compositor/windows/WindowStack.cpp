@@ -52,7 +52,7 @@ WindowStack::WindowStack(weston_compositor* compositor) : m_compositor(composito
 
 weston_surface* WindowStack::Topmost(const std::function<bool(weston_surface*)>& accepts) const
 {
-    // Layers and their views are in order from the top; the compositor's own view list is as old as the last frame.
+    // Layers and their views are in order from the top. The compositor's own view list is updated once a frame only.
     weston_layer* layer;
     wl_list_for_each(layer, &m_compositor->layer_list, link)
     {

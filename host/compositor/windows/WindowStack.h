@@ -1,4 +1,4 @@
-/** The windows on the screen, one above the other. */
+/** The order of the windows on the display. */
 #pragma once
 
 #include "weston/Weston.h"
@@ -8,20 +8,20 @@
 namespace veskar
 {
 
-/** A window over the screens rather than one of them (see Overlays.h); false for null. */
+/** True for a window that lies over the screens and is none of them (see Overlays.h). False for null. */
 bool IsOverlay(weston_surface* surface);
 
-/** The screens: overlays are no part of it. */
+/** Overlays are not included. */
 class WindowStack
 {
 public:
     /**
-     * The shell puts every window but the active one on a layer below the background. A TV's windows lie one above
-     * the other, so that layer is moved to just below the active window's.
+     * The shell puts every window except the active one on a layer below the background. On a TV lower windows stay
+     * visible, so this moves that layer to just below the active window's.
      */
     explicit WindowStack(weston_compositor* compositor);
 
-    /** The topmost mapped window that `accepts`; null when there is none. */
+    /** The topmost mapped window for which `accepts` is true, or null. */
     weston_surface* Topmost(const std::function<bool(weston_surface*)>& accepts) const;
 
     weston_surface* Topmost() const;
