@@ -11,8 +11,8 @@ namespace veskar
 {
 
 /**
- * What a request may hold at most, so that a faulty sender cannot stop the screen: bytes of a text, elements of an
- * array and keys, and bytes of all keys and values together. A short text counts for what it takes in memory.
+ * The limits of a request, so that a faulty sender cannot block the screen: bytes of a text, elements of an array and
+ * keys, and bytes of all keys and values together. A short text counts with the memory that it takes.
  */
 constexpr size_t LONGEST_TEXT = 256UL * 1024;
 constexpr size_t MOST_ELEMENTS = 20'000;
@@ -22,8 +22,8 @@ constexpr size_t SMALLEST_TEXT = sizeof(std::string);
 constexpr const char* REFUSED_ERROR = "org.tizen.Application1.Error.Refused";
 
 /**
- * Reads the arguments of an AppControl call into `request`; of a key given twice the last value stays. Returns why the
- * call is refused, naming the key, or nothing.
+ * Reads the arguments of an AppControl call into `request`. If a key comes twice, the last value counts. Returns why
+ * the call is refused, with the key's name, or nothing on success.
  */
 std::optional<std::string> DecodeAppControl(const Eldbus_Message* call, app_control_s& request);
 

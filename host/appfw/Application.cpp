@@ -20,7 +20,7 @@ namespace veskar
 namespace
 {
 
-/** An id that leaves room for the name under which a process of it leaves. */
+/** True for an id whose name for a leaving process is not too long either. */
 bool CanRunAs(const std::string& id)
 {
     return IsApplicationId(id.c_str()) && IsApplicationId(Applications::LeavingNameOf(id).c_str());
@@ -28,8 +28,8 @@ bool CanRunAs(const std::string& id)
 
 bool StartToolkit(int argc, char** argv)
 {
-    // Its drawing thread is waited for 0.2 s at most before a window's memory goes: on a busy machine that is too
-    // short, and the thread then ends the process. Without the thread each picture is drawn on the main loop.
+    // The toolkit waits 0.2 s at most for its drawing thread before it frees a window's memory. On a busy machine that
+    // is too short, and the thread then crashes. Without that thread each picture is drawn on the main loop.
     setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 0);
     return elm_init(argc, argv) > 0;
 }
@@ -44,7 +44,7 @@ void LoadTheme()
         APPFW_ERROR("the TV's theme %s is missing: the screens take the toolkit's own look", theme);
         return;
     }
-    // An overlay, not an extension: it replaces also the styles that the toolkit's theme has.
+    // An overlay, not an extension, because it also replaces styles that the toolkit's theme has.
     elm_theme_overlay_add(nullptr, theme);
 }
 
@@ -52,7 +52,7 @@ void LoadTheme()
 
 Application& Application::Instance()
 {
-    // Never destroyed: event handlers and threads of the application may still name it while the process exits.
+    // Never destroyed: event handlers and threads of the application may still use it while the process exits.
     static auto* application = new Application;
     return *application;
 }
@@ -84,7 +84,7 @@ int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& c
     m_names = std::make_unique<BusNames>(m_connection.get());
     m_outgoing = std::make_unique<OutgoingCalls>();
     m_queue = std::make_unique<LifecycleQueue>([this](LifecycleEvent& event) { m_Deliver(event); });
-    // Before the name: a process that the bus has started gets its first request ahead of the answer about the name.
+    // Before the name is requested: a process that the bus started gets its first request before that answer.
     m_object = std::make_unique<ApplicationObject>(
         m_connection.get(), m_id, [this](LifecycleEvent event) { m_queue->AddCall(std::move(event)); });
 
@@ -194,7 +194,7 @@ void Application::m_TellLanguageChanged()
 {
     m_languageChangeQueued = false;
     app_event_info info = {APP_EVENT_LANGUAGE_CHANGED};
-    // By index: a callback may add a handler.
+    // By index, because a callback may add a handler.
     for (size_t i = 0; i < m_eventHandlers.size(); ++i)
     {
         const auto& handler = *m_eventHandlers[i];
@@ -205,7 +205,7 @@ void Application::m_TellLanguageChanged()
     }
 }
 
-/** Writing a file is several changes of it; one event that comes after the first of them reads them all. */
+/** One write of the file is reported as several changes. A single event, after the first of them, is enough. */
 void Application::m_LanguageFileChanged()
 {
     if (!m_languageChangeQueued)

@@ -1,4 +1,4 @@
-/** The running application: its place on the bus, its life and what it is told. */
+/** The running application: its name on the bus, its lifecycle and its callbacks. */
 #pragma once
 
 #include <functional>
@@ -32,25 +32,25 @@ struct app_event_info
 namespace veskar
 {
 
-/** The one application of the process. Main thread. */
+/** The only application of the process. Main thread only. */
 class Application
 {
 public:
     static Application& Instance();
 
-    /** As ui_app_main, with a callback record that is there. */
+    /** As ui_app_main; the callback record must not be null. */
     int Run(int argc, char** argv, const ui_app_lifecycle_callback_s& callbacks, void* userData);
 
-    /** The handler lives as long as the application. */
+    /** The handler exists as long as the application. */
     app_event_handler_h AddEventHandler(const app_event_handler& handler);
 
     /** True from the start of Run to its end, unless the bus ends before. */
     bool HasBus() const { return m_outgoing && !m_bus->IsGone(); }
 
-    /** Sends a call without waiting; at its end the process stays until the other side has it. False: no bus. */
+    /** Sends a call without waiting. The process does not end before the other side has it. False without a bus. */
     bool Send(BusMessage call, OutgoingCalls::Done done);
 
-    /** Both answer from what the bus has told; false without a bus. */
+    /** Both answer from what is known already, without waiting. False without a bus. */
     bool IsRunning(const std::string& appId) const { return m_names && m_names->HasOwner(appId); }
     bool CanReach(const std::string& appId) const { return m_names && m_names->IsReachable(appId); }
 
@@ -73,7 +73,7 @@ private:
     std::vector<std::unique_ptr<app_event_handler>> m_eventHandlers;
     bool m_languageChangeQueued = false;
 
-    // There while Run runs, in the order in which they need each other.
+    // These exist during Run. Each may use those above it.
     BusConnection m_connection;
     std::unique_ptr<BusWatch> m_bus;
     std::unique_ptr<BusNames> m_names;

@@ -1,4 +1,4 @@
-/** The application on the bus: the object that its callers see. */
+/** The application's object on the bus. */
 #pragma once
 
 #include <functional>
@@ -10,8 +10,8 @@ namespace veskar
 {
 
 /**
- * Checks each call and hands it on as an event that carries the call; the reply is sent by whoever deals with the
- * event. What cannot be taken is refused at once.
+ * Checks each call and passes it on as an event; whoever handles the event sends the reply. An invalid call is refused
+ * immediately.
  */
 class ApplicationObject
 {

@@ -7,7 +7,7 @@ namespace veskar
 
 BusNames::BusNames(Eldbus_Connection* connection) : m_connection(connection)
 {
-    // The changes first, so that none falls between the list and them.
+    // Subscribe before asking for the list, so that no change is missed in between.
     m_ownerChanges = eldbus_signal_handler_add(m_connection, ELDBUS_FDO_BUS, ELDBUS_FDO_PATH, ELDBUS_FDO_INTERFACE,
                                                "NameOwnerChanged", s_OnOwnerChanged, this);
     m_Ask("ListNames", m_owned);

@@ -1,4 +1,4 @@
-/** Who is on the bus, as the application last heard: questions about it never wait for the bus daemon. */
+/** Which names are on the bus, as last reported. Queries never wait for the bus daemon. */
 #pragma once
 
 #include <set>
@@ -10,8 +10,8 @@ namespace veskar
 {
 
 /**
- * Keeps the names that have an owner, and those for which the bus can start one. The lists are asked for when this is
- * made; they are there before the answer to any question asked later over the same connection. Main thread.
+ * Keeps the names that have an owner and the names for which the bus can start one. The constructor requests both
+ * lists; they arrive before the reply to any later call on the same connection. Main thread only.
  */
 class BusNames
 {

@@ -1,4 +1,4 @@
-/** Whether the TV's bus is still there. */
+/** Knows whether the bus is still there. */
 #pragma once
 
 #include "Bus.h"
@@ -7,8 +7,8 @@ namespace veskar
 {
 
 /**
- * A bus that dies answers nothing any more, not even with an error: whoever waits for a reply has to look here too.
- * The library itself asks the main loop to end, as for a signal. Main thread.
+ * A call on a dead bus gets no reply, not even an error, so whoever waits for a reply has to check here too. When the
+ * bus dies, the library itself tells the main loop to end. Main thread only.
  */
 class BusWatch
 {

@@ -13,7 +13,7 @@ namespace veskar
 namespace
 {
 
-/** Seconds in which a busy TV starts any program that a last message goes to; no hung one keeps the process longer. */
+/** Seconds. Enough for a busy TV to start the program that a last message goes to; then the process ends anyway. */
 constexpr double LONGEST_FAREWELL = 10;
 
 } // namespace
@@ -27,7 +27,7 @@ Departure::Departure(Eldbus_Connection* connection, const BusWatch& bus, Lifecyc
 
 void Departure::HandOver(OwnName& name)
 {
-    // Before the id is given back: the next process asks for it as soon as it owns the id.
+    // Before the id is released, because the next process asks for it as soon as it owns the id.
     const Leaving leaving(m_connection, m_bus, m_id,
                           [this](const std::string& successor) { m_PassOnCalls(successor); });
     name.Release();

@@ -1,4 +1,4 @@
-/** The end of a process of the application: nothing that has reached it, and nothing that it has sent, is lost. */
+/** Ends a process of the application without losing what has reached it or what it has sent. */
 #pragma once
 
 #include <functional>
@@ -14,22 +14,22 @@
 namespace veskar
 {
 
-/** Both ways out turn the main loop, and return when all that was sent has arrived, or took too long. Main thread. */
+/** Both operations run the main loop until everything that was sent has arrived or takes too long. Main thread only. */
 class Departure
 {
 public:
-    /** Everything given outlives this object. */
+    /** All arguments must outlive this object. */
     Departure(Eldbus_Connection* connection, const BusWatch& bus, LifecycleQueue& queue, OutgoingCalls& outgoing,
               std::string appId);
     Departure(const Departure&) = delete;
     Departure& operator=(const Departure&) = delete;
-    /** Gives up what is still under way. */
+    /** Drops calls that have no reply yet. */
     ~Departure() { m_outgoing.GiveUp(); }
 
-    /** Requests that were not delivered go to the next process, and its replies to who asked. */
+    /** Passes requests that were not delivered to the next process, and its replies to their senders. */
     void HandOver(OwnName& name);
 
-    /** Requests are refused, with the reason. */
+    /** Refuses requests that were not delivered, with this reason. */
     void Refuse(OwnName& name, const char* why);
 
 private:
@@ -37,7 +37,7 @@ private:
     void m_PassOnCalls(const std::string& successor);
     void m_PassOn(const LifecycleEvent& event, const std::string& successor);
     void m_RefuseCalls(const char* name, const char* why);
-    /** The calls that are no requests have nothing to wait for any more. */
+    /** Calls that are not requests are simply replied to. */
     void m_EmptyQueue(const std::function<void(const LifecycleEvent& request)>& handle);
     bool m_Send(BusMessage call, OutgoingCalls::Done done);
     void m_AwaitOutgoing();

@@ -13,7 +13,7 @@ namespace
 
 constexpr const char* OWNER_KEY = "owner";
 
-/** In milliseconds. A process that leaves does nothing else; one that takes longer hangs. */
+/** In milliseconds. A leaving process does nothing else, so one that takes longer hangs. */
 constexpr double LONGEST_ANSWER = 2000;
 
 /** Who has answered. */

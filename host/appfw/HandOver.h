@@ -1,10 +1,9 @@
 /**
- * From one process of the application to the next: what reached the first one too late is older than all that the bus
- * gives to the next one, and comes first.
+ * The hand-over of calls from a leaving process of the application to the next one. Calls that reached the leaving
+ * process too late are older than all calls that the bus gives to the next one, so they must be handled first.
  *
- * The bus knows the order of its messages, the two processes do not. So the next one, once it owns the id, asks the one
- * that leaves for what it holds and begins with nothing before the answer; the calls are sent to it alone, ahead of
- * that answer.
+ * When the next process owns the id, it asks the leaving process for the calls that it holds, and handles nothing until
+ * the reply. The leaving process sends those calls to the next process only, before the reply.
  */
 #pragma once
 
@@ -19,19 +18,20 @@ namespace veskar
 {
 
 /**
- * The side of the one that leaves; it is asked while this lives. Of several that leave, only the latest one can hold
- * anything: it has asked those before it. Making and destroying it turn the main loop. Main thread.
+ * The leaving process's side. It can be asked while this object exists. If several processes are leaving, only the last
+ * one can hold calls, because it has asked those before it. Constructor and destructor run the main loop. Main thread
+ * only.
  */
 class Leaving
 {
 public:
-    /** To send all that is held to the unique name of the next process. */
+    /** Must send all calls that are held to `successor`, the unique name of the next process. */
     using Asked = std::function<void(const std::string& successor)>;
 
     Leaving(Eldbus_Connection* connection, const BusWatch& bus, const std::string& appId, Asked asked);
     Leaving(const Leaving&) = delete;
     Leaving& operator=(const Leaving&) = delete;
-    /** On return everybody who has asked has the answer: nobody waits for the rest of this process. */
+    /** Returns when everyone who asked has the reply, so nobody waits for this process any more. */
     ~Leaving();
 
 private:
@@ -43,8 +43,9 @@ private:
 };
 
 /**
- * The side of the next one: asks, waits with the main loop going on, for two seconds at most, and returns the unique
- * name of the process whose calls have all arrived then; empty when none leaves or it does not answer.
+ * The next process's side. Asks and runs the main loop until the reply, for two seconds at most. Returns the unique
+ * name of the leaving process, whose calls have all arrived then. Empty when no process is leaving or it does not
+ * reply.
  */
 std::string TakeOver(Eldbus_Connection* connection, const BusWatch& bus, const std::string& appId);
 

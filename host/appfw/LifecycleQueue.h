@@ -1,4 +1,4 @@
-/** What is to be told to the application, one thing in each turn of the main loop. */
+/** The events for the application; one is delivered in each turn of the main loop. */
 #pragma once
 
 #include <deque>
@@ -27,21 +27,21 @@ enum class LifecycleKind
 struct LifecycleEvent
 {
     LifecycleKind kind;
-    /** What a request asks for; null for the other kinds. */
+    /** The data of a request; null for the other kinds. */
     std::unique_ptr<app_control_s> request;
-    /** The call to reply to once the event is delivered; null where nobody waits. */
+    /** The call to reply to when the event has been delivered; null when nobody waits. */
     BusMessage call;
 };
 
 /**
- * Two lines of events. What the application's own window did comes first, in its order: that is the consequence of
- * what was delivered before, and a later request must not overtake it. Calls from the bus come next, in theirs.
+ * Two queues. Events of the application's own window are delivered first, in their order: they are the result of what
+ * was delivered before, and a later request must not overtake them. Calls from the bus follow, in their order.
  *
- * The one exception is the start: the request that started the process comes before the resume of the window that the
- * create callback has shown.
+ * There is one exception, at the start: the request that started the process is delivered before the resume of the
+ * window that the create callback has shown.
  *
- * Events are delivered by a timer, at the beginning of a turn: in the turn in which the loop was told to end, nothing
- * is delivered any more, and what is left can be taken out for the next process.
+ * A timer delivers events at the beginning of a turn. So after the loop was told to end nothing more is delivered, and
+ * the remaining calls can be taken out for the next process.
  */
 class LifecycleQueue
 {
@@ -56,16 +56,16 @@ public:
     void AddWindowEvent(LifecycleKind kind);
     void AddCall(LifecycleEvent event);
 
-    /** From now on events are delivered, until Stop; what is held already, first. */
+    /** Delivers what is held already and what is added, until Stop. Never from within this call. */
     void Start();
     void Stop();
 
-    /** Puts the calls of that sender before all others; each kind keeps its order. */
+    /** Moves the calls of that sender before all others. Otherwise their order stays. */
     void PutFirst(const std::string& sender);
 
     bool HoldsRequest() const;
 
-    /** Takes out the calls that were not delivered, one at a time. */
+    /** Removes and returns the next call that was not delivered; nothing when there is none. */
     std::optional<LifecycleEvent> TakeCall();
 
 private:

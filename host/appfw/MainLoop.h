@@ -1,4 +1,4 @@
-/** Waiting on the main thread while the main loop goes on. */
+/** Waits on the main thread while the main loop keeps running. */
 #pragma once
 
 #include <Ecore.h>
@@ -7,15 +7,15 @@ namespace veskar
 {
 
 /**
- * To be called by what makes the condition of a TurnMainLoopUntil true: timers and messages of the bus are dealt with
- * just before the loop goes to sleep, and this keeps it from doing so.
+ * Must be called by the code that makes the condition of a TurnMainLoopUntil true. Timers and bus messages are handled
+ * just before the loop goes to sleep; this keeps it awake, so that the condition is checked.
  */
 inline void WakeMainLoop()
 {
     ecore_job_add([](void*) {}, nullptr);
 }
 
-/** Not for use inside an application's callback: whatever the loop brings is dealt with meanwhile. */
+/** Not for use inside an application's callback, because the loop handles everything that arrives meanwhile. */
 template <typename Done>
 void TurnMainLoopUntil(Done done)
 {
@@ -25,7 +25,7 @@ void TurnMainLoopUntil(Done done)
     }
 }
 
-/** The same, for so many seconds at most; whether it was done then. */
+/** The same, but for so many seconds at most. Returns whether the condition became true. */
 template <typename Done>
 bool TurnMainLoopUntil(Done done, double seconds)
 {

@@ -1,4 +1,4 @@
-/** Calls to the TV's other sides that nobody waits for, and that must get there even when the process is ending. */
+/** Calls that nobody waits for, but that must arrive even if the process is ending. */
 #pragma once
 
 #include <functional>
@@ -11,13 +11,13 @@ namespace veskar
 {
 
 /**
- * A message to a name that the bus has to start a program for is dropped when its sender leaves meanwhile. So each call
- * is kept until its reply, and the process stays a while for those that are left. Main thread.
+ * The bus drops a message for a program that it is still starting if the sender leaves. So each call is kept until its
+ * reply, and an ending process waits a while for the remaining ones. Main thread only.
  */
 class OutgoingCalls
 {
 public:
-    /** Gets the reply, or the error that stands for it. */
+    /** Called with the reply or with an error. */
     using Done = std::function<void(const Eldbus_Message* reply)>;
 
     OutgoingCalls() = default;
@@ -25,10 +25,10 @@ public:
     OutgoingCalls& operator=(const OutgoingCalls&) = delete;
     ~OutgoingCalls() { GiveUp(); }
 
-    /** False, and `done` is not called, when the connection is dead. */
+    /** Returns false when the connection is dead; `done` is not called then. */
     bool Send(Eldbus_Connection* connection, BusMessage call, Done done);
 
-    /** Forgets what is still under way: its `done` is not called any more. */
+    /** Drops all calls without a reply. Their `done` is not called. */
     void GiveUp();
 
     bool Empty() const { return m_calls.empty(); }
@@ -46,7 +46,7 @@ private:
     std::list<Call> m_calls;
 };
 
-/** Says in the log what came instead of the callee's reply; false where it is a reply. */
+/** Logs an error that came instead of the callee's reply. Returns false for a reply. */
 bool LogRefusal(const Eldbus_Message* reply, const std::string& callee);
 
 } // namespace veskar

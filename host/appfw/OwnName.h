@@ -1,4 +1,4 @@
-/** A name of the application on the bus: the owner of its id is the running instance. */
+/** A name of the application on the bus. The owner of the application's id is the running instance. */
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 namespace veskar
 {
 
-/** Both operations wait for the bus daemon with the main loop going on, until the bus is gone. */
+/** All operations run the main loop until the bus daemon has replied or the bus is gone. */
 class OwnName
 {
 public:
@@ -19,15 +19,15 @@ public:
     {
     }
 
-    /** False when another process owns it, or the bus refuses. */
+    /** Returns false when another process owns the name or the bus refuses. */
     bool Request();
 
-    /** The same, but an owner that has requested it in this way too gives it up. */
+    /** The same, but takes the name from an owner that has also requested it with this function. */
     bool RequestFromAny();
 
     /**
-     * On return every call that the daemon has sent to this process has been dispatched; the next one goes to, and
-     * starts, the next process.
+     * Returns when every call that the daemon has sent to this process has been dispatched. The next call starts the
+     * next process.
      */
     void Release();
 

@@ -7,7 +7,7 @@
 namespace veskar
 {
 
-/** Nothing is sent for a null call, for which nobody waits, and where the bus is gone. Main thread. */
+/** Sends nothing for a null call, for which nobody waits, or when the bus is gone. Main thread only. */
 class Replies
 {
 public:

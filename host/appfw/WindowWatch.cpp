@@ -72,7 +72,7 @@ void WindowWatch::m_SetShown(bool shown)
         m_redraw = ecore_timer_add(0, s_OnRedraw, this);
     }
     m_StayOnScreen();
-    // The toolkit tells of each call, also when it changes nothing.
+    // The toolkit reports each call, even when it changes nothing.
     if (shown != m_shown)
     {
         m_shown = shown;
@@ -128,8 +128,9 @@ void WindowWatch::s_OnDeleted(void* data, Evas*, Evas_Object*, void*)
 }
 
 /**
- * A window that was hidden and shown again stays invisible and deaf by itself: the toolkit draws nothing until the
- * compositor has answered for the last picture before the hiding, which it never does. Drawing by hand breaks the wait.
+ * Without this, a window that was hidden and shown again would stay invisible and get no keys: the toolkit draws
+ * nothing until the compositor has acknowledged the last picture before the window was hidden, which never happens.
+ * Drawing explicitly ends that wait.
  */
 Eina_Bool WindowWatch::s_OnRedraw(void* data)
 {
@@ -142,7 +143,7 @@ Eina_Bool WindowWatch::s_OnRedraw(void* data)
         int height = 0;
         evas_output_size_get(canvas, &width, &height);
         evas_damage_rectangle_add(canvas, 0, 0, width, height);
-        // Drawing by hand does not wait for the rest of the main loop, which is when all of a screen has its place.
+        // An explicit drawing does not wait until the main loop has laid out the whole screen.
         evas_smart_objects_calculate(canvas);
         edje_message_signal_process();
         ecore_evas_manual_render(CanvasOf(watch->m_window));

@@ -1,7 +1,7 @@
 /**
- * The application's own window: when it is shown and hidden, that it is drawn again when it comes back, and that it
- * stays on the screen where one callback hides it and shows it again: else the programme would flash up between two
- * screens.
+ * Watches the application's own window: reports when it is shown and hidden, and draws it again when it is shown again.
+ * A window that one callback hides and shows again stays on the screen, because otherwise the programme behind it would
+ * be seen for a moment between two screens.
  */
 #pragma once
 
@@ -19,7 +19,7 @@ public:
     /** Called with true for each show and false for each hide, from within the toolkit call that causes it. */
     using Changed = std::function<void(bool shown)>;
 
-    /** Watches the application's first window, where it has one; one that is visible already counts as shown now. */
+    /** Watches the application's first window, if it has one. A window that is already visible counts as shown now. */
     explicit WindowWatch(Changed changed);
     WindowWatch(const WindowWatch&) = delete;
     WindowWatch& operator=(const WindowWatch&) = delete;
@@ -40,7 +40,7 @@ private:
     Changed m_changed;
     Evas_Object* m_window = nullptr;
     Ecore_Timer* m_redraw = nullptr;
-    Ecore_Job* m_leave = nullptr; // the window is hidden, and not yet for the compositor
+    Ecore_Job* m_leave = nullptr; // set while the window is hidden but the compositor does not know it yet
     bool m_shown = false;
 };
 

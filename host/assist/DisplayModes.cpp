@@ -13,7 +13,7 @@ namespace veskar
 namespace
 {
 
-/** The TV's theme is the one overlay that the application's framework has put onto the toolkit's own. */
+/** The TV's theme is the only overlay; the application framework has put it on the toolkit's theme. */
 std::filesystem::path LoadedTheme()
 {
     const Eina_List* overlays = elm_theme_overlay_list_get(nullptr);
@@ -35,7 +35,7 @@ bool ContainsShownPopup(const Evas_Object* object)
     {
         return true;
     }
-    // Null for what has no members; the list of them would be asked for with an error line.
+    // An iterator is null for an object without members. Asking for their list would write an error line instead.
     const std::unique_ptr<Eina_Iterator, decltype(&eina_iterator_free)> members(evas_object_smart_iterator_new(object),
                                                                                 eina_iterator_free);
     void* member = nullptr;
@@ -49,7 +49,7 @@ bool ContainsShownPopup(const Evas_Object* object)
     return false;
 }
 
-/** A screen is a popup on the window; the window itself may be shown without one. */
+/** A screen is a popup on the window. The window may be shown without a popup. */
 bool IsScreenShown()
 {
     const Evas_Object* window = FirstWindow();
@@ -83,7 +83,7 @@ DisplayModes::DisplayModes() : m_plainTheme(LoadedTheme()), m_theme(m_plainTheme
     m_Apply();
 }
 
-/** The window is hidden between two screens, also where one takes the other's place. */
+/** The window is hidden between two screens, even when one replaces the other. */
 void DisplayModes::m_WatchWindow()
 {
     if (Evas_Object* window = FirstWindow())

@@ -1,4 +1,4 @@
-/** The viewer's display modes, enlarged text and high contrast, as the theme shows them. */
+/** The theme for the viewer's display modes: enlarged text and high contrast. */
 #pragma once
 
 #include "SettingsWatch.h"
@@ -11,9 +11,9 @@ namespace veskar
 {
 
 /**
- * Exchanges the TV's theme for the one made for the modes that are set, at once and with each change of the settings;
- * a screen that is shown keeps its theme, because its widgets would lose the focus, and the exchange waits for its end.
- * The themes lie beside each other: veskar-theme.edj, -large, -contrast, -large-contrast. Main loop only, while the
+ * Replaces the TV's theme by the one for the current modes, immediately and after each change of the settings. While a
+ * screen is shown the theme stays, because the screen's widgets would lose the focus; it is replaced when the screen
+ * ends. All themes are in one folder: veskar-theme.edj, -large, -contrast, -large-contrast. Main loop only, while the
  * toolkit is initialised.
  */
 class DisplayModes

@@ -7,21 +7,21 @@
 namespace veskar
 {
 
-/** A widget, and in a list the row. To be compared only: what it names may be gone by the next look. */
+/** A widget, and in a list its row. Both may be deleted later, so keep them for comparisons only. */
 struct Focused
 {
     Evas_Object* object = nullptr;
     Elm_Object_Item* row = nullptr;
-    /** Of rows that can be ticked. */
+    /** Only for rows that can be ticked; false for everything else. */
     bool ticked = false;
 
     bool SameElement(const Focused& other) const { return object == other.object && row == other.row; }
 };
 
-/** All null where the window or everything in it is without the focus. */
+/** All members are null when neither the window nor anything in it has the focus. */
 Focused FindFocused(const Evas_Object* window);
 
-/** A button's label or a row's cells, as markup; empty where there is nothing to say, or not yet. */
+/** A button's label or a row's cells, as markup. Empty when there is nothing to say, or not yet. */
 std::string TextOf(const Focused& focused);
 
 /** "ticked" or "not ticked", in the language of a locale ("el_GR.UTF-8"); empty for what cannot be ticked. */

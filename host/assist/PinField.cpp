@@ -16,9 +16,9 @@ namespace
 constexpr char FIELD_KEY[] = "veskar_pin_field";
 
 /**
- * The field: one cell for each digit in a row. Holds the digits; the cells know only whether they are filled and whose
- * turn it is. While the number pad is on the screen the focus is seen there, not here. Lives on the field's object as
- * its data and goes with it.
+ * The field: a row with one cell for each digit. It holds the digits; a cell only shows whether it is filled and
+ * whether it is next. While the number pad is on the screen the pad shows the focus, and the field does not. Owned by
+ * the field's object, as its data.
  */
 class PinField
 {
@@ -73,7 +73,7 @@ PinField::PinField(Evas_Object* object, int length, Ea_Pin_Entered_Cb entered)
     evas_object_event_callback_add(m_object, EVAS_CALLBACK_KEY_DOWN, s_OnKey, this);
     evas_object_event_callback_add(m_object, EVAS_CALLBACK_HIDE, s_OnHide, this);
     evas_object_event_callback_add(m_object, EVAS_CALLBACK_DEL, s_OnDeletion, this);
-    // A plain layout tells of its focus in no other way.
+    // A plain layout has no other event for its focus.
     elm_layout_signal_callback_add(m_object, "elm,action,focus", "elm", s_OnFocus, this);
     elm_layout_signal_callback_add(m_object, "elm,action,unfocus", "elm", s_OnUnfocus, this);
     elm_layout_signal_callback_add(m_object, "elm,action,click", "elm", s_OnClick, this);
@@ -85,7 +85,7 @@ void PinField::m_AddCell()
 {
     Evas_Object* cell = elm_layout_add(m_object);
     elm_layout_theme_set(cell, "pin", "digit", "default");
-    // A cell that has taken another theme has forgotten what it showed.
+    // A cell loses what it shows when its theme changes.
     evas_object_smart_callback_add(cell, "theme,changed", s_OnTheme, this);
     elm_layout_box_append(m_object, "veskar.box.digits", cell);
     evas_object_show(cell);
@@ -147,7 +147,7 @@ void PinField::s_OnKey(void* data, Evas*, Evas_Object*, void* event)
     static_cast<PinField*>(data)->m_OnKey(static_cast<Evas_Event_Key_Down*>(event)->key);
 }
 
-/** A field that has gone from the screen may live on for long; its digits must not. */
+/** A hidden field may exist for a long time; its digits must not. */
 void PinField::s_OnHide(void* data, Evas*, Evas_Object*, void*)
 {
     static_cast<PinField*>(data)->Reset();

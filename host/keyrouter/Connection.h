@@ -1,8 +1,8 @@
 /**
- * The connection to the compositor, which the toolkit owns, reads and writes too.
+ * The connection to the compositor. The toolkit owns it, and reads and writes it too.
  *
- * A round trip reads from it. What it finds there for the toolkit lies in the toolkit's queue, unseen until the
- * connection next has data; so each round trip leaves a job in the main loop which hands it over.
+ * A round trip reads from the connection and puts the toolkit's events into the toolkit's queue. The toolkit would look
+ * there only when new data arrives, so each round trip queues a job in the main loop that dispatches them.
  */
 #pragma once
 
@@ -18,7 +18,7 @@ bool RoundTrip(wl_display* display, wl_event_queue* queue);
 /** The same with the connection's default queue, which is the toolkit's. */
 bool RoundTrip(wl_display* display);
 
-/** Sends what is still unsent when the main loop goes on. */
+/** Sends everything that is unsent, from the main loop. */
 void FlushSoon(wl_display* display);
 
 } // namespace veskar

@@ -1,8 +1,8 @@
 /**
  * Gives the toolkit's key events the platform's names.
  *
- * The toolkit names a key by its symbol, and most of the remote control's keys have none that it knows. While this
- * object lives, a filter before all handlers of key events puts the router's name for the key's code in its place.
+ * The toolkit names a key by its symbol, and does not know the symbols of most of the remote control's keys. While this
+ * object exists, a filter runs before all handlers of key events and sets the router's name for the key's code.
  */
 #pragma once
 

@@ -9,8 +9,8 @@ namespace
 {
 
 /**
- * The application's one binding; null without a router, and then every grab fails. Never destroyed: an application need
- * not finalize, and by the time of the exit handlers its connection to the compositor is gone.
+ * The application's only binding. Null without a router; every grab fails then. Never destroyed: an application does
+ * not have to finalize, and its connection to the compositor is closed before the exit handlers run.
  */
 std::unique_ptr<veskar::RouterBinding>& Binding()
 {

@@ -13,7 +13,7 @@ namespace veskar
 namespace
 {
 
-/** Exclusive and topmost are two strengths of one grab; a registration stands beside it. */
+/** Exclusive and topmost are two strengths of one grab. A registration is independent of it. */
 std::optional<int> OtherStrengthOf(int mode)
 {
     switch (mode)
@@ -29,7 +29,7 @@ std::optional<int> OtherStrengthOf(int mode)
 
 tizen_keyrouter* BindOn(wl_event_queue* queue, wl_registry* registry, uint32_t globalName)
 {
-    // What is created through the wrapper starts on its queue: no event can slip into the toolkit's.
+    // An object that is created through the wrapper starts on `queue`, so none of its events reaches the toolkit's.
     auto* wrapper = static_cast<wl_registry*>(wl_proxy_create_wrapper(registry));
     wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(wrapper), queue);
     void* router = wl_registry_bind(wrapper, globalName, &tizen_keyrouter_interface, 1);
@@ -90,7 +90,7 @@ bool RouterBinding::Ungrab(wl_surface* surface, const _KeyList& list)
     }
     if (m_held.size() != heldBefore)
     {
-        // Mostly they are taken again at once. Sent together, there is no moment in which nobody holds them.
+        // Most of them are grabbed again immediately. Sent together, they are never without a holder in between.
         FlushSoon(m_display);
     }
     return allReleased && wl_display_get_error(m_display) == 0;

@@ -1,9 +1,8 @@
 /**
- * An application's binding of the compositor's key router, and what it holds through it.
+ * An application's binding to the compositor's key router, and the keys that it holds there.
  *
- * The binding has an event queue of its own, so that waiting for an answer runs none of the toolkit's handlers. It
- * keeps the set of what is held: whole groups of keys are released and taken at every screen, and only changes are
- * worth the compositor's time.
+ * The binding has its own event queue, so that waiting for an answer runs none of the toolkit's handlers. It remembers
+ * which keys are held: every screen releases and grabs whole groups of keys, and only changes are sent.
  */
 #pragma once
 

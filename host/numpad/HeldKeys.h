@@ -1,4 +1,4 @@
-/** The keys that the pad is moved with, held for its window for as long as this object lives. */
+/** Grabs the keys that move through the pad, for the lifetime of this object. */
 #pragma once
 
 #include <Elementary.h>
@@ -7,8 +7,9 @@ namespace veskar
 {
 
 /**
- * The pad's window has no keyboard focus, and the screen below has these keys registered: holding them exclusively is
- * what brings them here. A key that someone else holds exclusively stays there. Main thread; one at a time.
+ * The pad's window has no keyboard focus and the screen below has registered these keys, so only an exclusive grab
+ * brings them here. A key that another client holds exclusively stays with that client. Main thread only; at most one
+ * object at a time.
  */
 class HeldKeys
 {

@@ -8,7 +8,7 @@ namespace veskar
 namespace
 {
 
-// The pad goes by itself when the screen below goes, and then that screen's request to hide it is still on its way.
+// The pad closes with the screen below. That screen's request to hide the pad may still arrive after that.
 constexpr double IDLE_SECONDS = 1;
 
 } // namespace
@@ -45,7 +45,7 @@ void PadApplication::m_EndSoon()
     m_idle.reset(ecore_timer_add(IDLE_SECONDS, s_OnIdle, this));
 }
 
-/** Not at once: what wants the pad to go may be one of its own callbacks. */
+/** Not immediately: the caller may be one of the pad's own callbacks. */
 void PadApplication::m_HideSoon()
 {
     m_hiding.reset(ecore_job_add(s_HideNow, this));

@@ -17,7 +17,7 @@ Evas_Object* CreateWindow()
 {
     constexpr const char* ID = Applications::NUMBER_PAD;
     Evas_Object* window = elm_win_add(nullptr, ID, ELM_WIN_BASIC);
-    // By its class the compositor knows it for a window that lies over the screens and takes no focus.
+    // The compositor recognises an overlay (a window over the screens, without the focus) by this class.
     ecore_evas_name_class_set(ecore_evas_ecore_evas_get(evas_object_evas_get(window)), ID, ID);
     elm_win_alpha_set(window, EINA_TRUE);
     return window;
@@ -29,7 +29,7 @@ void FillParent(Evas_Object* object)
     evas_object_size_hint_align_set(object, EVAS_HINT_FILL, EVAS_HINT_FILL);
 }
 
-/** Digits keep their order where everything else is mirrored. */
+/** Digits keep their order even in a mirrored user interface. */
 Evas_Object* AddTable(Evas_Object* parent)
 {
     Evas_Object* table = elm_table_add(parent);
@@ -52,7 +52,7 @@ PadWindow::PadWindow(const KeyGrid& keys, std::function<void()> appeared, std::f
 
 PadWindow::~PadWindow()
 {
-    // The toolkit may draw once more before the window is really gone.
+    // The toolkit may draw once more before it deletes the window.
     evas_event_callback_del_full(evas_object_evas_get(Window()), EVAS_CALLBACK_RENDER_POST, s_OnDrawn, this);
 }
 
@@ -101,7 +101,7 @@ void PadWindow::s_OnDrawn(void* data, Evas* canvas, void*)
 {
     auto* self = static_cast<PadWindow*>(data);
     evas_event_callback_del_full(canvas, EVAS_CALLBACK_RENDER_POST, s_OnDrawn, self);
-    ecore_wl2_sync(); // what is drawn has been sent; now the compositor has it, and may not have wanted it
+    ecore_wl2_sync(); // the compositor has the picture after this, and may have closed the window
     if (!self->m_isClosed)
     {
         self->m_appeared();

@@ -26,13 +26,13 @@ void Write(bool shown)
     }
 }
 
-/** Reads what the pad reports until the pad is no more. */
+/** Reads the pad's reports until the pad's process ends. */
 void Guard(int reports)
 {
     prctl(PR_SET_NAME, "numpad-guard");
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
     {
-        std::signal(signal, SIG_IGN); // they come to both processes, and this one has to be the last
+        std::signal(signal, SIG_IGN); // both processes get them, and this one has to end last
     }
     bool shown = false;
     ssize_t count = 0;
@@ -46,7 +46,7 @@ void Guard(int reports)
     }
 }
 
-/** The end to report at; none where there is no guard. */
+/** The socket to the guard; owns nothing when there is no guard. */
 FileDescriptor StartGuard()
 {
     int ends[2];
@@ -92,7 +92,7 @@ void ShownSetting::Set(bool shown)
         return;
     }
     m_shown = shown;
-    // The guard is told first of what it may have to take back, and last of what it need not any more.
+    // If this process is killed between the two steps, the guard must know of a value that has to be reset.
     if (shown)
     {
         m_TellGuard();

@@ -7,13 +7,13 @@ namespace veskar
 {
 
 /**
- * True to the screen also when this process is killed: a second process, which does nothing else, waits for this one's
- * end and sets the value back.
+ * The value stays right even if this process is killed: a second process, the guard, waits for this one's end and
+ * resets the value.
  */
 class ShownSetting
 {
 public:
-    /** To be made while the process has one thread and no toolkit: the second process is a copy of it. */
+    /** Construct it before the process starts a thread or the toolkit, because the guard is a copy of the process. */
     ShownSetting();
     ~ShownSetting();
 
@@ -25,7 +25,7 @@ public:
 private:
     void m_TellGuard() const;
 
-    FileDescriptor m_guard; // a socket whose other end the second process has; it closes with this process
+    FileDescriptor m_guard; // a socket to the guard, which sees it close when this process ends
     bool m_shown = false;
 };
 

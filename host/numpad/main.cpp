@@ -1,6 +1,6 @@
 /**
- * The TV's number pad: an application that a screen asks to show itself ("cmd" = "show", "type" = "number", or
- * "number_zip" for one that can take a digit back) and to go again ("cmd" = "hide").
+ * The TV's number pad, an application. A screen asks it to show itself ("cmd" = "show", "type" = "number", or
+ * "number_zip" for a pad with a backspace key) and to hide ("cmd" = "hide").
  */
 #include "CString.h"
 #include "Log.h"
@@ -17,7 +17,7 @@
 namespace
 {
 
-/** Empty where the request has no such text. */
+/** Empty when the request has no such text. */
 std::string TextOf(app_control_h request, const char* key)
 {
     char* value = nullptr;
@@ -51,7 +51,7 @@ void OnRequest(app_control_h request, void* data)
     const std::string command = TextOf(request, "cmd");
     if (command == "show")
     {
-        // Each time: the process may outlive a pad, and the viewer may have chosen another language since.
+        // Each time, because the viewer may have chosen another language since the last pad.
         elm_config_mirrored_set(ua_UI_orientation_get() == veskar::RIGHT_TO_LEFT ? EINA_TRUE : EINA_FALSE);
         application.Show(TakesDigitsBack(TextOf(request, "type")));
     }
@@ -74,7 +74,7 @@ void OnTerminate(void* data)
 
 int main(int argc, char** argv)
 {
-    setenv("VESKAR_APP_ID", veskar::Applications::NUMBER_PAD, 1); // where the framework looks for its application's id
+    setenv("VESKAR_APP_ID", veskar::Applications::NUMBER_PAD, 1); // the framework reads the application's id from it
     veskar::PadApplication application;
     ui_app_lifecycle_callback_s callbacks{};
     callbacks.create = OnCreate;

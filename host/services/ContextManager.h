@@ -1,4 +1,4 @@
-/** The TV's context manager: is asked to stop a task, and only says so. */
+/** The TV's context manager. It is asked to stop tasks, and only prints that. */
 #pragma once
 
 #include "DeskBus.h"

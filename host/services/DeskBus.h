@@ -1,4 +1,4 @@
-/** The desk's own names on the TV's bus, as the daemon owns them and the tools call them. */
+/** The desk's own names on the TV's bus: the daemon owns them and the tools call them. */
 #pragma once
 
 #include "TvBus.h"
@@ -13,12 +13,12 @@
 namespace veskar
 {
 
-/** A service request as it travels: each value one string or one array of strings. */
+/** A service request on the bus: each value is a string or an array of strings. */
 using RequestData = std::map<std::string, sdbus::Variant>;
 
 /**
- * The desk's own interface on the middleware's object: whoever sits at the desk plays the middleware through it. The
- * daemon forwards the request to the application, starting it where it does not run.
+ * The desk's own interface on the middleware's object, through which a person or a test plays the middleware. The
+ * daemon forwards the request to the application and starts it if it is not running.
  */
 namespace Desk
 {
@@ -27,11 +27,11 @@ inline constexpr const char* INTERFACE = "org.tizen.VesKarDesk1";
 
 /** Ask(i uiId, y sourceId, a{sv} request) → (i uiId, y sourceId, i kind, y button, y item, s data): the answer. */
 inline constexpr const char* ASK = "Ask";
-/** Tell(a{sv} request) → (): the application took the request; nothing more is waited for. */
+/** Tell(a{sv} request) → (): the application took the request. Does not wait for an answer. */
 inline constexpr const char* TELL = "Tell";
 /**
- * OpenMenu(a{sv} request) → (a(ss) tasks, ai positions): as Tell; the tasks, each with its action, and the menu
- * positions that the application asked for because of it.
+ * OpenMenu(a{sv} request) → (a(ss) tasks, ai positions): as Tell. Returns the tasks, each with its action, and the
+ * menu positions that the application asked for because of the request.
  */
 inline constexpr const char* OPEN_MENU = "OpenMenu";
 using Tasks = std::vector<sdbus::Struct<std::string, std::string>>;

@@ -1,4 +1,4 @@
-/** The daemon's account of what it was asked: one line each on standard error. */
+/** The daemon's log: one line on standard error for each thing that it was asked. */
 #pragma once
 
 #include <string>
@@ -8,10 +8,10 @@ namespace veskar
 
 void Print(const std::string& line);
 
-/** A text in quotes, control characters escaped, so that it stays on its line. */
+/** A text in quotes with its control characters escaped, so that it stays on one line. */
 std::string Quoted(const std::string& text);
 
-/** What may be told of an answer's text, which may be a PIN: its length, or all of it with VESKAR_LOG_SECRETS=1. */
+/** An answer's text for the log. It may be a PIN: only its length, or all of it with VESKAR_LOG_SECRETS=1. */
 std::string Secret(const std::string& text);
 
 } // namespace veskar

@@ -1,4 +1,4 @@
-/** One step of a bus loop with a deadline; the library's own loop knows of no other time than its own. */
+/** One step of a bus loop with a deadline, which the library's own loop does not support. */
 #pragma once
 
 #include <sdbus-c++/sdbus-c++.h>

@@ -1,4 +1,4 @@
-/** An application of the TV that is not there: it has the name, and says what it was asked. */
+/** Stands in for an application that the desk does not have: owns its name and prints what it is asked. */
 #pragma once
 
 #include "DeskBus.h"
@@ -12,10 +12,11 @@ namespace veskar
 class StandIn
 {
 public:
-    /** Owns the name from now on. `terminated` runs when the application is told to end, and must not destroy this. */
+    /** Requests the name. `terminated` is called when the application is told to end; it must not destroy this object.
+     */
     StandIn(sdbus::IConnection& connection, const std::string& appId, std::function<void()> terminated);
 
-    /** The bus library's callbacks name this object. */
+    /** The bus library's callbacks refer to this object. */
     StandIn(const StandIn&) = delete;
     StandIn& operator=(const StandIn&) = delete;
 

@@ -17,8 +17,8 @@ constexpr int BAD_USAGE = 64;
 constexpr int UNAVAILABLE = 69;
 
 /**
- * False when another process has the name. The bus starts one process for each name that is called while nobody has
- * it; the second one to come up is not needed, as the first takes both names.
+ * False when another process owns the name. The bus starts a process for each called name without an owner. The first
+ * process takes both names, so a second one is not needed.
  */
 bool OwnName(sdbus::IConnection& connection, const std::string& name)
 {
@@ -40,12 +40,12 @@ void ServeTv(sdbus::IConnection& connection)
     Middleware middleware(connection);
     ContextManager contextManager(connection, [&middleware](const std::string& task, const std::string& action)
                                   { middleware.TaskRequested(task, action); });
-    // The objects are there by now: the message that started this process is delivered with the name.
+    // Only now that the objects exist: the message that started this process is delivered as soon as it owns the name.
     if (!OwnName(connection, Controller::BUS_NAME))
     {
         return;
     }
-    // Somebody may stand in for the context manager alone.
+    // A stand-in may own the context manager's name.
     OwnName(connection, Manager::BUS_NAME);
     while (true)
     {
@@ -53,7 +53,7 @@ void ServeTv(sdbus::IConnection& connection)
     }
 }
 
-/** The applications named, until each was told to end. */
+/** Stands in for the named applications until each of them has been told to end. */
 void ServeStandIns(sdbus::IConnection& connection, const std::vector<std::string>& appIds)
 {
     std::size_t running = appIds.size();

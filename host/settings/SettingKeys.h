@@ -49,8 +49,8 @@ const SettingKey* FindSetting(std::string_view key);
 const char* TypeName(SettingType type);
 
 /**
- * Brings `value` into the form that is kept: true, on and yes become 1 for a switch. False, with `value` as it was,
- * when it is none of the type.
+ * Converts `value` to the form in which it is kept: for a switch, true, on and yes become 1. Returns false and leaves
+ * `value` unchanged when it is not of the type.
  */
 bool NormaliseSetting(SettingType type, std::string& value);
 

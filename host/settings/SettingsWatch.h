@@ -1,4 +1,4 @@
-/** Tells when a setting has been set to something else. */
+/** Calls back when a setting has changed. */
 #pragma once
 
 #include <functional>
@@ -12,13 +12,13 @@ namespace veskar
 {
 
 /**
- * The settings are files, so whoever writes them, by whatever means, is noticed, and needs no bus. Writing one may be
- * told as several changes. Main thread, while the main loop's library is initialised.
+ * The settings are files, so every way of writing them is noticed. One write may be reported as several changes. Main
+ * thread only, while the main loop's library is initialised.
  */
 class SettingsWatch
 {
 public:
-    /** The keys are neighbours: files of one folder. */
+    /** All keys must be files of one folder. */
     SettingsWatch(std::initializer_list<const char*> keys, std::function<void()> changed);
     SettingsWatch(const SettingsWatch&) = delete;
     SettingsWatch& operator=(const SettingsWatch&) = delete;
