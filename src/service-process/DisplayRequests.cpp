@@ -13,51 +13,67 @@ namespace
 
 using Texts = std::vector<std::string>;
 
-/** For the log, whose texts are composed at every level: a line that tells of a read also makes it. */
-const char* Word(bool present)
+void LogPresence(const char* label, bool present)
 {
-    return present ? "true" : "false";
+    LOG_INFO(label << (present ? "true" : "false"));
 }
 
 } // namespace
 
+template <typename Value>
+void ServiceProcessor::m_ReadParameter(app_control_h const& request, const char* label, const char* key, Value& value)
+{
+    LogPresence(label, m_GetParameter(request, key, value));
+}
+
+void ServiceProcessor::m_ReadStrings(app_control_h const& request, const char* label, const char* key, Texts& values)
+{
+    LogPresence(label, m_GetStrings(request, key, values));
+}
+
+ServiceProcessor::CommonTexts ServiceProcessor::m_ReadCommonTexts(app_control_h const& request, const char* subLabel)
+{
+    CommonTexts texts;
+    m_ReadParameter(request, "title:", RequestKeys::TITLE, texts.title);
+    m_ReadParameter(request, subLabel, RequestKeys::SUB, texts.sub);
+    m_ReadParameter(request, "bottom:", RequestKeys::BOTTOM, texts.bottom);
+    m_ReadStrings(request, "buttons:", RequestKeys::BUTTONS, texts.buttons);
+    return texts;
+}
+
+ServiceProcessor::ListRequest ServiceProcessor::m_ReadList(app_control_h const& request)
+{
+    ListRequest list{m_ReadCommonTexts(request, "sub:"), {}, {}, 0};
+    m_ReadStrings(request, "entries:", RequestKeys::ENTRIES, list.entries);
+    m_ReadParameter(request, "formatting:", RequestKeys::FORMAT, list.format);
+    m_ReadParameter(request, "firstRowHeader:", RequestKeys::HEADER, list.firstRowHeader);
+    return list;
+}
+
 bool ServiceProcessor::m_HandleMessage(app_control_h const& request, int uiId, unsigned char sourceId)
 {
-    std::string title;
-    std::string sub;
-    std::string bottom;
+    const CommonTexts texts = m_ReadCommonTexts(request, "subtitle:");
     std::string text;
-    Texts buttons;
     int noClose = 0;
-    LOG_INFO("title:" << Word(m_GetParameter(request, RequestKeys::TITLE, title)));
-    LOG_INFO("subtitle:" << Word(m_GetParameter(request, RequestKeys::SUB, sub)));
-    LOG_INFO("bottom:" << Word(m_GetParameter(request, RequestKeys::BOTTOM, bottom)));
-    LOG_INFO("buttons:" << Word(m_GetStrings(request, RequestKeys::BUTTONS, buttons)));
-    LOG_INFO("text:" << Word(m_GetParameter(request, RequestKeys::TEXT, text)));
-    LOG_INFO("noclose:" << Word(m_GetParameter(request, RequestKeys::NO_CLOSE, noClose)));
-    return m_windowManager.ShowMessage(uiId, sourceId, title, sub, bottom, text, buttons, noClose != 0);
+    m_ReadParameter(request, "text:", RequestKeys::TEXT, text);
+    m_ReadParameter(request, "noclose:", RequestKeys::NO_CLOSE, noClose);
+    return m_windowManager.ShowMessage(uiId, sourceId, texts.title, texts.sub, texts.bottom, text, texts.buttons,
+                                       noClose != 0);
 }
 
 bool ServiceProcessor::m_HandleImage(app_control_h const& request, int uiId, unsigned char sourceId)
 {
-    std::string title;
-    std::string sub;
-    std::string bottom;
+    const CommonTexts texts = m_ReadCommonTexts(request, "subtitle:");
     std::string imageLocation;
-    Texts buttons;
     int width = 0;
     int height = 0;
     int noClose = 0;
-    LOG_INFO("title:" << Word(m_GetParameter(request, RequestKeys::TITLE, title)));
-    LOG_INFO("subtitle:" << Word(m_GetParameter(request, RequestKeys::SUB, sub)));
-    LOG_INFO("bottom:" << Word(m_GetParameter(request, RequestKeys::BOTTOM, bottom)));
-    LOG_INFO("buttons:" << Word(m_GetStrings(request, RequestKeys::BUTTONS, buttons)));
-    LOG_INFO("imageLocation:" << Word(m_GetParameter(request, RequestKeys::IMAGE_LOCATION, imageLocation)));
-    LOG_INFO("width:" << Word(m_GetParameter(request, RequestKeys::IMAGE_WIDTH, width)));
-    LOG_INFO("height:" << Word(m_GetParameter(request, RequestKeys::IMAGE_HEIGHT, height)));
-    LOG_INFO("noclose:" << Word(m_GetParameter(request, RequestKeys::NO_CLOSE, noClose)));
-    return m_windowManager.ShowImage(uiId, sourceId, title, sub, bottom, imageLocation, width, height, buttons,
-                                     noClose != 0);
+    m_ReadParameter(request, "imageLocation:", RequestKeys::IMAGE_LOCATION, imageLocation);
+    m_ReadParameter(request, "width:", RequestKeys::IMAGE_WIDTH, width);
+    m_ReadParameter(request, "height:", RequestKeys::IMAGE_HEIGHT, height);
+    m_ReadParameter(request, "noclose:", RequestKeys::NO_CLOSE, noClose);
+    return m_windowManager.ShowImage(uiId, sourceId, texts.title, texts.sub, texts.bottom, imageLocation, width, height,
+                                     texts.buttons, noClose != 0);
 }
 
 bool ServiceProcessor::m_HandleList(app_control_h const& request, int uiId, unsigned char sourceId, bool selectable)
@@ -82,10 +98,10 @@ bool ServiceProcessor::m_HandleMultipleImageList(app_control_h const& request, i
     int width = 0;
     int height = 0;
     int selectable = 0;
-    LOG_INFO("image locations:" << Word(m_GetStrings(request, RequestKeys::IMAGE_LOCATIONS, imageLocations)));
-    LOG_INFO("width:" << Word(m_GetParameter(request, RequestKeys::IMAGE_WIDTH, width)));
-    LOG_INFO("height:" << Word(m_GetParameter(request, RequestKeys::IMAGE_HEIGHT, height)));
-    LOG_INFO("selectable:" << Word(m_GetParameter(request, RequestKeys::SELECTABLE, selectable)));
+    m_ReadStrings(request, "image locations:", RequestKeys::IMAGE_LOCATIONS, imageLocations);
+    m_ReadParameter(request, "width:", RequestKeys::IMAGE_WIDTH, width);
+    m_ReadParameter(request, "height:", RequestKeys::IMAGE_HEIGHT, height);
+    m_ReadParameter(request, "selectable:", RequestKeys::SELECTABLE, selectable);
     return m_windowManager.ShowMultipleImageList(uiId, sourceId, list.title, list.sub, list.bottom, list.entries,
                                                  list.format, list.firstRowHeader != 0, list.buttons, imageLocations,
                                                  width, height, selectable != 0);
@@ -97,10 +113,10 @@ bool ServiceProcessor::m_HandleProgressWindow(app_control_h const& request, int 
     std::string text;
     Texts buttons;
     int percent = 0;
-    LOG_INFO("title:" << Word(m_GetParameter(request, RequestKeys::TITLE, title)));
-    LOG_INFO("text:" << Word(m_GetParameter(request, RequestKeys::TEXT, text)));
-    LOG_INFO("percent:" << Word(m_GetParameter(request, RequestKeys::PERCENT, percent)));
-    LOG_INFO("buttons:" << Word(m_GetStrings(request, RequestKeys::BUTTONS, buttons)));
+    m_ReadParameter(request, "title:", RequestKeys::TITLE, title);
+    m_ReadParameter(request, "text:", RequestKeys::TEXT, text);
+    m_ReadParameter(request, "percent:", RequestKeys::PERCENT, percent);
+    m_ReadStrings(request, "buttons:", RequestKeys::BUTTONS, buttons);
     const std::string firstButton = buttons.empty() ? std::string() : buttons.front();
     return m_windowManager.ShowProgress(uiId, sourceId, title, text, firstButton, static_cast<unsigned char>(percent));
 }
@@ -110,10 +126,10 @@ bool ServiceProcessor::m_HandleLoadingWindow(app_control_h const& request, int u
     std::string text;
     Texts buttons;
     int percent = 0;
-    // The busy indicator's text is its title.
-    LOG_INFO("title:" << Word(m_GetParameter(request, RequestKeys::TEXT, text)));
-    LOG_INFO("percent:" << Word(m_GetParameter(request, RequestKeys::PERCENT, percent)));
-    LOG_INFO("buttons:" << Word(m_GetStrings(request, RequestKeys::BUTTONS, buttons)));
+    // The busy indicator shows its text where other screens have their title.
+    m_ReadParameter(request, "title:", RequestKeys::TEXT, text);
+    m_ReadParameter(request, "percent:", RequestKeys::PERCENT, percent);
+    m_ReadStrings(request, "buttons:", RequestKeys::BUTTONS, buttons);
     return m_windowManager.ShowLoading(uiId, sourceId, text, buttons, percent);
 }
 
@@ -124,26 +140,13 @@ bool ServiceProcessor::m_HandlePinEntry(app_control_h const& request, int uiId, 
     std::string text;
     std::string bottom;
     int pinLength = 0;
-    LOG_INFO("title:" << Word(m_GetParameter(request, RequestKeys::TITLE, title)));
-    LOG_INFO("subtitle:" << Word(m_GetParameter(request, RequestKeys::SUB, sub)));
-    LOG_INFO("text:" << Word(m_GetParameter(request, RequestKeys::TEXT, text)));
-    LOG_INFO("length:" << Word(m_GetParameter(request, RequestKeys::PIN_LENGTH, pinLength)));
-    LOG_INFO("bottom:" << Word(m_GetParameter(request, RequestKeys::BOTTOM, bottom)));
+    m_ReadParameter(request, "title:", RequestKeys::TITLE, title);
+    m_ReadParameter(request, "subtitle:", RequestKeys::SUB, sub);
+    m_ReadParameter(request, "text:", RequestKeys::TEXT, text);
+    m_ReadParameter(request, "length:", RequestKeys::PIN_LENGTH, pinLength);
+    m_ReadParameter(request, "bottom:", RequestKeys::BOTTOM, bottom);
     return m_windowManager.ShowPinManager(uiId, sourceId, title, sub, text, static_cast<unsigned char>(pinLength),
                                           bottom);
-}
-
-ServiceProcessor::ListRequest ServiceProcessor::m_ReadList(app_control_h const& request)
-{
-    ListRequest list;
-    LOG_INFO("title:" << Word(m_GetParameter(request, RequestKeys::TITLE, list.title)));
-    LOG_INFO("sub:" << Word(m_GetParameter(request, RequestKeys::SUB, list.sub)));
-    LOG_INFO("bottom:" << Word(m_GetParameter(request, RequestKeys::BOTTOM, list.bottom)));
-    LOG_INFO("buttons:" << Word(m_GetStrings(request, RequestKeys::BUTTONS, list.buttons)));
-    LOG_INFO("entries:" << Word(m_GetStrings(request, RequestKeys::ENTRIES, list.entries)));
-    LOG_INFO("formatting:" << Word(m_GetParameter(request, RequestKeys::FORMAT, list.format)));
-    LOG_INFO("firstRowHeader:" << Word(m_GetParameter(request, RequestKeys::HEADER, list.firstRowHeader)));
-    return list;
 }
 
 } // namespace VESKAR_APP

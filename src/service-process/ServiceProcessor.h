@@ -39,16 +39,27 @@ private:
     bool m_HandleLoadingWindow(app_control_h const& request, int uiId, unsigned char sourceId);
     bool m_HandlePinEntry(app_control_h const& request, int uiId, unsigned char sourceId);
 
-    /** What the three list requests have in common. */
-    struct ListRequest
+    // Read one value of a screen, then log the label with whether the request has it.
+    template <typename Value>
+    void m_ReadParameter(app_control_h const& request, const char* label, const char* key, Value& value);
+    void m_ReadStrings(app_control_h const& request, const char* label, const char* key,
+                       std::vector<std::string>& values);
+
+    struct CommonTexts
     {
         std::string title;
         std::string sub;
         std::string bottom;
         std::vector<std::string> buttons;
+    };
+    /** The kinds of screens name the sub-title differently in the log. */
+    CommonTexts m_ReadCommonTexts(app_control_h const& request, const char* subLabel);
+
+    struct ListRequest : CommonTexts
+    {
         std::vector<std::string> entries;
         std::string format;
-        int firstRowHeader = 0;
+        int firstRowHeader;
     };
     ListRequest m_ReadList(app_control_h const& request);
 
