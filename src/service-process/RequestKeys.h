@@ -3,7 +3,7 @@
 namespace VESKAR_APP
 {
 
-/** The vocabulary of a service request: its keys and the values that route it. */
+/** The keys of a service request, and its signal types. UI types and menu positions: tables in ServiceProcessor.cpp. */
 namespace RequestKeys
 {
 

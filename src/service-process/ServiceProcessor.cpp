@@ -5,6 +5,9 @@
 #include "Log.h"
 #include "RequestKeys.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include <IVesKarController.h>
 #include <app_context_manager.h>
 
@@ -14,7 +17,7 @@ namespace VESKAR_APP
 namespace
 {
 
-/** The blank at its end belongs to the task's name. */
+/** The space at the end belongs to the task's name. */
 constexpr const char* MENU_TASK = "name:menu ";
 
 struct MenuPosition
@@ -31,19 +34,41 @@ constexpr MenuPosition MENU_POSITIONS[] = {
     {"veskar_delete_op", "MENU_POS_DELETE_OP", 3},
 };
 
-const MenuPosition* FindMenuPosition(const std::string& name)
+/** The row with this name, or null. */
+template <typename Row, std::size_t size>
+const Row* Find(const Row (&table)[size], const std::string& name)
 {
-    for (const MenuPosition& position : MENU_POSITIONS)
-    {
-        if (name == position.name)
-        {
-            return &position;
-        }
-    }
-    return nullptr;
+    const Row* row = std::find_if(std::begin(table), std::end(table), [&](const Row& r) { return name == r.name; });
+    return row == std::end(table) ? nullptr : row;
+}
+
+/** A handler as a plain function, with the flag that some UI types give theirs. */
+template <auto Handler, bool... flag>
+bool Handle(ServiceProcessor& processor, app_control_h const& request, int uiId, unsigned char sourceId)
+{
+    return (processor.*Handler)(request, uiId, sourceId, flag...);
 }
 
 } // namespace
+
+struct ServiceProcessor::UiType
+{
+    const char* name;
+    bool (*handle)(ServiceProcessor& processor, app_control_h const& request, int uiId, unsigned char sourceId);
+};
+
+const ServiceProcessor::UiType ServiceProcessor::UI_TYPES[] = {
+    {"ui_type_message", Handle<&ServiceProcessor::m_HandleMessage>},
+    {"ui_type_image", Handle<&ServiceProcessor::m_HandleImage>},
+    {"ui_type_list", Handle<&ServiceProcessor::m_HandleList, false>},
+    {"ui_type_multiple_list", Handle<&ServiceProcessor::m_HandleMultipleList, true>},
+    {"ui_type_select", Handle<&ServiceProcessor::m_HandleList, true>},
+    {"ui_type_progress", Handle<&ServiceProcessor::m_HandleProgressWindow>},
+    {"ui_type_loading", Handle<&ServiceProcessor::m_HandleLoadingWindow>},
+    {"ui_type_pin_entry", Handle<&ServiceProcessor::m_HandlePinEntry>},
+    {"ui_type_close", Handle<&ServiceProcessor::m_HandleClose>},
+    {"ui_type_multiple_image_list", Handle<&ServiceProcessor::m_HandleMultipleImageList>},
+};
 
 ServiceProcessor::ServiceProcessor(IWindowManager& windowManager) : m_windowManager(windowManager) {}
 
@@ -60,7 +85,7 @@ bool ServiceProcessor::HandleService(app_control_h const& request)
     const CString signalType(value);
     if (error != APP_CONTROL_ERROR_NONE || !signalType)
     {
-        // Info, not error: the platform also delivers plain launches, which carry no signal type.
+        // Not an error: the platform also delivers plain launches, which have no signal type.
         LOG_INFO("app_control_get_extra_data returned error " << error);
         return false;
     }
@@ -87,8 +112,8 @@ bool ServiceProcessor::HandleService(app_control_h const& request)
 
 void ServiceProcessor::m_HandleRequestFromMW(app_control_h const& request)
 {
-    std::string uiType;
-    if (!m_GetParameter(request, RequestKeys::UI_TYPE, uiType))
+    std::string name;
+    if (!m_GetParameter(request, RequestKeys::UI_TYPE, name))
     {
         LOG_ERROR("SIGNAL_TVSERVICE_KEY missing");
         return;
@@ -99,55 +124,19 @@ void ServiceProcessor::m_HandleRequestFromMW(app_control_h const& request)
         LOG_ERROR("UI_PARAM_UI_ID missing");
         return;
     }
-    int source = 0;
-    if (!m_GetParameter(request, RequestKeys::SOURCE_ID, source))
+    int sourceId = 0;
+    if (!m_GetParameter(request, RequestKeys::SOURCE_ID, sourceId))
     {
         LOG_ERROR("UI_PARAM_SOURCE_ID missing");
         return;
     }
-    const auto sourceId = static_cast<unsigned char>(source);
 
-    if (uiType == "ui_type_message")
+    // An unknown type is no error: a newer middleware may have more kinds of screens.
+    const UiType* uiType = Find(UI_TYPES, name);
+    if (uiType != nullptr)
     {
-        m_HandleMessage(request, uiId, sourceId);
+        uiType->handle(*this, request, uiId, static_cast<unsigned char>(sourceId));
     }
-    else if (uiType == "ui_type_image")
-    {
-        m_HandleImage(request, uiId, sourceId);
-    }
-    else if (uiType == "ui_type_list")
-    {
-        m_HandleList(request, uiId, sourceId, false);
-    }
-    else if (uiType == "ui_type_multiple_list")
-    {
-        m_HandleMultipleList(request, uiId, sourceId, true);
-    }
-    else if (uiType == "ui_type_select")
-    {
-        m_HandleList(request, uiId, sourceId, true);
-    }
-    else if (uiType == "ui_type_progress")
-    {
-        m_HandleProgressWindow(request, uiId, sourceId);
-    }
-    else if (uiType == "ui_type_loading")
-    {
-        m_HandleLoadingWindow(request, uiId, sourceId);
-    }
-    else if (uiType == "ui_type_pin_entry")
-    {
-        m_HandlePinEntry(request, uiId, sourceId);
-    }
-    else if (uiType == "ui_type_close")
-    {
-        m_HandleClose(request, uiId, sourceId);
-    }
-    else if (uiType == "ui_type_multiple_image_list")
-    {
-        m_HandleMultipleImageList(request, uiId, sourceId);
-    }
-    // A kind of screen that a newer middleware knows is no error here.
     LOG_INFO("complete");
 }
 
@@ -167,10 +156,10 @@ void ServiceProcessor::m_HandleRequestFromMenu(app_control_h const& request)
         return;
     }
 
-    // Before the position is known to be good: a menu left open would cover the screens that follow.
+    // Also for an unknown position: a menu that stays open would cover the screens that follow.
     app_context_manager_request_task(MENU_TASK, "stop");
 
-    const MenuPosition* position = FindMenuPosition(name);
+    const MenuPosition* position = Find(MENU_POSITIONS, name);
     if (position == nullptr)
     {
         LOG_ERROR("Wrong value of menu position in service data " << name);

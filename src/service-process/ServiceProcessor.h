@@ -14,18 +14,22 @@ class IWindowManager;
  * Turns one service request into one action: a screen of the window manager for the middleware, a menu position of the
  * controller for the TV's settings menu. Keeps nothing between requests.
  *
- * A bad request is an error line in the log and nothing else; a missing value has a default. Called on the main thread
- * with the frame's mutex held.
+ * A request that cannot be routed is an error line in the log, and what is shown stays. A missing value of a screen is
+ * an error line too, but the screen is shown, with the default. Main thread; takes no lock.
  */
 class ServiceProcessor
 {
 public:
     explicit ServiceProcessor(IWindowManager& windowManager);
 
-    /** True when the request named a signal type, whatever came of it. The request stays the caller's. */
+    /** True when the request has a signal type, even where nothing could be done. The request stays the caller's. */
     bool HandleService(app_control_h const& request);
 
 private:
+    /** A kind of screen: its name in a request, and its handler. */
+    struct UiType;
+    static const UiType UI_TYPES[];
+
     void m_HandleRequestFromMW(app_control_h const& request);
     void m_HandleRequestFromMenu(app_control_h const& request);
     bool m_HandleClose(app_control_h const& request, int uiId, unsigned char sourceId);
@@ -52,7 +56,7 @@ private:
         std::string bottom;
         std::vector<std::string> buttons;
     };
-    /** The kinds of screens name the sub-title differently in the log. */
+    /** `subLabel` names the sub-title in the log; not all kinds of screen call it the same. */
     CommonTexts m_ReadCommonTexts(app_control_h const& request, const char* subLabel);
 
     struct ListRequest : CommonTexts
@@ -63,9 +67,9 @@ private:
     };
     ListRequest m_ReadList(app_control_h const& request);
 
-    // The readers: true when the key is there; otherwise an error line, and the output keeps its value.
+    // The readers return true when the key is there. Otherwise they log an error, and the output keeps its value.
 
-    /** A text that is no number reads as 0. */
+    /** A text that does not begin with a number gives 0. */
     bool m_GetParameter(app_control_h const& request, const char* key, int& value);
     bool m_GetParameter(app_control_h const& request, const char* key, std::string& value);
     /** Appends to `values`. */
