@@ -3,19 +3,20 @@
 namespace VESKAR_APP
 {
 
-/** What the application frame tells of the application's life. Main thread. */
+/** The events of the application's life, from the application frame. Main thread. */
 class IApplicationFramework
 {
 public:
-    /** The application left the screen: what is shown is closed, and without a new screen the application soon ends. */
+    /** The application left the screen. Closes what is shown; without a new screen the application soon ends. */
     virtual void Pause() = 0;
 
+    /** The application is back on the screen. Takes the keyboard and the keys; shows nothing. */
     virtual void Resume() = 0;
 
     /** Closes what is shown, as the Exit key does. */
     virtual void Exit() = 0;
 
-    /** The application ends: what is shown is answered as closed. */
+    /** The application ends. Closes what is shown. */
     virtual void Terminate() = 0;
 
     virtual ~IApplicationFramework() = default;

@@ -5,23 +5,23 @@
 namespace VESKAR_APP
 {
 
-/** What a display tells of the viewer's actions. All operations run on the main loop and return at once. */
+/** The viewer's actions, from the display. Each one but KeyPressed() ends the screen. Main thread; none blocks. */
 class IUserInteraction
 {
 public:
     virtual void ExitKey() = 0;
     virtual void BackKey() = 0;
 
-    /** Any other key: the viewer is there. */
+    /** Any other key: the viewer is still there. */
     virtual void KeyPressed() = 0;
 
     /** `button` counts from 1. */
     virtual void ButtonPressed(unsigned char button) = 0;
 
-    /** `item` is the toolkit's index of the row in its list. */
+    /** `item` is the toolkit's index of the row, which counts from 1. */
     virtual void ItemSelected(unsigned char item) = 0;
 
-    /** The indexes of the marked rows as one string of digits in ascending order. */
+    /** All digits of the selected rows' indexes as one string, in ascending order. */
     virtual void ItemsSelected(std::string items) = 0;
 
     virtual void PinEntered(std::string pin) = 0;

@@ -7,12 +7,12 @@ namespace VESKAR_APP
 {
 
 /**
- * Shows one screen at a time. A new screen replaces the one that is shown, which is answered as closed.
+ * Shows one screen at a time. A new screen replaces the shown one, for which the middleware gets the answer "closed".
  *
- * Every show operation carries the middleware's ids of the screen, which come back in its answer. The source id also
- * decides how the screen is presented: 254 privileged, 255 normal, any other value a screen of the access module.
- * Image sizes are design pixels, of a screen of 1920x1080. All operations run on the main thread and return whether
- * the screen is shown; what went wrong is in the log.
+ * Every show operation has the middleware's ids of the screen, which its answer repeats. The source id also decides how
+ * the screen is presented: 254 privileged, 255 normal, any other value a screen of the access module. Image sizes are
+ * pixels of a 1920x1080 screen. All operations run on the main thread and return whether the screen is shown. The log
+ * has the reason when it is not.
  */
 class IWindowManager
 {
@@ -30,7 +30,7 @@ public:
     virtual bool ShowMmiPinEntry(int uiId, unsigned char sourceId, const Text& title, const Text& sub,
                                  const Text& bottom, unsigned char pinLength, const Text& extra) = 0;
 
-    /** The third text is the label of the button. Updates the shown progress where the ids are the same. */
+    /** The third text is the label of the button. Updates the shown progress if it has the same ids. */
     virtual bool ShowProgress(int uiId, unsigned char sourceId, const Text& title, const Text& sub, const Text& bottom,
                               unsigned char percent) = 0;
 
@@ -60,10 +60,10 @@ public:
 
     virtual bool ShowTestPopup(int uiId, unsigned char sourceId, int testId) = 0;
 
-    /** Closes the screen with this id, or with 0 whatever is shown. Source ids from 254 answer the middleware. */
+    /** Closes the screen with this id; 0 means any screen. From source id 254 on, the middleware gets an answer. */
     virtual bool Close(int uiId, unsigned char sourceId) = 0;
 
-    /** Shows sample screen 0 to 22; false for any other. */
+    /** Shows one of the sample screens, 0 to 22. */
     virtual bool Test(int testId) = 0;
 
     virtual ~IWindowManager() = default;

@@ -1,7 +1,6 @@
 #include "WindowManager.h"
 
 #include "EflGuard.h"
-#include "Handles.h"
 #include "ImageListPopup.h"
 #include "ImagePopup.h"
 #include "ListWindow.h"
@@ -17,10 +16,7 @@
 #include "TimeOuts.h"
 
 #include <IVesKarController.h>
-#include <app_control.h>
 #include <ea.h>
-#include <system_info.h>
-#include <vconf.h>
 
 namespace VESKAR_APP
 {
@@ -37,14 +33,9 @@ constexpr int ANSWERED = 0;
 constexpr int CLOSED = 2;
 constexpr int BACK = 3;
 
-constexpr const char* HOTEL_OPTION = "com.brelmon/featureconf/product.b2b_option_support";
-constexpr const char* HOTEL_FACTORY_MODE = "memory/ephotel/hotelmenu/hotelfactorymode";
-constexpr const char* HOTEL_FACTORY_MENU = "org.tizen.ep-hotel-factory";
+constexpr const char* NO_UI = "No UI to close - ";
 
 } // namespace
-
-/** What is shown, as the log names it. */
-#define SHOWN_IDS "m_uiId:" << m_uiId << ", m_sourceId:" << static_cast<int>(m_sourceId)
 
 WindowManager::WindowManager(std::function<void()> idleCallback, std::function<void()> visibleCallback)
     : m_window(EFL_GUARD(elm_win_add, nullptr, "veskar-app", ELM_WIN_DIALOG_BASIC)), m_keySubscriber(m_window),
@@ -116,7 +107,7 @@ bool WindowManager::ShowMmiMultipleImageList(int uiId, unsigned char sourceId, c
                                              int width, int height, bool selectable)
 {
     LOG_ENTRY();
-    // An image list never gets the visible time-out, hence the no-close flag.
+    // An image list never starts the visible time-out.
     return m_ShowList(std::make_unique<ImageListPopup>(*this, selectable, m_window), uiId, sourceId, true, title, sub,
                       bottom, format, firstRowHeader, entries, buttons, imageLocations, width, height);
 }
@@ -130,7 +121,7 @@ bool WindowManager::ShowMmiPinEntry(int uiId, unsigned char sourceId, const Text
     {
         return false;
     }
-    // Digits and the media keys, More among them, must reach the PIN field.
+    // The PIN field needs the digits and, for More, the media keys.
     m_keySubscriber.LockNumberKeys();
     m_keySubscriber.LockPVRKeys();
     return true;
@@ -169,7 +160,6 @@ bool WindowManager::ShowImage(int uiId, unsigned char sourceId, const Text& titl
 bool WindowManager::ShowTestPopup(int uiId, unsigned char sourceId, int /*testId*/)
 {
     LOG_ENTRY();
-    // The popup's number means nothing; it is always 0.
     return m_PresentOrLog(std::make_unique<TestPopup>(*this, 0, m_window), uiId, sourceId, false);
 }
 
@@ -258,8 +248,9 @@ bool WindowManager::m_Present(std::unique_ptr<BaseDisplay> display, const int& u
         return false;
     }
 
-    // The old screen goes and the clocks are set before the new one is known to work: a screen that cannot be built
-    // leaves an empty window, which the visible time-out ends.
+    // The old screen is closed and the timers are set even if the new screen cannot be built. Nothing is shown then.
+    // The visible time-out ends the application, but a privileged or no-close screen starts none: it stays until the
+    // next request.
     if (m_display)
     {
         m_ClosedByHost();
@@ -332,7 +323,7 @@ bool WindowManager::Close(int uiId, unsigned char sourceId)
     if (sourceId >= PRIVILEGED_SOURCE_ID)
     {
         LOG_INFO("close request came from MW, send response back");
-        m_SendResponse(CLOSED, 0, 0, "");
+        m_SendResponse(CLOSED);
     }
     m_Remove();
     return true;
@@ -347,13 +338,10 @@ void WindowManager::m_ClosedByHost()
                   "navigation keys)");
         EFL_GUARD(elm_win_iconified_set, m_window, EINA_TRUE);
     }
-    if (!m_IsAnswerable())
+    if (!m_Answer(CLOSED))
     {
-        LOG_INFO("No UI to close - " << SHOWN_IDS);
-        return;
+        LOG_INFO(NO_UI << m_ShownIds());
     }
-    m_SendResponse(CLOSED, 0, 0, "");
-    m_Remove();
 }
 
 void WindowManager::ExitKey()
@@ -365,19 +353,16 @@ void WindowManager::ExitKey()
 void WindowManager::BackKey()
 {
     LOG_ENTRY();
-    if (!m_IsAnswerable())
+    if (!m_Answer(BACK))
     {
-        LOG_INFO("No UI to close - " << SHOWN_IDS);
-        return;
+        LOG_INFO(NO_UI << m_ShownIds());
     }
-    m_SendResponse(BACK, 0, 0, "");
-    m_Remove();
 }
 
 void WindowManager::KeyPressed()
 {
     LOG_ENTRY();
-    // The source id alone decides: a key also arms the clock for a screen that was shown without one.
+    // Only the source id counts: a key also starts the timer for a screen that was shown without one.
     if (m_sourceId != PRIVILEGED_SOURCE_ID)
     {
         LOG_INFO("Restart visible timer");
@@ -388,51 +373,38 @@ void WindowManager::KeyPressed()
 void WindowManager::ButtonPressed(unsigned char button)
 {
     LOG_ENTRY();
-    if (!m_IsAnswerable())
+    if (!m_Answer(ANSWERED, button))
     {
-        LOG_INFO("No UI to close - " << SHOWN_IDS);
-        return;
+        LOG_INFO(NO_UI << m_ShownIds());
     }
-    m_SendResponse(ANSWERED, button, 0, "");
-    m_Remove();
 }
 
 void WindowManager::ItemSelected(unsigned char item)
 {
     LOG_ENTRY();
-    if (!m_IsAnswerable())
+    if (!m_Answer(ANSWERED, 0, item))
     {
-        LOG_INFO("No UI to close - " << SHOWN_IDS);
-        return;
+        LOG_INFO(NO_UI << m_ShownIds());
     }
-    m_SendResponse(ANSWERED, 0, item, "");
-    m_Remove();
 }
 
 void WindowManager::ItemsSelected(std::string items)
 {
     LOG_ENTRY();
-    if (!m_IsAnswerable())
+    if (!m_Answer(ANSWERED, 0, 0, items))
     {
-        LOG_WARN("No UI to close - " << SHOWN_IDS);
-        return;
+        LOG_WARN(NO_UI << m_ShownIds());
     }
-    m_SendResponse(ANSWERED, 0, 0, items);
-    m_Remove();
 }
 
 void WindowManager::PinEntered(std::string pin)
 {
     LOG_ENTRY();
-    if (!m_IsAnswerable())
+    if (!m_Answer(ANSWERED, 0, 0, pin))
     {
-        LOG_WARN("invalid id - " << SHOWN_IDS);
-        Wipe(pin);
-        return;
+        LOG_WARN("invalid id - " << m_ShownIds());
     }
-    m_SendResponse(ANSWERED, 0, 0, pin);
     Wipe(pin);
-    m_Remove();
 }
 
 void WindowManager::Pause()
@@ -470,14 +442,14 @@ void WindowManager::Terminate()
 
 void WindowManager::IdleTimeout()
 {
-    LOG_INFO("IdleTimeout: " << SHOWN_IDS);
+    LOG_INFO("IdleTimeout: " << m_ShownIds());
     LOG_INFO("Idle timeout, exit");
     EFL_GUARD(elm_exit);
 }
 
 void WindowManager::VisibleTimeout()
 {
-    LOG_INFO("VisibleTimeout: " << SHOWN_IDS);
+    LOG_INFO("VisibleTimeout: " << m_ShownIds());
     LOG_INFO("Visible timeout, exit");
     EFL_GUARD(elm_exit);
 }
@@ -492,9 +464,15 @@ bool WindowManager::VisibleTimeoutExpired()
     return m_visibleTimer.Expired();
 }
 
-bool WindowManager::m_IsAnswerable() const
+bool WindowManager::m_Answer(int kind, unsigned char button, unsigned char item, const std::string& data)
 {
-    return m_uiId != NO_UI_ID && m_sourceId != NO_SOURCE_ID;
+    if (m_uiId == NO_UI_ID || m_sourceId == NO_SOURCE_ID)
+    {
+        return false;
+    }
+    m_SendResponse(kind, button, item, data);
+    m_Remove();
+    return true;
 }
 
 void WindowManager::m_SendResponse(int kind, unsigned char button, unsigned char item, const std::string& data)
@@ -505,6 +483,11 @@ void WindowManager::m_SendResponse(int kind, unsigned char button, unsigned char
         return;
     }
     m_controller->SendResponse(m_uiId, m_sourceId, kind, button, item, data);
+}
+
+std::string WindowManager::m_ShownIds() const
+{
+    return "m_uiId:" + std::to_string(m_uiId) + ", m_sourceId:" + std::to_string(m_sourceId);
 }
 
 void WindowManager::m_LockKeysForSource(unsigned char sourceId)
@@ -526,52 +509,6 @@ void WindowManager::m_ReleaseAllKeys()
     m_keySubscriber.UnlockExitKey();
     m_keySubscriber.UnlockNumberKeys();
     m_keySubscriber.UnlockPVRKeys();
-}
-
-bool WindowManager::m_HotelFactoryMode()
-{
-    LOG_ENTRY();
-    bool isHotelTv = false;
-    if (system_info_get_custom_bool(HOTEL_OPTION, &isHotelTv) != 0)
-    {
-        LOG_INFO("Failed to get SYSTEM_INFO_CUSTOM_KEY_B2B_OPTION_SUPPORT");
-        return false;
-    }
-    if (!isHotelTv)
-    {
-        LOG_INFO("This is not a hotel TV, menu cannot have been launched by factory menu");
-        return false;
-    }
-    int factoryMode = 0;
-    if (vconf_get_bool(HOTEL_FACTORY_MODE, &factoryMode) != 0)
-    {
-        LOG_INFO("Failed to get vconf: " << HOTEL_FACTORY_MODE);
-        return false;
-    }
-    LOG_INFO("Hotel factory mode :" << factoryMode);
-    if (factoryMode != 1)
-    {
-        return false;
-    }
-    // Red on purpose: the factory menu must be hard to miss in the log of a TV that a customer has.
-    LOG_ERROR("Hotel factory mode is set");
-    return true;
-}
-
-void WindowManager::m_LaunchHotelFactoryMenu()
-{
-    LOG_ENTRY();
-    const AppControl request = CreateAppControl();
-    if (!request)
-    {
-        LOG_ERROR("app_control_create failed"); // and so does what follows, with the reason
-    }
-    app_control_set_app_id(request.get(), HOTEL_FACTORY_MENU);
-    const int result = app_control_send_launch_request(request.get(), nullptr, nullptr);
-    if (result != APP_CONTROL_ERROR_NONE)
-    {
-        LOG_ERROR("Failed to send request [" << result << "]");
-    }
 }
 
 } // namespace VESKAR_APP

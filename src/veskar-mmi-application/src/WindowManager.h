@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 #include <Elementary.h>
 
@@ -22,11 +23,11 @@ namespace VESKAR_APP
 class BaseDisplay;
 
 /**
- * Owns the application's one window and the one display that may be shown in it, answers the middleware for it, and
- * ends the application when nobody uses it.
+ * Owns the application's one window and the one display that may be shown in it, sends its answers to the middleware,
+ * and ends the application when nobody uses it.
  *
- * Main thread; takes no lock. A display that was answered is only hidden: it is still on the call stack then, and goes
- * when the next one replaces it.
+ * Main thread; takes no lock. A display that has its answer is only hidden, because it is still on the call stack. It
+ * is deleted when the next one replaces it.
  */
 class WindowManager : public IWindowManager, public IApplicationFramework, public IUserInteraction
 {
@@ -88,11 +89,11 @@ public:
     void ItemsSelected(std::string items) override;
     void PinEntered(std::string pin) override;
 
-    /** End the application's loop. The answer for a screen that is still shown comes from Terminate(). */
+    /** End the application's loop. Terminate() then sends the answer for a screen that is still shown. */
     void IdleTimeout();
     void VisibleTimeout();
 
-    /** Whether the time-out still stands: it has run out and nothing cancelled or restarted it since. */
+    /** Whether the time is up and the timer was neither cancelled nor started again since. */
     bool IdleTimeoutExpired();
     bool VisibleTimeoutExpired();
 
@@ -101,7 +102,7 @@ private:
     void m_Remove();
     void m_ClosedByHost();
 
-    /** The common part of the list builders; `images` is what an image list has more than the others. */
+    /** The common part of the list builders. Only an image list has `images`. */
     template <typename List, typename... Images>
     bool m_ShowList(std::unique_ptr<List> list, int uiId, unsigned char sourceId, bool noClose, const Text& title,
                     const Text& sub, const Text& bottom, const Text& format, bool firstRowHeader, const Texts& entries,
@@ -110,13 +111,17 @@ private:
     /** The common end of all builders. */
     bool m_PresentOrLog(std::unique_ptr<BaseDisplay> display, int uiId, unsigned char sourceId, bool noClose);
 
-    /** Whether a screen is shown that the middleware knows by its ids. */
-    bool m_IsAnswerable() const;
-    void m_SendResponse(int kind, unsigned char button, unsigned char item, const std::string& data);
+    /** Answers for the screen and removes it. False, and nothing is done, when there is none with ids to answer for. */
+    bool m_Answer(int kind, unsigned char button = 0, unsigned char item = 0, const std::string& data = {});
+    void m_SendResponse(int kind, unsigned char button = 0, unsigned char item = 0, const std::string& data = {});
+
+    /** For the log. */
+    std::string m_ShownIds() const;
 
     void m_LockKeysForSource(unsigned char sourceId);
     void m_ReleaseAllKeys();
 
+    /** Whether this application was started from a hotel's factory menu. */
     bool m_HotelFactoryMode();
     void m_LaunchHotelFactoryMenu();
 
