@@ -1,5 +1,6 @@
 // The application's life on the TV: start, pause, resume, the two time-outs and the end.
 
+#include "TimeOuts.h"
 #include "Tv.h"
 
 #include <random>
@@ -70,8 +71,8 @@ TEST_F(Lifecycle, ATestCaseShowsItsScreenAndIsNeverAnswered)
 class TimeOuts : public TvTest
 {
 protected:
-    static constexpr std::chrono::milliseconds VISIBLE{VESKAR_VISIBLE_TIMEOUT_MS};
-    static constexpr std::chrono::milliseconds IDLE{VESKAR_IDLE_TIMEOUT_MS};
+    const std::chrono::milliseconds VISIBLE{VESKAR_APP::VISIBLE_TIMEOUT};
+    const std::chrono::milliseconds IDLE{VESKAR_APP::IDLE_TIMEOUT};
 
     /** Whether the application is still there, the same process, after a time in which nothing happens. */
     bool OutlivesFor(std::chrono::milliseconds time)

@@ -3,7 +3,8 @@
 
 #include "Screen.h"
 
-int veskar_main(int argc, char** argv);
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the linker's name for the application's main.
+extern "C" int __real_main(int argc, char** argv);
 
 struct Frame : TvTest
 {
@@ -19,7 +20,7 @@ struct Frame : TvTest
             argv.push_back(argument.data());
         }
         argv.push_back(nullptr);
-        return veskar_main(static_cast<int>(argv.size()) - 1, argv.data());
+        return __real_main(static_cast<int>(argv.size()) - 1, argv.data());
     }
     static bool Create() { return tv.application.create(tv.applicationData); }
     static void Pause() { tv.application.pause(tv.applicationData); }

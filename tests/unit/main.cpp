@@ -16,7 +16,8 @@ extern "C" const char* __tsan_default_suppressions()
 }
 // NOLINTEND(bugprone-reserved-identifier)
 
-int main(int argc, char** argv)
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the name is the linker's.
+extern "C" int __wrap_main(int argc, char** argv)
 {
     setenv("ELM_DISPLAY", "buffer", 1);
     setenv("ELM_ENGINE", "buffer", 1);

@@ -1,20 +1,13 @@
+/** The time-outs, in milliseconds. They have a source of their own, so that a test program can link shorter ones. */
 #pragma once
 
 namespace VESKAR_APP
 {
 
-// A test build may set shorter times; a TV uses these.
-#ifndef VESKAR_VISIBLE_TIMEOUT_MS
-#define VESKAR_VISIBLE_TIMEOUT_MS 30000
-#endif
-#ifndef VESKAR_IDLE_TIMEOUT_MS
-#define VESKAR_IDLE_TIMEOUT_MS 2000
-#endif
+/** How long a screen stays without a key. */
+extern const unsigned int VISIBLE_TIMEOUT;
 
-/** How long a screen stays without a key, in milliseconds. */
-constexpr unsigned int VISIBLE_TIMEOUT = VESKAR_VISIBLE_TIMEOUT_MS;
-
-/** How long the application stays after a pause without a new screen, in milliseconds. */
-constexpr unsigned int IDLE_TIMEOUT = VESKAR_IDLE_TIMEOUT_MS;
+/** How long the application stays after a pause without a new screen. */
+extern const unsigned int IDLE_TIMEOUT;
 
 } // namespace VESKAR_APP
