@@ -1,6 +1,7 @@
-// The application frame: the process's entry, and the platform's callbacks handed on to the window manager and the
-// service processor one at a time.
+// The application frame: main, and the platform's callbacks, which reach the window manager and the service processor
+// one at a time.
 
+#include "EflGuard.h"
 #include "Handles.h"
 #include "Log.h"
 #include "Orientation.h"
@@ -32,13 +33,13 @@ struct AppData
     void* reserved;
 };
 
-// Neither object is ever deleted: a timer's thread may still reach them while the process ends.
+// Neither object is ever deleted, because a timer's thread may still use it while the process ends.
 WindowManager* windowManager = nullptr;
 ServiceProcessor* serviceProcessor = nullptr;
 int testCaseId = NO_TEST_CASE;
 bool ignorePause = false;
 
-/** Held by every entry into the two objects for its whole duration. Main thread only: no timer ever waits for it. */
+/** Every callback that uses the two objects holds it to its end. Main thread only: no timer waits for it. */
 std::mutex operationMutex;
 
 void _languageChanged(app_event_info_h /*eventInfo*/, void* /*data*/)
@@ -48,17 +49,16 @@ void _languageChanged(app_event_info_h /*eventInfo*/, void* /*data*/)
     if (language && *language.get() != '\0')
     {
         LOG_INFO("Setting lang set " << language.get());
-        elm_language_set(language.get());
+        EFL_GUARD(elm_language_set, language.get());
     }
     const bool mirrored = IsRightToLeft();
-    elm_config_mirrored_set(mirrored ? EINA_TRUE : EINA_FALSE);
+    EFL_GUARD(elm_config_mirrored_set, mirrored ? EINA_TRUE : EINA_FALSE);
     LOG_INFO("Config mirroring set to " << (mirrored ? "EINA_TRUE" : "EINA_FALSE"));
 }
 
-// A timer's thread holds the timer's mutex while its callback runs, and the main loop takes that mutex whenever it
-// starts or cancels the timer. So a callback must wait for nothing that the main loop holds: it posts the rest and
-// returns. On the main loop the timer is asked again, so that a cancel or a restart that came first wins. Nothing is
-// handed over with the post: what it needs is found when it runs.
+// A timer's callback runs with the timer's mutex held, and the main loop takes that mutex to start or cancel the timer.
+// If the callback waited for anything that the main loop holds, both would hang. So it only posts the rest to the main
+// loop. By then the timer may have been cancelled or started again, so the posted part checks it first.
 
 void FinishIdleTimeout(void* /*data*/)
 {
@@ -100,13 +100,13 @@ bool _create(void* data)
         return false;
     }
 
-    elm_config_focus_highlight_enabled_set(EINA_TRUE);
-    elm_config_focus_highlight_animate_set(EINA_TRUE);
-    elm_policy_set(ELM_POLICY_QUIT, ELM_POLICY_QUIT_NONE);
-    // Before the window manager exists, so that its window is made in the right language and direction.
+    EFL_GUARD(elm_config_focus_highlight_enabled_set, EINA_TRUE);
+    EFL_GUARD(elm_config_focus_highlight_animate_set, EINA_TRUE);
+    EFL_GUARD(elm_policy_set, ELM_POLICY_QUIT, ELM_POLICY_QUIT_NONE);
+    // The window that the window manager creates needs the language and the direction.
     _languageChanged(nullptr, nullptr);
 
-    if (ecore_init() == 0)
+    if (ecore_init() == 0) // not guarded, because the guard itself is Ecore's
     {
         LOG_ERROR("Cannot initialize Ecore!");
         return false;
@@ -141,7 +141,7 @@ void _pause(void* /*data*/)
     const std::lock_guard<std::mutex> lock(operationMutex);
     if (ignorePause)
     {
-        // The flag stays until the next resume: a screen replaced twice pauses twice.
+        // Only a resume clears the flag: a screen that is replaced twice causes two pauses.
         LOG_INFO("Ignore pause!");
         return;
     }

@@ -1,4 +1,4 @@
-/** Owners of what the platform's C functions hand out; each frees its raw pointer once. */
+/** Owners of what the platform's C functions allocate. */
 #pragma once
 
 #include <cstdlib>
@@ -10,7 +10,7 @@
 namespace VESKAR_APP
 {
 
-/** Frees with the C function that belongs to what is owned. */
+/** A deleter that calls a C function. */
 template <auto Free>
 struct FreeWith
 {
@@ -21,14 +21,14 @@ struct FreeWith
     }
 };
 
-/** A string (or other block) that a C function allocated with malloc. */
+/** A string that a C function allocated with malloc. */
 using CString = std::unique_ptr<char, FreeWith<std::free>>;
 
-/** An array of strings that a C function allocated, elements and all. */
+/** An array of strings that a C function allocated, with its elements. */
 class CStringArray
 {
 public:
-    /** `strings` may be null, for an empty array. */
+    /** `strings` may be null: the array is then empty and false as a condition. */
     CStringArray(char** strings, int size) : m_strings(strings), m_size(strings != nullptr ? size : 0) {}
     ~CStringArray()
     {

@@ -1,9 +1,11 @@
 /**
- * The application's log: one line to the platform's log for each call, with the source file, the function, the line
- * and a text that is composed as with a stream: `LOG_INFO("test case id: " << id)`. Needs no set-up, any thread.
+ * The application's log. Each call writes one line to the platform's log: the source file, the function, the line and a
+ * text, which is written as to a stream: `LOG_INFO("test case id: " << id)`. Any thread.
  *
- * Levels: debug traces what the code does (almost every function begins with LOG_ENTRY), info tells what happened,
- * warning what went wrong without harm to the screen, error what was asked for and could not be done.
+ * A text must have no effect of its own, because a build may leave its level out: read a value first, then log it.
+ *
+ * Levels: debug traces the code (almost every function begins with LOG_ENTRY), info is what happened, warning is a
+ * failure without harm to the screen, error is something that was requested and failed.
  */
 #pragma once
 
@@ -31,7 +33,7 @@ constexpr LogLevel LOG_LEVEL_DEBUG{DLOG_DEBUG, VESKAR_LOG_PLAIN};
 constexpr LogLevel LOG_LEVEL_INFO{DLOG_INFO, VESKAR_LOG_GREEN};
 constexpr LogLevel LOG_LEVEL_ERROR{DLOG_ERROR, VESKAR_LOG_RED};
 
-/** The part of a path behind its last slash. */
+/** The part of a path after its last slash. */
 constexpr const char* LogFileName(const char* path)
 {
     const char* name = path;
@@ -65,7 +67,7 @@ constexpr const char* LogFileName(const char* path)
 #define LOG_ERROR(stream) VESKAR_LOG_STREAM(DLOG_ERROR, VESKAR_LOG_RED, stream)
 #define LOG_AT(level, stream) VESKAR_LOG_STREAM((level).priority, (level).format, stream)
 
-/** The trace at a function's beginning, and its rarer siblings at the other levels. */
+/** The trace at the beginning of a function, usually at debug level. */
 #define LOG_ENTRY() VESKAR_LOG_TEXT(DLOG_DEBUG, VESKAR_LOG_PLAIN, "")
 #define LOG_ENTRY_INFO() VESKAR_LOG_TEXT(DLOG_INFO, VESKAR_LOG_GREEN, "")
 #define LOG_ENTRY_ERROR() VESKAR_LOG_TEXT(DLOG_ERROR, VESKAR_LOG_RED, "")

@@ -12,17 +12,17 @@
 namespace VESKAR_APP
 {
 
-/** Overwrites the characters of a text that held a secret; unlike a plain fill it is never optimised away. */
+/** Overwrites the characters of a text that held a secret. The compiler cannot optimise this away. */
 template <typename Text>
 void Wipe(Text& text)
 {
-    if (!text.empty()) // an empty vector has no memory at all
+    if (!text.empty()) // an empty vector may have a null pointer
     {
         explicit_bzero(text.data(), text.size());
     }
 }
 
-/** Overwrites each block as it frees it, those that a growing container leaves behind included. */
+/** Overwrites each block before it is freed, also when a container moves to a larger block. */
 template <typename T>
 struct WipingAllocator
 {
@@ -47,7 +47,7 @@ struct WipingAllocator
 
 using SecretCharacters = std::vector<char, WipingAllocator<char>>;
 
-/** A text composed of parts, one of them secret; overwritten when it goes. */
+/** A text made of parts, some of them secret. The destructor overwrites it. */
 class SecretText
 {
 public:
@@ -58,7 +58,7 @@ public:
         {
             size += part.size();
         }
-        m_text.reserve(size); // so that no part is moved once it is in
+        m_text.reserve(size); // so that the text never moves and leaves a copy behind
         for (const std::string_view part : parts)
         {
             m_text.append(part);

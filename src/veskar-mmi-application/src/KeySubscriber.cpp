@@ -5,6 +5,7 @@
 #include "VesKarKeyRouter.h"
 
 #include <iterator>
+#include <utility>
 
 #include <Ecore_Evas.h>
 #include <ecore_wayland.h>
@@ -25,7 +26,7 @@ constexpr const char* NAVIGATION_KEYS[] = {"XF86Exit", "XF86Back", "Return", "Up
 constexpr const char* PVR_KEYS[] = {"XF86AudioRewind", "XF86AudioPause", "XF86AudioNext", "XF86AudioRecord",
                                     "XF86AudioPlay",   "XF86AudioStop",  "XF86PlayBack",  "XF86More"};
 
-// Some names stand here twice; taking a key again is harmless. By itself the formatter takes a line for each.
+// Some names are here twice, which is harmless. The formatter would give each name a line of its own.
 // clang-format off
 constexpr const char* CHANNEL_CHANGE_KEYS[] = {
     "XF86ChannelList", "XF86RaiseChannel", "XF86LowerChannel", "XF86PreviousChannel", "XF86SysMenu",
@@ -45,8 +46,17 @@ constexpr const char* CHANNEL_CHANGE_KEYS[] = {
 
 wl_display* ConnectedDisplay()
 {
+    const MainLoopSection section;
     Ecore_Wl2_Display* display = ecore_wl2_connected_display_get(nullptr);
     return display == nullptr ? nullptr : ecore_wl2_display_get(display);
+}
+
+std::pair<wl_registry*, wl_seat*> RegistryAndSeat()
+{
+    const MainLoopSection section;
+    Ecore_Wl2_Display* display = ecore_wl2_connected_display_get(nullptr);
+    return {ecore_wl2_display_registry_get(display),
+            ecore_wl2_input_seat_get(ecore_wl2_input_default_input_get(display))};
 }
 
 wl_surface* SurfaceOf(Evas_Object* window)
@@ -91,7 +101,7 @@ _KeyList NavigationKeyList()
     return list;
 }
 
-/** Registers the keys anew: an earlier registration of them is given back first. */
+/** Releases an earlier registration of the keys first. */
 void RegisterKeyList(wl_surface* surface, const _KeyList& list)
 {
     if (KeyRouter_UnSet_KeyList(surface, &list) == 0)
@@ -122,9 +132,9 @@ KeySubscriber::KeySubscriber(Evas_Object* window)
 {
     LOG_ENTRY_INFO();
     m_wlDisplay = ConnectedDisplay();
-    // Only a window on a Wayland display has a surface; another engine's canvas must not be asked for one.
+    // The toolkit must not be asked for the surface of a window that is not on a Wayland display.
     m_surface = m_wlDisplay == nullptr || m_window == nullptr ? nullptr : SurfaceOf(m_window);
-    ecore_wl2_sync();
+    EFL_GUARD(ecore_wl2_sync);
 
     if (m_wlDisplay == nullptr)
     {
@@ -153,9 +163,7 @@ void KeySubscriber::RegisterKeys()
         return;
     }
 
-    Ecore_Wl2_Display* display = ecore_wl2_connected_display_get(nullptr);
-    wl_registry* registry = ecore_wl2_display_registry_get(display);
-    wl_seat* seat = ecore_wl2_input_seat_get(ecore_wl2_input_default_input_get(display));
+    const auto [registry, seat] = RegistryAndSeat();
     if (KeyRouter_Initialize(m_wlDisplay, registry, seat, static_cast<unsigned int>(id)) == 0)
     {
         LOG_WARN("Failed to initialise KeyRouter interface");
@@ -169,7 +177,7 @@ void KeySubscriber::m_GrabKey(const char* key)
     {
         return;
     }
-    // Another client holds the key for itself alone; on top of the windows it may still be heard.
+    // Another client holds the key exclusively. This window may still get it while it is the topmost one.
     KeyRouter_Remove_Key(key, KEYROUTER_MODE_EXCLUSIVE, &list);
     KeyRouter_Add_Key(key, KEYROUTER_MODE_TOPMOST, &list);
     if (KeyRouter_Set_KeyList(m_surface, &list) == 0)

@@ -11,10 +11,10 @@ namespace VESKAR_APP
 {
 
 /**
- * Takes and gives back groups of the remote control's keys for one window, through the compositor's key router.
+ * Grabs groups of the remote control's keys for one window, through the compositor's key router.
  *
- * Lock takes a group, Unlock gives it back; both may be repeated. What fails is a warning in the log: the application
- * runs on with the keys not taken. Main thread.
+ * Lock grabs a group and Unlock releases it; either may be repeated. A failure is only a warning in the log, and the
+ * keys are not grabbed then. Main thread.
  */
 class KeySubscriber
 {

@@ -30,7 +30,7 @@ void OneShotTimerCallback::StartTimer(unsigned int milliseconds)
 {
     CancelTimer();
     LOG_DEBUG("milliseconds:" << milliseconds);
-    // The new thread begins by taking the mutex, so it sees the deadline and never a half-stored thread.
+    // The new thread waits for the mutex, so it starts with the deadline set and the thread stored.
     std::lock_guard<std::mutex> lock(m_mutex);
     m_deadline = Clock::now() + std::chrono::milliseconds(milliseconds);
     m_thread = std::thread(&OneShotTimerCallback::waitThread, this);
@@ -61,9 +61,9 @@ void OneShotTimerCallback::waitThread()
     std::unique_lock<std::mutex> lock(m_mutex);
     const auto remaining = std::chrono::duration_cast<std::chrono::milliseconds>(m_deadline - Clock::now());
     LOG_DEBUG("duration:" << static_cast<long long>(remaining.count()));
-    // A copy, because the wait reads it without the mutex while CancelTimer may clear the field.
     while (m_deadline != NOT_ARMED && Clock::now() < m_deadline)
     {
+        // A copy, because the wait reads it without the mutex, and CancelTimer may clear the field meanwhile.
         const Clock::time_point deadline = m_deadline;
         m_condition.wait_until(lock, deadline);
     }

@@ -10,11 +10,11 @@ namespace VESKAR_APP
 {
 
 /**
- * Calls a function once, a time after it was started, unless it is cancelled or started again before.
+ * Calls a function once, a given time after the start, unless it is cancelled or started again first.
  *
  * StartTimer, CancelTimer and the destructor belong to one thread, the owner's. The callback runs on the timer's own
- * thread with the timer's mutex held: it must neither start nor cancel this timer, nor wait for a thread that does.
- * What needs more is posted to the main loop, which asks Expired() again before it acts.
+ * thread with the timer's mutex held. It must neither start nor cancel this timer, nor wait for a thread that does. A
+ * callback that needs more posts it to the main loop, which checks Expired() before it acts.
  */
 class OneShotTimerCallback
 {
@@ -25,13 +25,13 @@ public:
     OneShotTimerCallback(const OneShotTimerCallback&) = delete;
     OneShotTimerCallback& operator=(const OneShotTimerCallback&) = delete;
 
-    /** Arms the timer, cancelling its current run first. */
+    /** Arms the timer and cancels its current run first. */
     void StartTimer(unsigned int milliseconds);
 
     /** Disarms the timer; returns when its thread has ended. */
     void CancelTimer();
 
-    /** Whether the time has run out and the timer was neither cancelled nor started again since. Any thread. */
+    /** Whether the time is up and the timer was neither cancelled nor started again since. Any thread. */
     bool Expired();
 
 private:

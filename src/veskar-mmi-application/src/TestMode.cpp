@@ -80,7 +80,7 @@ Texts EightColumns()
     return entries;
 }
 
-/** Each row fills one cell only, a column further on than the row above. */
+/** Each row has text in one cell only, one column further on than the row above. */
 Texts MalformedColumns()
 {
     constexpr int COLUMNS = 7;

@@ -6,8 +6,8 @@ namespace VESKAR_APP
 class IWindowManager;
 
 /**
- * Shows sample screen 0 to 22 through the window manager's own operations, with UI id 0 and source id 0; false for any
- * other number and for a screen that could not be shown.
+ * Shows one of the sample screens, 0 to 22, through the window manager's own operations, with UI id 0 and source id 0.
+ * False for any other number and for a screen that could not be shown.
  */
 bool ShowTestCase(IWindowManager& windowManager, int testId);
 

@@ -1,6 +1,7 @@
 #include "VesKarKeyRouter.h"
 
 #include "EflGuard.h"
+#include "Handles.h"
 #include "Log.h"
 
 #include <cstring>
@@ -15,16 +16,17 @@ namespace VESKAR_APP
 namespace
 {
 
-using EinaIterator = std::unique_ptr<Eina_Iterator, GuardedFreeWith<eina_iterator_free>>;
+using EinaIterator = std::unique_ptr<Eina_Iterator, FreeWith<eina_iterator_free>>;
 
-} // namespace
+constexpr int NOT_FOUND = -1;
 
-int VesKarKeyRouter_GetId()
+int FindKeyRouter()
 {
+    const MainLoopSection section;
     const EinaIterator globals(ecore_wl2_display_globals_get(ecore_wl2_connected_display_get(nullptr)));
     if (!globals)
     {
-        return -1;
+        return NOT_FOUND;
     }
 
     void* item = nullptr;
@@ -33,11 +35,22 @@ int VesKarKeyRouter_GetId()
         const auto* global = static_cast<const Ecore_Wl2_Global*>(item);
         if (std::strcmp(global->interface, KEYROUTER_INTERFACE) == 0)
         {
-            LOG_INFO("Found KeyRouter object");
             return static_cast<int>(global->id);
         }
     }
-    return -1;
+    return NOT_FOUND;
+}
+
+} // namespace
+
+int VesKarKeyRouter_GetId()
+{
+    const int id = FindKeyRouter();
+    if (id != NOT_FOUND)
+    {
+        LOG_INFO("Found KeyRouter object");
+    }
+    return id;
 }
 
 } // namespace VESKAR_APP

@@ -2,6 +2,22 @@
 
 #include "Tv.h"
 
+#include <gtest/gtest.h>
+
+namespace
+{
+
+/** The main-loop sections that this thread is in; every toolkit call needs one. */
+thread_local int sections = 0;
+
+void Did(const std::string& deed)
+{
+    EXPECT_GT(sections, 0) << deed;
+    tv.deeds.push_back(deed);
+}
+
+} // namespace
+
 // NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's.
 extern "C"
 {
@@ -15,16 +31,16 @@ extern "C"
 
     void __wrap_elm_win_iconified_set(Evas_Object*, Eina_Bool iconified)
     {
-        tv.deeds.push_back(iconified ? "iconify" : "restore");
+        Did(iconified ? "iconify" : "restore");
     }
 
     void __wrap_elm_win_activate(Evas_Object*)
     {
-        tv.deeds.push_back("activate");
+        Did("activate");
     }
     void __wrap_elm_language_set(const char* language)
     {
-        tv.deeds.push_back("language " + std::string(language));
+        Did("language " + std::string(language));
     }
 
     int __real_ecore_init();
@@ -33,11 +49,25 @@ extern "C"
         return tv.Fails("ecore_init") ? 0 : __real_ecore_init();
     }
 
+    int __real_ecore_thread_main_loop_begin();
+    int __wrap_ecore_thread_main_loop_begin()
+    {
+        ++sections;
+        return __real_ecore_thread_main_loop_begin();
+    }
+    int __real_ecore_thread_main_loop_end();
+    int __wrap_ecore_thread_main_loop_end()
+    {
+        --sections;
+        return __real_ecore_thread_main_loop_end();
+    }
+
     // A Wayland connection whose every object is this TV: none of them is looked into.
 
 #define OPAQUE(Result, function, Argument)                                                                             \
     Result* __wrap_##function(Argument*)                                                                               \
     {                                                                                                                  \
+        EXPECT_GT(sections, 0) << #function;                                                                           \
         return reinterpret_cast<Result*>(&tv);                                                                         \
     }
     OPAQUE(wl_display, ecore_wl2_display_get, Ecore_Wl2_Display)
@@ -45,10 +75,14 @@ extern "C"
     OPAQUE(Ecore_Wl2_Input, ecore_wl2_input_default_input_get, const Ecore_Wl2_Display)
     OPAQUE(wl_seat, ecore_wl2_input_seat_get, Ecore_Wl2_Input)
     OPAQUE(Ecore_Wl2_Window, ecore_evas_wayland2_window_get, const Ecore_Evas)
-    void ecore_wl2_sync(void) {}
+    void ecore_wl2_sync(void)
+    {
+        EXPECT_GT(sections, 0);
+    }
 
     Ecore_Wl2_Display* __wrap_ecore_wl2_connected_display_get(const char*)
     {
+        EXPECT_GT(sections, 0);
         return tv.hasWaylandDisplay ? reinterpret_cast<Ecore_Wl2_Display*>(&tv) : nullptr;
     }
 
