@@ -54,14 +54,14 @@ TEST_F(KeySubscriberTest, SingleKeysAreTakenExclusivelyOneByOne)
     EXPECT_THAT(tv.heldKeys, IsEmpty());
     EXPECT_THAT(Do(&KeySubscriber::LockExitKey), ElementsAre("grab XF86Exit:4"));
     EXPECT_THAT(Do(&KeySubscriber::UnlockExitKey), ElementsAre("release XF86Exit:4"));
-    EXPECT_THAT(Do(&KeySubscriber::LockChannelChangeKeys), SizeIs(80)); // some stand twice
+    EXPECT_THAT(Do(&KeySubscriber::LockChannelChangeKeys), SizeIs(80)); // some names are in it twice
     EXPECT_THAT(tv.heldKeys, AllOf(SizeIs(72), Each(Pair(StartsWith("XF86"), 4))));
     EXPECT_THAT(Do(&KeySubscriber::UnlockChannelChangeKeys), AllOf(SizeIs(80), Each(StartsWith("release XF86"))));
     EXPECT_THAT(tv.heldKeys, IsEmpty());
     EXPECT_THAT(tv.Log(DLOG_WARN), IsEmpty());
 }
 
-TEST_F(KeySubscriberTest, ListsAreRegisteredAnew)
+TEST_F(KeySubscriberTest, AListReleasesItsEarlierRegistrationFirst)
 {
     const std::string navigation = NAVIGATION;
     const std::string pvr = PVR;

@@ -54,8 +54,6 @@ TEST_F(OneShotTimerCallbackTest, CallsOnceOnAThreadOfItsOwnAfterTheTimeOfTheLast
     timer.CancelTimer();
     EXPECT_EQ(calls, 1);
     EXPECT_NE(thread, std::this_thread::get_id());
-    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "milliseconds:50"));
-    EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "timeout!"));
 }
 
 TEST_F(OneShotTimerCallbackTest, ACancelledDestroyedOrEmptyTimerCallsNothingAndDoesNotWait)
@@ -74,7 +72,6 @@ TEST_F(OneShotTimerCallbackTest, ACancelledDestroyedOrEmptyTimerCallsNothingAndD
     }
     EXPECT_LT(Clock::now() - start, 30s);
     EXPECT_EQ(calls, 0);
-    EXPECT_FALSE(tv.Logged(DLOG_DEBUG, "timeout!"));
 }
 
 } // namespace

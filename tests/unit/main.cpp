@@ -4,7 +4,7 @@
 #include <Elementary.h>
 #include <gmock/gmock.h>
 
-// Asked by the sanitizers: what the toolkit keeps to its end, its own order of locks, and what the frame never deletes.
+// For the sanitizers: what the toolkit keeps to the end, its own order of locks, and what the frame never deletes.
 // NOLINTBEGIN(bugprone-reserved-identifier): the names are the sanitizers'.
 extern "C" const char* __lsan_default_suppressions()
 {
