@@ -1,4 +1,4 @@
-// The service processor's readers of request values, and the writer of one.
+// The service processor's readers of request values, and its writer.
 
 #include "Handles.h"
 #include "Log.h"
@@ -27,7 +27,7 @@ std::optional<std::string> ReadText(app_control_h request, const char* key)
     return std::string(owner.get());
 }
 
-/** False as a condition when the key is not there. */
+/** False as a condition when the request does not have the key. */
 CStringArray ReadArray(app_control_h request, const char* key)
 {
     char** values = nullptr;
@@ -51,7 +51,7 @@ bool ServiceProcessor::m_GetParameter(app_control_h const& request, const char* 
     {
         return false;
     }
-    value = 0; // an empty text leaves the stream before it writes anything
+    value = 0; // the stream writes nothing when the text is empty
     std::istringstream(*text) >> value;
     return true;
 }
@@ -96,7 +96,7 @@ bool ServiceProcessor::m_GetDataArray(app_control_h const& request, const char* 
         data.push_back(static_cast<unsigned char>(array[i][0]));
         dump << std::setw(2) << static_cast<int>(data.back()) << ' ';
     }
-    // The text is streamed, so the "%s" appears as it stands; tools that read the log look for it.
+    // Streamed, not formatted: the "%s" stays in the line on purpose.
     LOG_INFO("MMI message received %s" << dump.str());
     return true;
 }

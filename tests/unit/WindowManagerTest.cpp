@@ -218,7 +218,7 @@ TEST_F(WindowManagerTest, AProgressIsUpdatedInPlaceForTheSameIdsAlone)
     EXPECT_THAT(Do([this] { manager->ShowProgress(8, 254, "T", "S", "", 60); }), Contains("answer 8 254 2 0 0 \"\""));
 }
 
-/** A screen that fails where it is told to. */
+/** A screen that cannot be created, or else not shown. */
 struct Faulty : BaseDisplay
 {
     Faulty(WindowManager& manager, bool creates) : BaseDisplay(manager, tv.window, {}, "", false), mCreates(creates) {}
