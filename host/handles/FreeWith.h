@@ -1,4 +1,5 @@
-/** Makes a std::unique_ptr the owner of what a C function hands out: it is freed with the C function that belongs to it. */
+/** Makes a std::unique_ptr the owner of what a C function hands out: it is freed with the C function that belongs to
+ * it. */
 #pragma once
 
 namespace veskar

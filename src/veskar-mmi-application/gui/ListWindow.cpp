@@ -13,7 +13,8 @@ const MenuListKind ListWindow::KIND = {1217,         LOG_LEVEL_DEBUG,    LOG_LEV
 int ListWindow::s_numColumns = 1;
 
 ListWindow::ListWindow(IUserInteraction& userInteraction, bool selectable, Evas_Object* mainWindow)
-    : BaseDisplay(userInteraction, mainWindow, {}, LARGE_POPUP_STYLE, true), m_list(KIND, this), m_selectable(selectable)
+    : BaseDisplay(userInteraction, mainWindow, {}, LARGE_POPUP_STYLE, true), m_list(KIND, this),
+      m_selectable(selectable)
 {
     LOG_ENTRY();
 }

@@ -16,7 +16,8 @@ const MenuListKind MultipleListWindow::KIND = {
 int MultipleListWindow::s_numColumns = 1;
 
 MultipleListWindow::MultipleListWindow(IUserInteraction& userInteraction, bool selectable, Evas_Object* mainWindow)
-    : BaseDisplay(userInteraction, mainWindow, {}, LARGE_POPUP_STYLE, true), m_list(KIND, this), m_selectable(selectable)
+    : BaseDisplay(userInteraction, mainWindow, {}, LARGE_POPUP_STYLE, true), m_list(KIND, this),
+      m_selectable(selectable)
 {
     LOG_ENTRY();
 }
