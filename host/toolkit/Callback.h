@@ -1,4 +1,4 @@
-/** Callbacks of toolkit objects as values: each is taken back when its owner goes. */
+/** Callbacks of the toolkit as values: each calls a method of its owner and is taken back together with it. */
 #pragma once
 
 #include <Elementary.h>
@@ -6,35 +6,53 @@
 namespace veskar
 {
 
-/** A smart callback that calls a method of its owner: `SmartCallback focused = {list, "focused", Call<&T::OnX>(this)}`.
- */
+template <class Method>
+struct OwnerOf;
+
+template <class Result, class Owner, class... Arguments>
+struct OwnerOf<Result (Owner::*)(Arguments...)>
+{
+    using Type = Owner;
+};
+
+template <auto Method>
+auto* Owner(void* data)
+{
+    return static_cast<typename OwnerOf<decltype(Method)>::Type*>(data);
+}
+
+/** A smart callback for a method that takes the event's info, a void*. */
+template <auto Method>
+void CallSmart(void* data, Evas_Object* /*object*/, void* info)
+{
+    (Owner<Method>(data)->*Method)(info);
+}
+
+/** A canvas object's callback for a method without arguments. */
+template <auto Method>
+void CallEvent(void* data, Evas* /*canvas*/, Evas_Object* /*object*/, void* /*info*/)
+{
+    (Owner<Method>(data)->*Method)();
+}
+
+/** A main loop's task for a method without arguments. */
+template <auto Method>
+Eina_Bool CallTask(void* data)
+{
+    (Owner<Method>(data)->*Method)();
+    return ECORE_CALLBACK_RENEW;
+}
+
+/** `object` outlives it, and `owner` has the method. */
 class SmartCallback
 {
 public:
-    struct Target
+    SmartCallback(Evas_Object* object, const char* event, Evas_Smart_Cb function, void* owner)
+        : m_object(object), m_event(event), m_function(function), m_owner(owner)
     {
-        Evas_Smart_Cb function;
-        void* owner;
-    };
-
-    /** `Method` takes the event's info, a void*. */
-    template <auto Method, class Owner>
-    static Target Call(Owner* owner)
-    {
-        const auto function = [](void* data, Evas_Object*, void* info)
-        {
-            (static_cast<Owner*>(data)->*Method)(info);
-        };
-        return {function, owner};
+        evas_object_smart_callback_add(m_object, m_event, m_function, m_owner);
     }
-
-    /** `object` outlives this. */
-    SmartCallback(Evas_Object* object, const char* event, Target target)
-        : m_object(object), m_event(event), m_target(target)
-    {
-        evas_object_smart_callback_add(m_object, m_event, m_target.function, m_target.owner);
-    }
-    ~SmartCallback() { evas_object_smart_callback_del_full(m_object, m_event, m_target.function, m_target.owner); }
+    ~SmartCallback() { evas_object_smart_callback_del_full(m_object, m_event, m_function, m_owner); }
 
     SmartCallback(const SmartCallback&) = delete;
     SmartCallback& operator=(const SmartCallback&) = delete;
@@ -42,47 +60,49 @@ public:
 private:
     Evas_Object* m_object;
     const char* m_event;
-    Target m_target;
+    Evas_Smart_Cb m_function;
+    void* m_owner;
 };
 
-/** The same for the events of a canvas object; the method takes nothing. */
-class ObjectCallback
+/** The same for an event of the canvas. */
+class EventCallback
 {
 public:
-    struct Target
+    EventCallback(Evas_Object* object, Evas_Callback_Type event, Evas_Object_Event_Cb function, void* owner)
+        : m_object(object), m_event(event), m_function(function), m_owner(owner)
     {
-        Evas_Object_Event_Cb function;
-        void* owner;
-    };
-
-    template <auto Method, class Owner>
-    static Target Call(Owner* owner)
-    {
-        const auto function = [](void* data, Evas*, Evas_Object*, void*)
-        {
-            (static_cast<Owner*>(data)->*Method)();
-        };
-        return {function, owner};
+        evas_object_event_callback_add(m_object, m_event, m_function, m_owner);
     }
+    ~EventCallback() { evas_object_event_callback_del_full(m_object, m_event, m_function, m_owner); }
 
-    /** `object` outlives this. */
-    ObjectCallback(Evas_Object* object, Evas_Callback_Type event, Target target)
-        : m_object(object), m_event(event), m_target(target)
-    {
-        evas_object_event_callback_add(m_object, m_event, m_target.function, m_target.owner);
-    }
-    ~ObjectCallback() { evas_object_event_callback_del_full(m_object, m_event, m_target.function, m_target.owner); }
-
-    ObjectCallback(const ObjectCallback&) = delete;
-    ObjectCallback& operator=(const ObjectCallback&) = delete;
+    EventCallback(const EventCallback&) = delete;
+    EventCallback& operator=(const EventCallback&) = delete;
 
 private:
     Evas_Object* m_object;
     Evas_Callback_Type m_event;
-    Target m_target;
+    Evas_Object_Event_Cb m_function;
+    void* m_owner;
 };
 
-/** A new T that lives as long as `object` does; its constructor's arguments follow. */
+/**
+ * Calls its owner each time that the main loop has nothing left to do, before it draws. Construct first what is to be
+ * called last: they run in reverse order of construction.
+ */
+class IdleEnterer
+{
+public:
+    IdleEnterer(Ecore_Task_Cb function, void* owner) : m_handle(ecore_idle_enterer_add(function, owner)) {}
+    ~IdleEnterer() { ecore_idle_enterer_del(m_handle); }
+
+    IdleEnterer(const IdleEnterer&) = delete;
+    IdleEnterer& operator=(const IdleEnterer&) = delete;
+
+private:
+    Ecore_Idle_Enterer* m_handle;
+};
+
+/** Constructs a T that is deleted together with `object`. */
 template <class T, class... Arguments>
 void LiveWith(Evas_Object* object, Arguments... arguments)
 {
@@ -92,37 +112,5 @@ void LiveWith(Evas_Object* object, Arguments... arguments)
     };
     evas_object_event_callback_add(object, EVAS_CALLBACK_DEL, destroy, new T(arguments...));
 }
-
-/** Called each time that the main loop has nothing left to do, before it draws. Of two the later one is called first.
- */
-class IdleEnterer
-{
-public:
-    struct Target
-    {
-        Ecore_Task_Cb function;
-        void* owner;
-    };
-
-    template <auto Method, class Owner>
-    static Target Call(Owner* owner)
-    {
-        const auto function = [](void* data) -> Eina_Bool
-        {
-            (static_cast<Owner*>(data)->*Method)();
-            return ECORE_CALLBACK_RENEW;
-        };
-        return {function, owner};
-    }
-
-    explicit IdleEnterer(Target target) : m_handle(ecore_idle_enterer_add(target.function, target.owner)) {}
-    ~IdleEnterer() { ecore_idle_enterer_del(m_handle); }
-
-    IdleEnterer(const IdleEnterer&) = delete;
-    IdleEnterer& operator=(const IdleEnterer&) = delete;
-
-private:
-    Ecore_Idle_Enterer* m_handle;
-};
 
 } // namespace veskar

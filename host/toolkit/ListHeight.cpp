@@ -25,8 +25,8 @@ int RowWidth(const Evas_Object* list)
 } // namespace
 
 ListHeight::ListHeight(Evas_Object* list)
-    : m_list(list), m_shown(list, EVAS_CALLBACK_SHOW, ObjectCallback::Call<&ListHeight::m_OnShown>(this)),
-      m_rowRealised(list, "realized", SmartCallback::Call<&ListHeight::m_OnRowRealised>(this))
+    : m_list(list), m_shown(list, EVAS_CALLBACK_SHOW, CallEvent<&ListHeight::m_OnShown>, this),
+      m_rowRealised(list, "realized", CallSmart<&ListHeight::m_OnRowRealised>, this)
 {
 }
 

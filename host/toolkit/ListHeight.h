@@ -22,7 +22,7 @@ private:
     void m_TightenHeader();
 
     Evas_Object* m_list;
-    ObjectCallback m_shown;
+    EventCallback m_shown;
     SmartCallback m_rowRealised;
 };
 

@@ -34,14 +34,14 @@ Evas_Object* FirstButton(const Evas_Object* list)
 
 RowFocus::RowFocus(Evas_Object* list)
     : m_list(list), m_window(elm_object_top_widget_get(list)),
-      m_shown(list, EVAS_CALLBACK_SHOW, ObjectCallback::Call<&RowFocus::m_OnShown>(this)),
-      m_windowFocused(m_window, "focused", SmartCallback::Call<&RowFocus::m_OnWindowFocused>(this)),
-      m_listFocused(list, "focused", SmartCallback::Call<&RowFocus::m_OnListFocused>(this)),
-      m_listUnfocused(list, "unfocused", SmartCallback::Call<&RowFocus::m_OnListUnfocused>(this)),
-      m_rowFocused(list, "item,focused", SmartCallback::Call<&RowFocus::m_OnRowFocused>(this)),
-      m_rowRealised(list, "realized", SmartCallback::Call<&RowFocus::m_OnRowRealised>(this)),
-      m_rowSelected(list, "selected", SmartCallback::Call<&RowFocus::m_OnRowPressed>(this)),
-      m_rowUnselected(list, "unselected", SmartCallback::Call<&RowFocus::m_OnRowPressed>(this))
+      m_shown(list, EVAS_CALLBACK_SHOW, CallEvent<&RowFocus::m_OnShown>, this),
+      m_windowFocused(m_window, "focused", CallSmart<&RowFocus::m_OnWindowFocused>, this),
+      m_listFocused(list, "focused", CallSmart<&RowFocus::m_OnListFocused>, this),
+      m_listUnfocused(list, "unfocused", CallSmart<&RowFocus::m_OnListUnfocused>, this),
+      m_rowFocused(list, "item,focused", CallSmart<&RowFocus::m_OnRowFocused>, this),
+      m_rowRealised(list, "realized", CallSmart<&RowFocus::m_OnRowRealised>, this),
+      m_rowSelected(list, "selected", CallSmart<&RowFocus::m_OnRowPressed>, this),
+      m_rowUnselected(list, "unselected", CallSmart<&RowFocus::m_OnRowPressed>, this)
 {
     elm_object_event_callback_add(m_list, s_OnKey, this);
 }

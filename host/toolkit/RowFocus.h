@@ -62,7 +62,7 @@ private:
     bool m_moved = false; // m_row counts: before that the first row is the viewer's
     bool m_litEarly = false;
     Ecore_Job* m_restoring = nullptr;
-    ObjectCallback m_shown;
+    EventCallback m_shown;
     SmartCallback m_windowFocused;
     SmartCallback m_listFocused;
     SmartCallback m_listUnfocused;

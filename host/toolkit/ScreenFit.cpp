@@ -67,8 +67,8 @@ int Lowered(int limit, int asked, int excess)
 
 ScreenFit::ScreenFit(Evas_Object* window, Evas_Object* popup)
     : m_window(window), m_popup(popup),
-      m_windowResized(window, EVAS_CALLBACK_RESIZE, ObjectCallback::Call<&ScreenFit::m_OnWindowResized>(this)),
-      m_beforeDrawing(IdleEnterer::Call<&ScreenFit::m_Fit>(this))
+      m_windowResized(window, EVAS_CALLBACK_RESIZE, CallEvent<&ScreenFit::m_OnWindowResized>, this),
+      m_beforeDrawing(CallTask<&ScreenFit::m_Fit>, this)
 {
 }
 

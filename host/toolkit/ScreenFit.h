@@ -14,7 +14,8 @@ namespace veskar
  * is too large for the window would push the texts around it out of view. Where that happens, the least sizes of
  * images, lists and text pages are lowered until the whole screen fits.
  *
- * Create after the screen's WholeFrames: the screen is then fitted first, and the theme hears only of its final size.
+ * Construct it after the screen's WholeFrames: the screen is then fitted first, and the theme hears only of its final
+ * size.
  */
 class ScreenFit
 {
@@ -47,7 +48,7 @@ private:
     std::map<Evas_Object*, Least> m_leasts;
     Size m_limit{UNLIMITED, UNLIMITED};
     Size m_screen; // when the limits were lowered last: if it is as large still, that was in vain
-    ObjectCallback m_windowResized;
+    EventCallback m_windowResized;
     IdleEnterer m_beforeDrawing;
 };
 

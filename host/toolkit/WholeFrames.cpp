@@ -4,7 +4,7 @@ namespace veskar
 {
 
 WholeFrames::WholeFrames(Evas_Object* window)
-    : m_canvas(evas_object_evas_get(window)), m_beforeDrawing(IdleEnterer::Call<&WholeFrames::m_Complete>(this))
+    : m_canvas(evas_object_evas_get(window)), m_beforeDrawing(CallTask<&WholeFrames::m_Complete>, this)
 {
 }
 

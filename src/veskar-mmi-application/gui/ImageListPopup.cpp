@@ -18,8 +18,9 @@ constexpr int SPACER_WIDTH = 20;
 
 } // namespace
 
-const MenuListKind ImageListPopup::KIND = {1280,         LOG_LEVEL_DEBUG,    LOG_LEVEL_ERROR, s_CreateListItemTemplate,
-                                           s_ContentGet, s_OnMenuItemClicked};
+const MenuListKind ImageListPopup::KIND = {
+    1280, LOG_LEVEL_DEBUG, LOG_LEVEL_ERROR, s_CreateListItemTemplate, s_ContentGet, s_OnMenuItemClicked,
+};
 
 const std::string ImageListPopup::KEY_DIRECTION_UP = "Up";
 const std::string ImageListPopup::KEY_DIRECTION_DOWN = "Down";

@@ -7,8 +7,9 @@
 namespace VESKAR_APP
 {
 
-const MenuListKind ListWindow::KIND = {1217,         LOG_LEVEL_DEBUG,    LOG_LEVEL_ERROR, s_CreateListItemTemplate,
-                                       s_ContentGet, s_OnMenuItemClicked};
+const MenuListKind ListWindow::KIND = {
+    1217, LOG_LEVEL_DEBUG, LOG_LEVEL_ERROR, s_CreateListItemTemplate, s_ContentGet, s_OnMenuItemClicked,
+};
 
 int ListWindow::s_numColumns = 1;
 

@@ -11,7 +11,8 @@ namespace VESKAR_APP
 {
 
 const MenuListKind MultipleListWindow::KIND = {
-    1280, LOG_LEVEL_INFO, LOG_LEVEL_INFO, s_CreateListItemTemplate, s_ContentGet, s_OnMenuItemClicked};
+    1280, LOG_LEVEL_INFO, LOG_LEVEL_INFO, s_CreateListItemTemplate, s_ContentGet, s_OnMenuItemClicked,
+};
 
 int MultipleListWindow::s_numColumns = 1;
 
@@ -135,13 +136,10 @@ void MultipleListWindow::s_OnDeleteButtonClicked(void* data, Evas_Object* /*obje
         return;
     }
     std::string indexes;
+    for (const Eina_List* node = selected; node != nullptr; node = eina_list_next(node))
     {
-        const MainLoopSection section;
-        for (const Eina_List* node = selected; node != nullptr; node = eina_list_next(node))
-        {
-            auto* item = static_cast<Elm_Object_Item*>(eina_list_data_get(node));
-            indexes += std::to_string(elm_genlist_item_index_get(item));
-        }
+        auto* item = static_cast<Elm_Object_Item*>(eina_list_data_get(node));
+        indexes += std::to_string(EFL_GUARD(elm_genlist_item_index_get, item));
     }
     // By digit, not by row: that is the form in which the middleware takes the selection.
     std::sort(indexes.begin(), indexes.end());

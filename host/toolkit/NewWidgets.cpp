@@ -1,0 +1,37 @@
+// What the program's widgets are given when they are created: a list the height of its rows and a focus that walks them
+// one by one, a screen whole pictures and a size that the TV can show.
+
+#include "ListHeight.h"
+#include "RowFocus.h"
+#include "ScreenFit.h"
+#include "WholeFrames.h"
+
+// NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's.
+extern "C"
+{
+    Evas_Object* __real_elm_genlist_add(Evas_Object* parent);
+    Evas_Object* __real_elm_popup_add(Evas_Object* parent);
+
+    Evas_Object* __wrap_elm_genlist_add(Evas_Object* parent)
+    {
+        Evas_Object* list = __real_elm_genlist_add(parent);
+        if (list != nullptr)
+        {
+            veskar::LiveWith<veskar::ListHeight>(list, list);
+            veskar::LiveWith<veskar::RowFocus>(list, list);
+        }
+        return list;
+    }
+
+    Evas_Object* __wrap_elm_popup_add(Evas_Object* parent)
+    {
+        Evas_Object* popup = __real_elm_popup_add(parent);
+        if (popup != nullptr)
+        {
+            veskar::LiveWith<veskar::WholeFrames>(popup, parent);
+            veskar::LiveWith<veskar::ScreenFit>(popup, parent, popup);
+        }
+        return popup;
+    }
+}
+// NOLINTEND(bugprone-reserved-identifier)
