@@ -128,6 +128,23 @@ bool TakesSkinTone(char32_t character)
     return isEmoji && !isFace && !IsSkinTone(character);
 }
 
+/** Counts the characters that join one before them. No language puts so many on a letter, and each costs the toolkit.
+ */
+class MarkRun
+{
+public:
+    /** False for one too many. */
+    bool Take(char32_t character)
+    {
+        constexpr int MOST = 30;
+        m_length = Joins(character) ? m_length + 1 : 0;
+        return m_length <= MOST;
+    }
+
+private:
+    int m_length = 0;
+};
+
 void Append(std::u32string& text, char32_t character)
 {
     const char32_t before = text.empty() ? U'\n' : text.back();
@@ -150,18 +167,20 @@ void Append(std::u32string& text, char32_t character)
 std::string LaidOutWell(const char* text)
 {
     Nesting nesting;
+    MarkRun marks;
     std::u32string result;
     int at = 0;
     for (char32_t character = 0; (character = eina_unicode_utf8_next_get(text, &at)) != 0;)
     {
-        if (!IsControl(character) && nesting.Take(character))
+        if (!IsControl(character) && marks.Take(character) && nesting.Take(character))
         {
             Append(result, character);
         }
     }
     int length = 0;
-    const std::vector<Eina_Unicode> units(result.begin(), result.end());
-    const CString bytes(eina_unicode_unicode_to_utf8_range(units.data(), static_cast<int>(units.size()), &length));
+    std::vector<Eina_Unicode> units(result.begin(), result.end());
+    units.push_back(0); // the toolkit reads one behind the range
+    const CString bytes(eina_unicode_unicode_to_utf8_range(units.data(), static_cast<int>(units.size()) - 1, &length));
     return {bytes.get(), static_cast<std::size_t>(length)};
 }
 

@@ -3,6 +3,11 @@
 #include "Shown.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -165,6 +170,29 @@ TEST_F(ToolkitTest, AScreenTooLargeForTheTvIsMadeToFit)
     ExpectOnScreen("elm_button");
     ExpectOnScreen("elm_image");
     EXPECT_GT(BoxOf(Find("elm_genlist")).height, 0);
+}
+
+TEST_F(ToolkitTest, OnlyARegularFileOfASensibleSizeIsAnImage)
+{
+    const std::string folder = testing::TempDir() + "images-" + std::to_string(getpid());
+    std::filesystem::create_directory(folder);
+    const std::string pipe = folder + "/pipe.png";
+    mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR);
+    const std::string link = folder + "/link.ppm";
+    std::filesystem::create_symlink(images[0], link);
+    const std::string vast = folder + "/vast.ppm";
+    std::ofstream(vast) << "P6 20000 20000 255\n";
+
+    Evas_Object* image = elm_image_add(tv.window);
+    EXPECT_TRUE(elm_image_file_set(image, link.c_str(), nullptr));
+    for (const std::string& path :
+         {pipe, vast, folder, std::string("/dev/zero"), std::string("http://localhost:9/a.png")})
+    {
+        EXPECT_FALSE(elm_image_file_set(image, path.c_str(), nullptr)) << path;
+        EXPECT_FALSE(elm_image_file_set(image, path.c_str(), nullptr)) << path << ", again";
+        EXPECT_TRUE(elm_image_file_set(image, images[1].c_str(), nullptr));
+    }
+    std::filesystem::remove_all(folder);
 }
 
 TEST_F(ToolkitTest, AHiddenButtonStaysHiddenAndNoKeyLeadsThere)

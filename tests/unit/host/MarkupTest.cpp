@@ -55,6 +55,13 @@ TEST(Markup, KeepsASkinToneApartFromWhatTakesNone)
     EXPECT_EQ(LaidOut("\U0001F44D\U0001F3FD"), "\U0001F44D\U0001F3FD");
 }
 
+TEST(Markup, PutsNoMoreMarksOnALetterThanAnyLanguageNeeds)
+{
+    const std::string most = "e" + Times(30, "\u0301");
+    EXPECT_EQ(LaidOut(most + "e\u0301"), most + "e\u0301");
+    EXPECT_EQ(LaidOut(most + Times(100000, "\u0301") + "x"), most + "x");
+}
+
 TEST(Markup, DropsControlCharacters)
 {
     EXPECT_EQ(LaidOut("é\u0085\u0001b"), "éb");
