@@ -5,8 +5,8 @@
 #include "SettingKeys.h"
 #include "appfw/Window.h"
 
-#include <cstring>
 #include <memory>
+#include <string>
 
 namespace veskar
 {
@@ -28,14 +28,23 @@ std::filesystem::path ThemeFor(const std::filesystem::path& plain, bool enlarged
     return plain.parent_path() / (name + plain.extension().string());
 }
 
+/** It has no members, and the toolkit writes an error line when it is asked for them. */
+bool IsPrimitive(const std::string& type)
+{
+    return type == "rectangle" || type == "image" || type == "textblock" || type == "text";
+}
+
 bool ContainsShownPopup(const Evas_Object* object)
 {
-    const char* type = evas_object_type_get(object);
-    if (type && std::strcmp(type, "elm_popup") == 0 && evas_object_visible_get(object))
+    const std::string type = evas_object_type_get(object);
+    if (type == "elm_popup" && evas_object_visible_get(object))
     {
         return true;
     }
-    // An iterator is null for an object without members. Asking for their list would write an error line instead.
+    if (IsPrimitive(type))
+    {
+        return false;
+    }
     const std::unique_ptr<Eina_Iterator, decltype(&eina_iterator_free)> members(evas_object_smart_iterator_new(object),
                                                                                 eina_iterator_free);
     void* member = nullptr;

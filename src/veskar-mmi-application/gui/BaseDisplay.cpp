@@ -151,7 +151,7 @@ Evas_Object* BaseDisplay::m_CreateMainPopup(Evas_Object* parent)
     }
     if (!t_popupStyle.empty())
     {
-        // Deleting a profile is asked at the right edge, beside the menu, whatever kind of screen asks it.
+        // The question whether to delete a profile stands at the right edge, beside the menu, on every kind of screen.
         const char* style = t_title == RIGHT_DOCKED_TITLE ? RIGHT_DOCKED_STYLE : t_popupStyle.c_str();
         EFL_GUARD(elm_object_style_set, popup, style);
     }
@@ -273,13 +273,13 @@ void BaseDisplay::t_UpdateButtonLabels(const std::vector<std::string>& labels)
     }
     for (std::size_t i = 0; i < labels.size(); ++i)
     {
-        const std::string markup = ToMarkup(labels[i]);
-        const MainLoopSection section;
         if (labels[i].empty())
         {
-            evas_object_hide(t_buttons[i]);
+            EFL_GUARD(evas_object_hide, t_buttons[i]);
             continue;
         }
+        const std::string markup = ToMarkup(labels[i]);
+        const MainLoopSection section;
         elm_object_domain_translatable_part_text_set(t_buttons[i], nullptr, nullptr, markup.c_str());
         evas_object_show(t_buttons[i]);
         if (i == 0)

@@ -35,7 +35,7 @@ public:
     /** Builds the screen without showing it; false when there is no main window. */
     bool Create();
 
-    /** Both are true when the screen is already as asked, and do nothing then. */
+    /** Both do nothing and return true when the screen is in that state already. */
     bool Show();
     bool Hide();
 
@@ -45,7 +45,7 @@ public:
     /** Puts the toolkit markup that shows `text` as typed into `out`. */
     static void s_StoreMarkupText(const std::string& text, std::string& out);
 
-    /** The viewer's accessibility settings, read anew each time. */
+    /** The viewer's accessibility settings, read at each call. */
     static bool s_CheckEnlargedMode();
     static bool s_CheckHighContrastMode();
 
@@ -113,7 +113,7 @@ protected:
     Evas_Object* m_AddSubBottomTitle(Evas_Object* box, const std::string& text);
     void m_AddPopupButtons(Evas_Object* popup);
 
-    /** Formats a subtitle or bottom label; `text` is markup. A null label is only written of in the log. */
+    /** Formats a subtitle or bottom label; `text` is markup. For a null label only the log lines are written. */
     void m_AlignLabelText(Evas_Object* label, const std::string& text);
 
     static void s_OnKeyPressed(void* data, Evas* evas, Evas_Object* object, void* eventInfo);

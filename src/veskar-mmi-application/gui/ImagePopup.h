@@ -9,7 +9,7 @@ namespace VESKAR_APP
 class ImagePopup : public BaseDisplay
 {
 public:
-    /** `width` and `height` are design pixels; with `noClose` every key is ignored, the buttons answer all the same. */
+    /** `width` and `height` are design pixels; with `noClose` every key is ignored, but the buttons answer. */
     ImagePopup(IUserInteraction& userInteraction, const std::string& title, const std::string& sub,
                const std::string& imageLocation, int width, int height, const std::string& bottom,
                const std::vector<std::string>& buttons, bool noClose, Evas_Object* mainWindow);

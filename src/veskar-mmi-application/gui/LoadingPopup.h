@@ -5,7 +5,7 @@
 namespace VESKAR_APP
 {
 
-/** A busy indicator that pulses while the screen is shown. It hears no key, its buttons alone answer. */
+/** A busy indicator that pulses while the screen is shown. Keys are ignored; only its buttons answer. */
 class LoadingPopup : public BaseDisplay
 {
 public:

@@ -83,7 +83,7 @@ char* MultipleListWindow::s_TextGet(void* data, Evas_Object* /*object*/, const c
 
 Evas_Object* MultipleListWindow::s_ContentGet(void* /*data*/, Evas_Object* object, const char* part)
 {
-    // Also the header row is asked for here; it is not shown, its place in the list is only taken.
+    // The list asks here for its header too. It is not shown; it only takes the first entry.
     if (std::strcmp(part, BODY_PART) != 0)
     {
         return nullptr;

@@ -5,7 +5,7 @@
 namespace VESKAR_APP
 {
 
-/** A task's percentage in a circle, with one button; updated in place. It hears no key, the button alone answers. */
+/** A task's percentage in a circle, with one button; updated in place. Keys are ignored; only the button answers. */
 class ProgressPopup : public BaseDisplay
 {
 public:

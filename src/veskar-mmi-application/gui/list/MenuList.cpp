@@ -66,7 +66,7 @@ MenuList::MenuList(const MenuListKind& kind, void* screen)
 
 MenuList::~MenuList()
 {
-    // Before the rows are deleted: each that goes makes room for others, which are realised then.
+    // Before the rows are deleted: each deletion makes room for other rows, which are realised then.
     if (m_menuList != nullptr)
     {
         EFL_GUARD(evas_object_smart_callback_del_full, m_menuList, "realized", s_OnItemRealized, this);

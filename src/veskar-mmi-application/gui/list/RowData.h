@@ -21,7 +21,7 @@ constexpr const char* TEXT_ROW_STYLE = "C_TextItem_WhiteSingleline01";
 /** The row data of an entry, which is the cells with a tab between them. */
 std::string RowData(const std::string& format, const std::string& entry);
 
-/** The number of columns whose width a format asks for: at least 1, at most 8. */
+/** The number of columns that a format sets, at least 1 and at most 8. */
 int ColumnCount(const std::string& format);
 
 /**

@@ -11,7 +11,7 @@ namespace VESKAR_APP
 inline int ScaledSize(double designSize)
 {
     const MainLoopSection section;
-    return ELM_SCALE_SIZE(designSize);
+    return static_cast<int>(elm_config_scale_get() * designSize / elm_app_base_scale_get() + 0.5);
 }
 
 } // namespace VESKAR_APP
