@@ -41,12 +41,13 @@ TEST_F(Surroundings, DirectionAndLanguageReachTheRunningApplication)
     ExpectAnswer(rightToLeft, Answer(8, 255, 0, 2, 0));
 }
 
-TEST_F(Surroundings, EnlargedTextLeavesTheShownScreenAloneAndIsTheNextOnesAsIfItHadAlwaysBeenOn)
+TEST_F(Surroundings, EnlargedTextLeavesTheShownScreenAndItsLogAloneAndBelongsToTheNext)
 {
     Process shown = SendMessage(7, 255, {"--button", "OK"});
     const Picture before = StillShot();
     Set("db/menu/system/accessibility/focuszoom", "1");
     EXPECT_TRUE(StillShot() == before) << "the shown screen changes";
+    EXPECT_EQ(CountInLog("could not be resolved"), 0) << "the toolkit is asked for what its objects do not have";
     Process next = SendMessage(8, 255, {"--button", "OK"});
     const Picture followed = ChangedShot(before);
     EndApplication();
