@@ -150,7 +150,7 @@ void AddScreens(CLI::App& app, Requests& requests)
 
 void AddOthers(CLI::App& app, Requests& requests)
 {
-    app.add_subcommand("close", "Close the screen with these ids; ui id 0: whichever is shown");
+    app.add_subcommand("close", "Close the screen with this ui id; 0: whichever is shown");
     requests["close"] = Request::Screen("ui_type_close");
 
     app.add_subcommand("sequence", "A request that does nothing");

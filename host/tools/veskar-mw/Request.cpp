@@ -108,15 +108,43 @@ Request& Request::SetIds(int uiId, std::uint8_t sourceId)
     return *this;
 }
 
+const std::string* Request::Text(const std::string& key) const
+{
+    const auto found = m_values.find(key);
+    return found == m_values.end() ? nullptr : std::get_if<std::string>(&found->second);
+}
+
+Texts Request::List(const std::string& key) const
+{
+    const auto found = m_values.find(key);
+    const Texts* list = found == m_values.end() ? nullptr : std::get_if<Texts>(&found->second);
+    return list != nullptr ? *list : Texts{};
+}
+
+int Request::Number(const std::string& key) const
+{
+    const std::string* text = Text(key);
+    int value = 0;
+    if (text != nullptr)
+    {
+        std::istringstream{*text} >> value;
+    }
+    return value;
+}
+
 bool Request::AsksForScreen() const
 {
-    return m_Is(SIGNAL_TYPE, SCREEN_SIGNAL) && m_IsKnownKind() && m_Text(UI_ID) != nullptr &&
-           m_Text(SOURCE_ID) != nullptr;
+    return m_Is(SIGNAL_TYPE, SCREEN_SIGNAL) && m_IsKnownKind() && Text(UI_ID) != nullptr && Text(SOURCE_ID) != nullptr;
+}
+
+bool Request::AsksFor(const std::string& type) const
+{
+    return m_Is(SIGNAL_TYPE, SCREEN_SIGNAL) && m_Is(SCREEN_TYPE, type);
 }
 
 bool Request::AsksForClose() const
 {
-    return m_Is(SIGNAL_TYPE, SCREEN_SIGNAL) && m_Is(SCREEN_TYPE, CLOSE_TYPE);
+    return AsksFor(CLOSE_TYPE);
 }
 
 bool Request::IsOfUnknownKind() const
@@ -126,47 +154,30 @@ bool Request::IsOfUnknownKind() const
 
 bool Request::AsksForMenu() const
 {
-    return m_Is(SIGNAL_TYPE, MENU_SIGNAL) && m_Text(MENU_POSITION) != nullptr;
+    return m_Is(SIGNAL_TYPE, MENU_SIGNAL) && Text(MENU_POSITION) != nullptr;
 }
 
 int Request::UiId() const
 {
-    return m_Number(UI_ID);
+    return Number(UI_ID);
 }
 
 std::uint8_t Request::SourceId() const
 {
-    return static_cast<std::uint8_t>(m_Number(SOURCE_ID));
+    return static_cast<std::uint8_t>(Number(SOURCE_ID));
 }
 
 bool Request::m_IsKnownKind() const
 {
     const auto& kinds = ScreenKinds();
     return std::any_of(kinds.begin(), kinds.end(),
-                       [this](const ScreenKind& kind) { return m_Is(SCREEN_TYPE, kind.uiType.c_str()); });
+                       [this](const ScreenKind& kind) { return m_Is(SCREEN_TYPE, kind.uiType); });
 }
 
-bool Request::m_Is(const char* key, const char* value) const
+bool Request::m_Is(const char* key, const std::string& value) const
 {
-    const std::string* text = m_Text(key);
+    const std::string* text = Text(key);
     return text != nullptr && *text == value;
-}
-
-const std::string* Request::m_Text(const char* key) const
-{
-    const auto found = m_values.find(key);
-    return found == m_values.end() ? nullptr : std::get_if<std::string>(&found->second);
-}
-
-int Request::m_Number(const char* key) const
-{
-    const std::string* text = m_Text(key);
-    int value = 0;
-    if (text != nullptr)
-    {
-        std::istringstream{*text} >> value;
-    }
-    return value;
 }
 
 } // namespace veskar

@@ -36,9 +36,17 @@ public:
     Request& SetIds(int uiId, std::uint8_t sourceId);
 
     const std::map<std::string, Value>& Values() const { return m_values; }
+    /** Null where the key is missing or has a list. */
+    const std::string* Text(const std::string& key) const;
+    /** Empty where the key is missing or has a text. */
+    Texts List(const std::string& key) const;
+    /** As the application reads it: 0 where the key is missing or its text is no number. */
+    int Number(const std::string& key) const;
 
     /** Whether the application will show a screen for it, which ends in an answer with the ids below. */
     bool AsksForScreen() const;
+    /** For this kind of screen, for example "ui_type_list". */
+    bool AsksFor(const std::string& type) const;
     bool AsksForClose() const;
     /** For a screen, but of a kind that the application does not have. */
     bool IsOfUnknownKind() const;
@@ -49,9 +57,7 @@ public:
 
 private:
     bool m_IsKnownKind() const;
-    bool m_Is(const char* key, const char* value) const;
-    const std::string* m_Text(const char* key) const;
-    int m_Number(const char* key) const;
+    bool m_Is(const char* key, const std::string& value) const;
 
     std::map<std::string, Value> m_values;
 };

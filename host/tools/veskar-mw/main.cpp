@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 #include "Desk.h"
 #include "Report.h"
+#include "Warnings.h"
 
 #include <iostream>
 
@@ -17,25 +18,6 @@ void Say(const std::string& text)
 void PrintLine(const std::string& line)
 {
     std::cout << line << std::endl;
-}
-
-void WarnOfSilence(const Request& request, bool waits)
-{
-    constexpr int NOBODYS_UI_ID = 0;
-    constexpr int NOBODYS_SOURCE_ID = 100;
-    constexpr int LAST_MODULE_SOURCE_ID = 253;
-    if (request.AsksForClose() && request.SourceId() <= LAST_MODULE_SOURCE_ID)
-    {
-        Say("a close with a source id of 0 to 253 sends no answer: who waits for the screen's answer waits in vain");
-    }
-    if (request.IsOfUnknownKind())
-    {
-        Say("no screen is of this kind: the request is sent, and no answer waited for");
-    }
-    if (waits && (request.UiId() == NOBODYS_UI_ID || request.SourceId() == NOBODYS_SOURCE_ID))
-    {
-        Say("a screen with ui id 0 or source id 100 is never answered");
-    }
 }
 
 int OpenMenu(DeskConnection& desk, const Request& request)
@@ -67,7 +49,10 @@ int Run(const Command& command)
 {
     const Request& request = command.request;
     const bool waits = command.wait && request.AsksForScreen();
-    WarnOfSilence(request, waits);
+    for (const std::string& warning : Warnings(request, waits))
+    {
+        Say(warning);
+    }
     DeskConnection desk{command.timeout};
     if (waits)
     {

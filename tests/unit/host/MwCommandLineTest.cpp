@@ -1,5 +1,6 @@
 /** What `veskar-mw` makes of its command line, without a bus. */
 #include "CommandLine.h"
+#include "Warnings.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -7,9 +8,13 @@
 
 #include <unistd.h>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using namespace veskar;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
 
 namespace
 {
@@ -25,6 +30,20 @@ Command Parsed(Texts arguments)
         argv.push_back(argument.data());
     }
     return std::get<Command>(ParseCommandLine(static_cast<int>(argv.size()), argv.data()));
+}
+
+Texts WarningsFor(const Texts& arguments, bool waits = true)
+{
+    return Warnings(Parsed(arguments).request, waits);
+}
+
+Texts WarningsForRows(std::size_t rows, Texts arguments)
+{
+    for (; rows > 0; --rows)
+    {
+        arguments.insert(arguments.end(), {"--entry", "x"});
+    }
+    return WarningsFor(arguments);
 }
 
 } // namespace
@@ -76,4 +95,36 @@ TEST(MwCommandLine, OnlyARequestForAScreenIsAnswered)
     EXPECT_FALSE(Parsed({"raw", "signal_type_key=signal_tvservice", "signal_tvservice_key=x", "ui_param_ui_id=1",
                          "ui_param_source_id=255"})
                      .request.AsksForScreen());
+}
+
+TEST(MwWarnings, TellOfAnAnswerThatNobodySends)
+{
+    EXPECT_THAT(WarningsFor({"--ui-id", "0", "message"}), ElementsAre(HasSubstr("answered by no key")));
+    EXPECT_THAT(WarningsFor({"--source-id", "100", "message"}), ElementsAre(HasSubstr("answered by no key")));
+    EXPECT_THAT(WarningsFor({"--ui-id", "0", "message"}, false), IsEmpty());
+    EXPECT_THAT(WarningsFor({"--source-id", "253", "close"}), ElementsAre(HasSubstr("sends no answer")));
+    EXPECT_THAT(WarningsFor({"--source-id", "254", "--ui-id", "0", "close"}, false), IsEmpty());
+}
+
+TEST(MwWarnings, TellOfRowsThatAreAnsweredAsOthers)
+{
+    EXPECT_THAT(WarningsForRows(255, {"select"}), IsEmpty());
+    EXPECT_THAT(WarningsForRows(256, {"select"}), ElementsAre(HasSubstr("row 256 is answered as 0")));
+    EXPECT_THAT(WarningsForRows(256, {"image-list", "--header"}), IsEmpty());
+    EXPECT_THAT(WarningsForRows(257, {"image-list", "--header"}), ElementsAre(HasSubstr("row 256 is answered as 0")));
+    EXPECT_THAT(WarningsForRows(256, {"list"}), IsEmpty()) << "its rows are not answered";
+}
+
+TEST(MwWarnings, TellOfAHeaderThatIsNotOverItsColumns)
+{
+    const auto warnings = [](const std::string& kind, const std::string& format, const std::string& header)
+    {
+        return WarningsFor({kind, "--header", "--format", format, "--entry", header});
+    };
+    EXPECT_THAT(warnings("list", "LR", "a\tb"), IsEmpty());
+    EXPECT_THAT(warnings("list", "LR", "a"), ElementsAre(HasSubstr("cells of the header: 1, columns: 2")));
+    EXPECT_THAT(warnings("image-list", "LR", "a\tb\t"), ElementsAre(HasSubstr("header: 3, columns: 2")));
+    EXPECT_THAT(warnings("select", "LLLLLLLLL", "1\t2\t3\t4\t5\t6\t7\t8"), IsEmpty());
+    EXPECT_THAT(warnings("multi-list", "LR", "a"), IsEmpty()) << "it is not shown";
+    EXPECT_THAT(WarningsFor({"list", "--header", "--format", "LR"}), IsEmpty()) << "there is none";
 }
