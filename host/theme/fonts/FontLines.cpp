@@ -1,9 +1,10 @@
 /**
- * veskar-font-lines LIKE FONT COPY ABOVE: writes a copy of a font, or of a collection of fonts, which has the lines of
- * another; its glyphs may reach higher than that one's, by so many sizes of the font.
+ * veskar-font-lines LIKE FONT COPY ABOVE: writes a copy of FONT, a font or a collection of fonts, with the line height
+ * of the font LIKE. ABOVE is the extra room above the line, in font sizes.
  *
- * The toolkit makes a text's first and last line as high as the box that all glyphs of the font fit in. A font with a
- * few huge glyphs, such as the long strokes of vertical writing, so makes every text high that has one letter of it.
+ * The toolkit makes a text's first and last line as high as the box that all glyphs of the font fit in. So a font with
+ * a few huge glyphs, such as the long strokes of vertical writing, makes every text higher that contains one of its
+ * letters.
  */
 #include <cmath>
 #include <cstdint>
@@ -26,7 +27,7 @@ struct Reach
     double bottom;
 };
 
-/** A file of OpenType, in which all numbers are big-endian. */
+/** An OpenType file; its numbers are big-endian. */
 class FontFile
 {
 public:
@@ -85,7 +86,7 @@ private:
     static constexpr std::size_t DESCENDER = 6;
     static constexpr std::size_t LINE_GAP = 8;
 
-    /** at() throughout: a file that is no font ends in an exception. */
+    /** Uses at() everywhere, so that a file that is no font ends in an exception. */
     std::uint32_t m_Number(std::size_t at, std::size_t length) const
     {
         std::uint32_t number = 0;
@@ -105,7 +106,7 @@ private:
         m_bytes.at(at + 1) = static_cast<char>(number);
     }
 
-    /** Where the directory of each font begins. */
+    /** The offset of each font's table directory. */
     std::vector<std::size_t> m_Faces() const
     {
         if (m_bytes.compare(0, 4, "ttcf") != 0)
