@@ -21,7 +21,7 @@ if(VESKAR_SANITIZE)
     add_link_options(-fsanitize=${VESKAR_SANITIZE})
 endif()
 
-# For what a program loads that is not built with the sanitizers: it has no place for their runtimes.
+# For a module that is loaded by a program without sanitizers, which lacks their runtime.
 function(veskar_without_sanitizers target)
     if(VESKAR_SANITIZE)
         target_compile_options(${target} PRIVATE -fno-sanitize=all)

@@ -3,8 +3,9 @@
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(EFL REQUIRED IMPORTED_TARGET elementary evas ecore ecore-evas ecore-wl2 ecore-input edje eina)
 
-# Debian's files name a folder that no package has; CMake refuses a target that does. They also name the folder of this
-# machine's C library, which a compiler for another machine must not see and our own sees anyway.
+# Debian's pkg-config files name a folder that no package contains, and CMake refuses a target with such a folder. They
+# also name the folder of this machine's C library: a compiler for another machine must not see it, and ours knows it
+# anyway.
 get_target_property(directories PkgConfig::EFL INTERFACE_INCLUDE_DIRECTORIES)
 foreach(directory IN LISTS directories)
     if(NOT EXISTS ${directory} OR directory MATCHES "^/usr/include/[^/]+-linux-gnu[^/]*$")

@@ -34,7 +34,7 @@ void SendAll(veskar::RemoteClient& remote, const std::string& command, const Key
     }
 }
 
-/** The compositor's folder is another one, so it is told the whole path. */
+/** The compositor has another working folder, so it needs the whole path. */
 std::string WholePath(const std::string& file)
 {
     std::error_code error;
@@ -54,7 +54,7 @@ void Print(const std::vector<std::string>& lines)
     }
 }
 
-/** What the command line asks for; a sub-command has the name of the compositor's own command. */
+/** The parsed command line. A sub-command has the name of the compositor's command. */
 struct Wanted
 {
     std::string command;

@@ -21,7 +21,7 @@ struct Arguments
     bool force = false;
 };
 
-/** Tells what is wrong with the key; true when it may be used. */
+/** Prints what is wrong with the key; true when it may be used. */
 bool MayUse(const Arguments& arguments)
 {
     const char* key = arguments.key.c_str();

@@ -1,4 +1,4 @@
-// An application that writes each thing it is told into the log, and does what a request's value "do" says.
+// An application that logs each callback it gets, and does what a request's value "do" says.
 
 #include <app.h>
 #include <dlog.h>
@@ -47,7 +47,7 @@ void TellLeaving(Ecore_Evas* /*canvas*/)
     Tell("off the screen");
 }
 
-/** Has it told when the compositor takes the window from the screen. */
+/** Calls `leaving` when the compositor takes the window off the screen. */
 void WatchScreen(void (*leaving)(Ecore_Evas* canvas))
 {
     ecore_evas_callback_hide_set(ecore_evas_ecore_evas_get(evas_object_evas_get(s_window)), leaving);
@@ -65,7 +65,7 @@ bool Create(void*)
 void Terminate(void*)
 {
     Tell("terminate");
-    // The window's own doings are not told any more.
+    // What happens to the window is not logged from here on.
     WatchScreen(nullptr);
     evas_object_hide(s_window);
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
@@ -98,7 +98,7 @@ void Request(app_control_h request, void*)
     }
     if (action == "end")
     {
-        // The moment in which a request would be lost most easily lasts longer than in a real application.
+        // Longer than in a real application, because a request is lost most easily in this moment.
         elm_exit();
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }

@@ -1,4 +1,4 @@
-// What an application is told, in which order, and that nothing sent to it is lost.
+// Which calls an application gets, in which order, and that nothing sent to it is lost.
 
 #include "Tv.h"
 
@@ -20,7 +20,7 @@ Values Request(const std::string& name, const std::string& action = "")
     return {{"name", name}, {"do", action}};
 }
 
-/** The application, not started by the bus, with this variable; it tells where the others do. */
+/** The application with this environment variable, not started by the bus; it logs into the TV's log too. */
 Events InLog(const std::string& variable)
 {
     return {"env", variable, "sh", "-c", "exec \"$1\" 2>>\"$VESKAR_TV_LOG\"", "sh", PROBE};
@@ -29,7 +29,7 @@ Events InLog(const std::string& variable)
 class Appfw : public TvTest
 {
 protected:
-    /** What the application has told since the test began. */
+    /** What the application has logged since the test began. */
     Events Told() const
     {
         const std::string beginning = "PROBE I ";
@@ -142,7 +142,7 @@ TEST_F(Appfw, RequestsAreToldOnceAndInTheirOrderWheneverTheProcessEnds)
     auto application = sdbus::createProxy(*connection, Applications::DIALOGUES, PathOf(Applications::DIALOGUES));
     for (int sent = 1; sent <= ROUNDS * BURST; ++sent)
     {
-        // The second end falls into what the first process could not take any more.
+        // The second "end" is among the requests that the first process could not take any more.
         const auto request = Request(std::to_string(sent), sent % BURST == 1 || sent % BURST == 4 ? "end" : "");
         application->callMethodAsync(Applications::APP_CONTROL)
             .onInterface(Applications::INTERFACE)
@@ -184,7 +184,7 @@ TEST_F(Appfw, WhatIsSentInTerminateArrivesThoughItsTargetStartsSlowly)
 {
     const std::pair<std::string, std::string> programs[] = {
         {"org.tizen.slow", "sleep 0.2; exec " PROBE},
-        // The slower one: what waits for the other is not enough for this.
+        // Slower than the other: waiting for that one would not be long enough.
         {"org.tizen.veskar-middleware", "sleep 0.8; exec veskar-services"}};
     for (const auto& [name, command] : programs)
     {
@@ -233,7 +233,7 @@ TEST_F(Appfw, WhenTheBusDiesItEndsThroughTerminate)
             bus->Signal(SIGSTOP);
             application.Signal(SIGTERM);
             ExpectTold(expected);
-            std::this_thread::sleep_for(std::chrono::milliseconds(100)); // it waits for the bus by now
+            std::this_thread::sleep_for(std::chrono::milliseconds(100)); // by now it waits for the bus
         }
         bus.reset();
         EXPECT_EQ(application.Status(), 0);

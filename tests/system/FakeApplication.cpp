@@ -36,7 +36,7 @@ RequestData FakeApplication::Take()
 
 void FakeApplication::HandleSent()
 {
-    // The reply comes after it.
+    // The reply is sent after it.
     m_middleware->callMethod("Ping").onInterface("org.freedesktop.DBus.Peer");
     while (m_bus->processPendingRequest())
     {

@@ -16,18 +16,18 @@ class FakeApplication
 public:
     FakeApplication();
 
-    /** Handles requests until one more was taken, and returns it: the sender has its reply then. */
+    /** Handles requests until one more was taken, and returns it. The sender has got its reply by then. */
     veskar::RequestData Take();
     /** Handles what the daemon has sent until now, if anything; `Take` still returns it. */
     void HandleSent();
-    /** The next request runs this before its reply; an sdbus::Error that it throws is the reply. */
+    /** The next request runs this before its reply; if it throws an sdbus::Error, that is the reply. */
     void WhileHandling(std::function<void()> action) { m_whileHandling = std::move(action); }
 
     void Answer(int uiId, int sourceId, int kind, int button = 0, int item = 0, const std::string& data = "");
     void AskForTask(const std::string& task, const std::string& action);
     void OpenMenuPosition(int position);
 
-    /** Has the name only in between. */
+    /** Between these two it owns the name. */
     void Arrive() { m_bus->requestName(veskar::Applications::DIALOGUES); }
     void Leave() { m_bus->releaseName(veskar::Applications::DIALOGUES); }
 

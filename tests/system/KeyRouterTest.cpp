@@ -18,7 +18,7 @@ protected:
 
     void SetUp() override
     {
-        // The compositor may still have to notice that the clients of the test before have gone.
+        // The compositor may not have noticed yet that the clients of the test before have disconnected.
         ASSERT_TRUE(WaitUntil([this] { return m_remote.Ask("grabs").empty(); }));
         m_lower.emplace().Show();
         m_upper.emplace().Show();

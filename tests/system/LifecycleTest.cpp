@@ -67,14 +67,14 @@ TEST_F(Lifecycle, ATestCaseShowsItsScreenAndIsNeverAnswered)
     EXPECT_EQ(CountInLog("SendResponse"), 0);
 }
 
-/** These run with an application whose time-outs are short, so that nobody waits half a minute. */
+/** With an application whose time-outs are short, so that no test takes half a minute. */
 class TimeOuts : public TvTest
 {
 protected:
     const std::chrono::milliseconds VISIBLE{VESKAR_APP::VISIBLE_TIMEOUT};
     const std::chrono::milliseconds IDLE{VESKAR_APP::IDLE_TIMEOUT};
 
-    /** Whether the application is still there, the same process, after a time in which nothing happens. */
+    /** Whether the same process still runs after `time` without any event. */
     bool OutlivesFor(std::chrono::milliseconds time)
     {
         const unsigned pid = ApplicationPid();

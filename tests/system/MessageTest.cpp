@@ -55,7 +55,7 @@ TEST_F(Message, TurnsThePagesOfALongText)
     EXPECT_EQ(request.Status(), 1);
 }
 
-/** Twenty replacements, each this long after the one before. */
+/** Replaces a screen twenty times, with this time between them. */
 class Replacements : public TvTest, public ::testing::WithParamInterface<int>
 {
 };

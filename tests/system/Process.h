@@ -19,7 +19,7 @@ Words operator+(Words first, const Words& second);
 /** The value of an environment variable; empty when there is none. */
 std::string Environment(const char* name);
 
-/** Asks again and again until it is true; false when that was not so within the time. */
+/** Repeats the condition until it is true; false when the time is over. */
 bool WaitUntil(const std::function<bool()>& predicate, std::chrono::milliseconds limit = PATIENCE);
 
 /** A command with its standard output kept; standard error goes to the test's own. */
@@ -27,7 +27,7 @@ class Process
 {
 public:
     explicit Process(const Words& command);
-    /** Ends the command where it still runs. */
+    /** Ends the command if it still runs. */
     ~Process();
 
     Process(Process&& other) noexcept;

@@ -1,4 +1,4 @@
-// Every other kind of screen: each way out that it has, and silence where it has none.
+// Every other kind of screen: each answer that it can give, and no answer where there is none.
 
 #include "Tv.h"
 
@@ -36,7 +36,7 @@ long ResidentMemory(unsigned pid)
     return pages * 4 / 1024;
 }
 
-/** Tells whether the number pad is shown. */
+/** Whether the number pad is shown. */
 constexpr const char* PAD_SHOWN = "memory/function-osd/number_pad_show";
 
 bool NumberPadIs(const std::string& value)
@@ -56,13 +56,13 @@ protected:
         return Send(Words{"--ui-id", "7", kind} + values);
     }
 
-    /** Each of these keys leaves a screen of this kind, and this is its answer. */
+    /** Each of these keys ends a screen of this kind with this answer. */
     void ExpectKeysAnswer(const std::string& kind, const Words& values, const Words& keys, const std::string& answer)
     {
         SCOPED_TRACE(kind);
         const Picture before = Shot();
         Process request = SendKind(kind, values);
-        // A viewer presses on what he sees.
+        // A viewer presses a key when he sees the screen.
         EXPECT_TRUE(WaitUntil([&] { return Shot() != before; })) << "nothing is shown";
         Press(keys);
         ExpectAnswer(request, answer);
@@ -209,8 +209,7 @@ TEST_F(Screens, PinTakesTheDigitsOfTheNumberPad)
     Press({"More"});
     ASSERT_TRUE(NumberPadIs("1"));
     ChangedShot(without);
-    // From the 1 to the 2, by the 0 to the key that takes the 2 back, and up to the 9; a 7 comes from the remote
-    // itself.
+    // From the 1 to the 2, past the 0 to the key that deletes the 2, and up to the 9; a 7 is pressed on the remote.
     Press({"Return", "Right", "Return", "Down", "Down", "Down", "Right", "Return", "Up", "Return", "7", "Return"});
     ExpectAnswer(request, Answer(7, 255, 0, 0, 0, "1979"));
     EXPECT_TRUE(NumberPadIs("0"));
@@ -241,7 +240,7 @@ TEST_F(Screens, PinStaysWhenTheNumberPadGoesAndDoesWithoutWhereThereIsNone)
     EXPECT_EQ(StillShot(), without);
     EXPECT_TRUE(Grabs("veskar-numpad").empty());
     RunCommand({"veskar-setting", "set", PAD_SHOWN, "1"});
-    ChangedShot(without); // the focus is seen on the pad alone
+    ChangedShot(without); // only the pad shows a focus
     RunCommand({"veskar-setting", "set", PAD_SHOWN, "0"});
     EXPECT_TRUE(WaitUntil([&] { return Shot() == without; }));
     EXPECT_FALSE(request.HasEnded());
@@ -275,7 +274,7 @@ TEST_F(Screens, ProgressUpdatesInPlaceAndAnswersItsButtonAlone)
 
 TEST_F(Screens, ProgressShowsATextThatTheToolkitAloneWouldBreakIntoLinesForEver)
 {
-    // A mark that stands on a space.
+    // A combining mark on a space.
     ExpectCloseAndReplace("progress", {"--text", u8"\u0663 \u20dd \u2003\u1680"});
 }
 

@@ -71,8 +71,8 @@ Picture TvTest::Shot()
 
 Picture TvTest::StillShot()
 {
-    // Longer than a frame that is on its way, and than any pause within a motion. On a busy machine a frame may take
-    // any time; but then so does a picture of it.
+    // Longer than a frame takes, and longer than any pause within a motion. On a busy machine a frame may take longer,
+    // but then taking a picture does too.
     constexpr std::chrono::milliseconds STILL{300};
     constexpr int PICTURES = 6;
     int same = 0;
@@ -130,7 +130,7 @@ void TvTest::EndApplication()
     }
     catch (const sdbus::Error&)
     {
-        // It ended by itself meanwhile.
+        // It has ended in the meantime.
     }
     ASSERT_TRUE(WaitForApplicationEnd());
 }

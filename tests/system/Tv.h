@@ -20,7 +20,7 @@ struct Picture
     bool operator!=(const Picture& other) const { return png != other.png; }
 };
 
-/** A failed comparison tells no more of a picture than this. */
+/** All that a failed comparison prints of a picture. */
 inline std::ostream& operator<<(std::ostream& stream, const Picture& picture)
 {
     return stream << "a picture of " << picture.png.size() << " bytes";
@@ -47,11 +47,11 @@ protected:
 
     void Press(const Words& keys);
 
-    /** What a program, the application where none is said, holds at the compositor: key and mode. */
+    /** The keys that a program (by default the application) holds at the compositor: key and mode. */
     std::map<std::string, std::string> Grabs(const std::string& program = "");
 
     Picture Shot();
-    /** The picture once it stays the same: nothing moves any more. */
+    /** The picture once nothing moves any more. */
     Picture StillShot();
     /** The same, after the screen has changed from what it was. */
     Picture ChangedShot(const Picture& before);
@@ -72,7 +72,7 @@ protected:
     /** Owns the names of these applications and prints what they are asked, as long as the process lives. */
     static Process StandFor(const std::string& applications);
 
-    /** What was written to the TV's log since the test began, and how often a text stands there. */
+    /** What was written to the TV's log since the test began, and how often it contains a text. */
     std::string Log() const;
     int CountInLog(const std::string& text) const;
 

@@ -154,7 +154,7 @@ WaylandWindow::WaylandWindow() : m_globals(std::make_unique<WaylandGlobals>())
 
 WaylandWindow::~WaylandWindow()
 {
-    // First of all, so that nothing said from here on reaches the compositor: a death is not a farewell.
+    // Done first, so that no further message reaches the compositor, as when a client crashes.
     shutdown(wl_display_get_fd(m_globals->display.get()), SHUT_RDWR);
 }
 
@@ -212,7 +212,7 @@ bool WaylandWindow::HasFocus()
 
 std::vector<std::string> WaylandWindow::Heard()
 {
-    // The compositor's answer comes behind everything that it has sent before.
+    // The compositor's answer comes after everything that it has sent before.
     wl_display_roundtrip(m_globals->display.get());
     return std::exchange(m_globals->heard, {});
 }

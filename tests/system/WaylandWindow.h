@@ -13,8 +13,8 @@ class RouterBinding;
 struct WaylandGlobals;
 
 /**
- * A client of the compositor with one fullscreen window, without a toolkit between: what it hears is what the
- * compositor sent. Its destruction is the death of a client.
+ * A client of the compositor with one fullscreen window, without a toolkit: it gets exactly what the compositor sends.
+ * Its destruction looks like a crash of the client.
  */
 class WaylandWindow
 {
@@ -25,7 +25,7 @@ public:
     WaylandWindow(const WaylandWindow&) = delete;
     WaylandWindow& operator=(const WaylandWindow&) = delete;
 
-    /** As an application's first half of showing a window: the compositor knows of it, and there is no picture yet. */
+    /** The first half of showing a window: the compositor knows it, and there is no picture yet. */
     void BeginToShow();
     /** The second half. Returns when the compositor has the window on the screen, above all others. */
     void Draw();

@@ -87,7 +87,7 @@ TEST_F(BaseDisplayTest, IsBuiltHiddenAndShownAndHiddenOnce)
     EXPECT_EQ(tv.Log(DLOG_INFO).back(), "popup present but not visible");
     tv.runningApps = {"org.tizen.wizard"};
     EXPECT_TRUE(display->Show());
-    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "popup present and visible"); // the layer is not looked at again
+    EXPECT_EQ(tv.Log(DLOG_INFO).back(), "popup present and visible"); // the layer is not checked again
     EXPECT_TRUE(evas_object_visible_get(display->t_popup));
     EXPECT_TRUE(display->Hide());
     EXPECT_FALSE(evas_object_visible_get(display->t_popup));
@@ -124,7 +124,7 @@ TEST_F(BaseDisplayTest, TextsAreMarkupAboveAndBelowTheContent)
     EXPECT_THAT(tv.Did("say"), ElementsAre("say , , a < b, , "));
     Show({}, "", "", "", "", false);
     EXPECT_THAT(LabelTexts(display->t_popup), ElementsAre(line(""), "content"));
-    Show({}, "", "", "bottom", "", false); // a bottom text asks for its line
+    Show({}, "", "", "bottom", "", false); // a bottom text makes its line
     EXPECT_THAT(LabelTexts(display->t_popup), ElementsAre(line(""), "content", line("bottom")));
 
     display = std::make_unique<Plain>(*this, window, Texts{}, "", false);

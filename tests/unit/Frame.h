@@ -1,4 +1,4 @@
-/** The application's frame, with the platform's side of its life in the test's hand. */
+/** The application's frame; the test plays the platform's part of its life. */
 #pragma once
 
 #include "Screen.h"

@@ -6,7 +6,7 @@ namespace
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/** The first test needs a process of its own, as ctest gives it: the frame's state lives as long. */
+/** The first test needs a process of its own, as it has with ctest: the frame's state is that of the process. */
 using FrameTest = Frame;
 
 TEST_F(FrameTest, NothingHappensBeforeCreateAndCreateNeedsItsDataAndTheMainLoop)

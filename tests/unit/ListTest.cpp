@@ -43,7 +43,7 @@ struct ListScreenTest : ScreenTest
         ASSERT_TRUE(list->Show());
         list->SetFocusToList(true);
     }
-    /** The header row, which stands under the sub-title. */
+    /** The header row, which is below the sub-title. */
     Evas_Object* Header() { return elm_object_parent_widget_get(Widgets(list->t_popup, "elm_label").at(1)); }
     std::vector<Elm_Object_Item*> Items()
     {
@@ -54,7 +54,7 @@ struct ListScreenTest : ScreenTest
         }
         return items;
     }
-    /** Return on a row; the list's own use of the key comes first, then the screen hears it. */
+    /** Return on a row: the list handles the key first, then the screen gets it. */
     void PressRow(std::size_t row)
     {
         Focused(window);
@@ -205,11 +205,11 @@ TEST_F(MultipleListWindowTest, TheFirstButtonReportsTheMarkedRowsByTheirDigits)
         PressRow(row);
     }
     Click(list->t_buttons[0]);
-    // A mark is no answer, and the selection comes first, or the button would be the answer.
+    // Marking a row is no answer. The selection must be answered before the button is.
     EXPECT_THAT(answers, ElementsAre("key", "key", "items 123", "button 1"));
 
     answers.clear();
-    PressRow(11); // a second press takes the mark away
+    PressRow(11); // a second press removes the mark
     Click(list->t_buttons[0]);
     elm_genlist_item_selected_set(Items().at(2), EINA_FALSE);
     Click(list->t_buttons[0]);

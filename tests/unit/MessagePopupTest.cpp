@@ -104,7 +104,7 @@ TEST_F(MessagePopupTest, UpAndDownTurnThePagesAndNothingElse)
     EXPECT_TRUE(tv.Logged(DLOG_INFO, "Textpage is present & UP key pressed. Will show page: 1/3"));
     EXPECT_THAT(answers, ElementsAre("key", "back"));
 
-    Show("short"); // a label has no pages, and hears the two keys all the same
+    Show("short"); // a label has no pages, but gets the two keys too
     Press(popup->t_popup, "Up");
     Press(popup->t_popup, "Down");
     EXPECT_THAT(answers, IsEmpty());

@@ -1,4 +1,4 @@
-// Every picture that a viewer sees while a screen comes and while he moves in it.
+// Every picture that a viewer sees while a screen appears and while he moves in it.
 
 #include "Shown.h"
 
@@ -13,8 +13,7 @@ using VESKAR_APP::WindowManager;
 
 constexpr int SLIDE = 24;
 
-/** The same a little lower, as a sheet at the bottom is while it comes in: above it is nothing but the dimmed
- * programme. */
+/** The frame moved down, as a sheet is while it slides in; only the dimmed programme is above it. */
 Frame Lowered(const Frame& frame, int by)
 {
     Frame lowered(by, frame.front());
@@ -23,8 +22,8 @@ Frame Lowered(const Frame& frame, int by)
 }
 
 /**
- * By how much it is lower than at the end, a pixel too high counting as none: the toolkit rounds one too far at times.
- * -1: it differs otherwise.
+ * By how many pixels `frame` is lower than `end`; -1 when it differs in another way. One pixel higher counts as 0,
+ * because the toolkit's rounding may cause that.
  */
 int Offset(const Frame& frame, const Frame& end)
 {
@@ -80,7 +79,7 @@ TEST_F(MotionTest, AScreenComesWholeAndOnlySlides)
     expectSlide("image", show.ShowImage(1, 255, "T", "S", "B", images[0], 400, 300, {"OK"}, false));
     expectSlide("progress", show.ShowProgress(1, 255, "T", "S", "Stop", 42));
     expectSlide("PIN", show.ShowPinManager(1, 255, "T", "S", "B", 4, ""));
-    // A busy machine makes some of the slides longer, or begins late.
+    // On a busy machine some slides take longer or begin late.
     EXPECT_LE(shortest, 0.2);
     EXPECT_GT(farthest, 0);
 }
@@ -117,7 +116,7 @@ TEST_F(MotionTest, AnEventChangesThePictureOnce)
 
 TEST_F(MotionTest, ARowIsLitBeforeTheWindowHasTheKeyboard)
 {
-    // It has it from its first picture on, and is told after that.
+    // A window has the keyboard from its first picture on, and gets the event only after that.
     Ecore_Evas* output = ecore_evas_ecore_evas_get(canvas);
     manager->ShowList(1, 255, "T", "S", "B", {"a", "b"}, "L", false, {}, true);
     ecore_evas_focus_set(output, 0);

@@ -89,7 +89,7 @@ TEST_F(PinEntryTest, MoreOpensTheNumberPadWhichGoesWithTheScreen)
     EXPECT_FALSE(evas_object_visible_get(entry->t_popup));
 
     answers.clear();
-    entry->Show(); // the digits went with the screen
+    entry->Show(); // hiding it has deleted the digits
     Type({"5", "6", "7", "8"});
     EXPECT_THAT(answers, ElementsAre("key", "key", "key", "pin 5678", "key"));
 }

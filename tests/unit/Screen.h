@@ -1,4 +1,4 @@
-/** What the tests of screens share: a TV, a window, a listener, and a viewer's eyes and fingers. */
+/** What the tests of screens share: a TV, a window, a listener, and functions to look at a screen and press keys. */
 #pragma once
 
 #include "IUserInteraction.h"
@@ -34,7 +34,7 @@ private:
     void PinEntered(std::string pin) override { answers.push_back("pin " + pin); }
 };
 
-/** Opens what a display keeps for its own kind. */
+/** Makes a display's protected members accessible. */
 template <class Display>
 struct Probe : Display
 {
@@ -53,10 +53,10 @@ struct Probe : Display
     using Display::t_UpdateButtonLabels;
 };
 
-/** Runs the main loop until nothing is left to do at once. */
+/** Runs the main loop until it has nothing left to do immediately. */
 void Settle();
 
-/** Runs the main loop; false when it did not end by itself within `seconds`. */
+/** Runs the main loop; false when nothing ended it within `seconds`. */
 bool LoopEnds(double seconds);
 
 /** The widgets of one type inside `root`, itself included, in the order of drawing. */
@@ -68,10 +68,10 @@ Texts LabelTexts(Evas_Object* root);
 
 std::string TextOf(Evas_Object* widget, const char* part = nullptr);
 
-/** A key for the widget, and on for those that it stands in, as the toolkit does it. */
+/** Sends a key to the widget and then to those around it, as the toolkit does. */
 void Press(Evas_Object* widget, const char* key);
 
-/** The widget that hears the keys once the window has the keyboard. */
+/** The widget that gets the keys once the window has the keyboard. */
 Evas_Object* Focused(Evas_Object* window);
 
 void Click(Evas_Object* widget);

@@ -69,7 +69,7 @@ struct ServiceProcessorTest : TvTest
                           {"ui_param_percent", "300"},
                           {"ui_param_pin_length", "260"}};
 
-    /** The lines that name what was found, in order and in one text; elements of lists are left out. */
+    /** The log lines that say which values were found, in order and as one text, without the elements of lists. */
     static std::string Found()
     {
         std::string found;
@@ -223,7 +223,7 @@ TEST_F(ServiceProcessorTest, AMenuPositionStopsTheMenuAndReachesTheController)
     EXPECT_THAT(tv.deeds, IsEmpty());
 }
 
-// The reader of bytes and the writer serve no request yet. They are private, which an explicit instantiation may pass.
+// The reader of bytes and the writer serve no request yet. They are private; an explicit instantiation may name them.
 bool ReadBytes(VESKAR_APP::ServiceProcessor& processor, app_control_h request, std::vector<Byte>& bytes);
 bool Write(VESKAR_APP::ServiceProcessor& processor, app_control_h request, int value);
 template <auto reader, auto writer>

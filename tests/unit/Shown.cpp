@@ -43,7 +43,7 @@ ShownTest::~ShownTest()
     elm_theme_overlay_del(nullptr, VESKAR_THEME_FILE);
 }
 
-/** Draws whenever the toolkit could, as it does for a compositor that has just asked for a picture. */
+/** Draws whenever the toolkit could, as if the compositor had just requested a picture. */
 Eina_Bool ShownTest::s_Draw(void* data)
 {
     auto* test = static_cast<ShownTest*>(data);
@@ -80,7 +80,7 @@ void ShownTest::Watch()
     ecore_main_loop_begin();
 }
 
-/** Not by the clock alone: a busy machine draws late, but between two of these calls it draws. */
+/** Counts calls and not time: a busy machine draws late, but it does draw between two of these calls. */
 Eina_Bool ShownTest::s_IsStill(void* data)
 {
     constexpr int STILL = 4;

@@ -17,7 +17,7 @@ struct ShownTest : TvTest
     ShownTest();
     ~ShownTest() override;
 
-    /** As a window does that a screen has shown. */
+    /** What the window does when a screen has shown it. */
     void TakeKeyboard();
 
     /** Collects the frames from now on until nothing moves any more. */

@@ -9,7 +9,7 @@
 #include <random>
 #include <thread>
 
-// The linker takes these times before it looks at the application's.
+// The linker uses these times and not those in the application's library.
 const unsigned int VESKAR_APP::VISIBLE_TIMEOUT = 4;
 const unsigned int VESKAR_APP::IDLE_TIMEOUT = 2;
 
@@ -22,7 +22,7 @@ using Clock = std::chrono::steady_clock;
 constexpr auto VISIBLE = std::chrono::milliseconds(VESKAR_APP::VISIBLE_TIMEOUT);
 constexpr auto IDLE = std::chrono::milliseconds(VESKAR_APP::IDLE_TIMEOUT);
 
-/** Does to the frame what the platform and the viewer do, and keeps in mind which clocks must be running. */
+/** Does to the frame what the platform and the viewer do, and remembers which clocks must be running. */
 struct TimeOutTest : Frame
 {
     std::optional<Clock::time_point> idleSince;
@@ -80,7 +80,10 @@ struct TimeOutTest : Frame
         isPrivileged = false;
     }
 
-    /** Runs the loop for a time at most; whether a clock ended it. An end that no clock had reached is a failure. */
+    /**
+     * Runs the loop for at most this time; whether a clock ended it. It is a failure when the loop ends before a clock
+     * has run out.
+     */
     bool EndsWithin(std::chrono::duration<double> time)
     {
         tv.Forget();
@@ -147,7 +150,7 @@ TEST_F(TimeOutTest, ThousandsOfExpiriesMeetRequestsKeysPausesAndTerminate)
     for (int step = 0; step < STEPS; ++step)
     {
         steps[below(std::size(steps))]();
-        // Half of the time the loop does not run while the clocks do.
+        // For half of the time the clocks run and the loop does not.
         const auto pause = std::chrono::microseconds(below(2500));
         if (below(2) == 0)
         {

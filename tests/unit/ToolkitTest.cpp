@@ -1,4 +1,4 @@
-// What the desk adds to its stock toolkit, seen at the screens that need it.
+// What the desk adds to its stock toolkit, tested with the screens that need it.
 
 #include "Shown.h"
 
@@ -33,7 +33,9 @@ Box BoxOf(const Evas_Object* object)
     return box;
 }
 
-/** Whether every pixel of `row` is in the other one, at most one place aside: a centred text may move by that. */
+/**
+ * Whether every pixel of `row` is in the other one, at most one pixel away, because a centred text may move by that.
+ */
 bool IsWithin(const Row& row, const Row& other)
 {
     for (std::size_t x = 1; x + 1 < row.size(); ++x)
@@ -55,7 +57,7 @@ bool Alike(const Frame& one, const Frame& other)
     return std::equal(one.begin(), one.end(), other.begin(), alike);
 }
 
-/** Whether nothing is drawn between these columns but grounds, which are of one colour in a row. */
+/** Whether only grounds are drawn between these columns: every row of pixels has one colour there. */
 bool IsBlank(const Frame& frame, int from, int to)
 {
     const auto isPlain = [from, to](const Row& row)
@@ -70,7 +72,7 @@ constexpr const char* LONG = "A text that takes more than one line of the sheet,
 
 struct ToolkitTest : ShownTest
 {
-    /** The picture once it is still. */
+    /** The picture once nothing moves. */
     Frame Picture()
     {
         TakeKeyboard();
@@ -104,11 +106,11 @@ TEST_F(ToolkitTest, AnUpdatedProgressLooksAsIfItHadBegunSo)
     const Frame withText = Progress(1, "Text");
     const Frame withoutText = Progress(2, "");
     const Frame withLongText = Progress(3, LONG);
-    EXPECT_TRUE(IsBlank(withLongText, 40, 110)); // texts keep to the middle of the sheet
+    EXPECT_TRUE(IsBlank(withLongText, 40, 110)); // texts are in the middle of the sheet
     EXPECT_FALSE(Alike(withText, withoutText));
     EXPECT_FALSE(Alike(withText, withLongText));
     const Frame withoutButton = Progress(4, "Text", "");
-    // Each is an update of the screen that is there.
+    // Each of these updates the screen that is shown.
     EXPECT_TRUE(Alike(Progress(4, "Text"), withText));
     EXPECT_TRUE(Alike(Progress(4, ""), withoutText));
     EXPECT_TRUE(Alike(Progress(4, "Text"), withText));
@@ -165,7 +167,7 @@ TEST_F(ToolkitTest, AScreenTooLargeForTheTvIsMadeToFit)
 
     manager->ShowMultipleImageList(1, 255, "T", "S", "B", {"a", "b", "c"}, "L", false, {"OK"}, images, 600, 1500, true);
     Picture();
-    Key("Down"); // another picture is as large
+    Key("Down"); // the next picture has the same size
     Picture();
     ExpectOnScreen("elm_button");
     ExpectOnScreen("elm_image");
@@ -211,7 +213,7 @@ TEST_F(ToolkitTest, RowsAreWalkedOneByOneAsFastAsKeysCome)
 {
     manager->ShowMultipleList(7, 255, "T", "", "", Texts(20, "row"), "L", false, {"OK"}, true);
     Picture();
-    Key("Up"); // the button has the focus of a list as long as this
+    Key("Up"); // with so many rows the button has the focus
     Key("Return");
     for (int step = 0; step < 14; ++step)
     {

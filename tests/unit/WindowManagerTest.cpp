@@ -91,7 +91,7 @@ TEST_F(WindowManagerTest, TheSourceDecidesOnKeysAndClock)
         EXPECT_EQ(tv.Logged(DLOG_INFO, "Start visible timer"), clock);
         EXPECT_EQ(tv.Logged(DLOG_DEBUG, "milliseconds:30000"), clock);
 
-        Do([this] { manager->KeyPressed(); }); // a key starts it whatever the screen asked for
+        Do([this] { manager->KeyPressed(); }); // a key starts it, whatever the screen's request said
         EXPECT_EQ(tv.Logged(DLOG_DEBUG, "milliseconds:30000"), source != 254);
         EXPECT_THAT(tv.deeds, IsEmpty());
     }
@@ -227,7 +227,7 @@ struct Faulty : BaseDisplay
     bool mCreates;
 };
 
-// Only a screen of its own can fail, and presenting is private, which an explicit instantiation may pass.
+// Only a screen made for the test can fail. Presenting is private; an explicit instantiation may name it.
 bool Present(WindowManager& manager, std::unique_ptr<BaseDisplay> display);
 template <auto present>
 struct Open

@@ -4,7 +4,7 @@
 #include <Elementary.h>
 #include <gmock/gmock.h>
 
-// For the sanitizers: what the toolkit keeps to the end, its own order of locks, and what the frame never deletes.
+// For the sanitizers: what the toolkit never frees, its own order of locks, and what the frame never deletes.
 // NOLINTBEGIN(bugprone-reserved-identifier): the names are the sanitizers'.
 extern "C" const char* __lsan_default_suppressions()
 {
@@ -22,8 +22,8 @@ extern "C" int __wrap_main(int argc, char** argv)
     setenv("ELM_DISPLAY", "buffer", 1);
     setenv("ELM_ENGINE", "buffer", 1);
     setenv("ELM_SCALE", "1.0", 1);
-    setenv("EINA_LOG_LEVEL", "0", 1);               // the toolkit misses a system bus, at length
-    setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 1); // its drawing thread ends the process of a busy machine
+    setenv("EINA_LOG_LEVEL", "0", 1);               // the toolkit logs at length that there is no system bus
+    setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 1); // its drawing thread may end the process on a busy machine
     efreet_cache_disable();                         // its daemon would outlive the test and hold its output
     testing::InitGoogleMock(&argc, argv);
     elm_init(argc, argv);

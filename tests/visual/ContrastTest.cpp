@@ -17,7 +17,7 @@ namespace
 using Colour = std::array<double, 4>;
 using Palette = std::map<std::string, Colour>;
 
-/** A foreground and the least it needs on each of several grounds, named without their "veskar/". */
+/** A foreground and the least contrast it needs on several grounds; the names are without "veskar/". */
 struct Demand
 {
     const char* foreground;
@@ -35,12 +35,12 @@ const std::vector<Demand> DEMANDS = {
     {"outline", {"ground"}, 3.0},
     {"field", {"ground", "control"}, 3.0},
 };
-/** The system's own grey of lists and long texts at high contrast. */
+/** The application's own grey of lists and long texts at high contrast. */
 const Demand GREY = {"#7F7F7F", {"ground", "row", "row_marked", "focus_fill"}, 5.2};
 
 Palette ReadPalette(const std::string& file)
 {
-    // What is seen at worst: the theme over a white programme.
+    // The worst case: the theme over a white programme.
     Palette palette = {{"programme", {1, 1, 1, 1}}, {"#7F7F7F", {127 / 255.0, 127 / 255.0, 127 / 255.0, 1}}};
     Eina_File* mapped = eina_file_open(file.c_str(), EINA_FALSE);
     Eina_Iterator* colours = mapped ? edje_mmap_color_class_iterator_new(mapped) : nullptr;

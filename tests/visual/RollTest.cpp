@@ -1,4 +1,4 @@
-// What is higher than its place is shown to its end, a line at a time, and what is not rests.
+// Content that is higher than its place is shown to its end, a line at a time; other content does not move.
 #include <Ecore.h>
 #include <Ecore_Evas.h>
 #include <Edje.h>
@@ -14,7 +14,7 @@ constexpr int HEIGHT = 540;
 
 using Clock = std::chrono::steady_clock;
 
-/** Something of the theme that shows `text` in `place`. */
+/** An object of the theme that shows `text` in `place`. */
 struct Showing
 {
     Evas_Object* object;
@@ -43,7 +43,7 @@ struct Showing
     }
 };
 
-/** Runs the main loop until it is so; false after ten seconds. */
+/** Runs the main loop until `so` is true; false after ten seconds. */
 bool Becomes(const std::function<bool()>& so)
 {
     const auto deadline = Clock::now() + std::chrono::seconds(10);
@@ -134,7 +134,7 @@ TEST_F(Roll, WhatIsHigherThanItsPlaceIsShownToItsEndAndWhatIsNotRests)
         EXPECT_TRUE(text.AtStart());
     }
     EXPECT_FALSE(fitting.back().TellsOfMore());
-    // A row that loses the focus is read from its beginning again, and a text in between begins anew after its end.
+    // A row that loses the focus shows its beginning again; meanwhile another text starts again after its end.
     longer.back().Signal("elm,state,unfocused");
     EXPECT_TRUE(longer.back().AtStart());
     EXPECT_TRUE(Becomes([&longer] { return longer.front().AtStart(); }));

@@ -20,7 +20,7 @@ const std::vector<const char*> SAMPLES = {
     "ភាសាខ្មែរ ស្ត្រី",     "မြန်မာ",         "ພາສາ ນ້ຳ ປື້",
     "ქართული",          "→ ✓ ★ ⚠ ☎ ⏏ ▶", "😀 👨‍👩‍👧 📺",
 };
-/** Vowel signs stand on these, which all of this script have some room for. */
+/** With vowel signs above the letters; all lines of this script have some room for them. */
 const std::vector<const char*> ARABIC_SAMPLES = {"تمت إضافة قنوات", "ٱلْعَرَبِيَّةُ جدًّا عٍّ", "نئے چینل ٹھیک ٹَّ"};
 
 struct Drawing
@@ -51,7 +51,7 @@ protected:
         ecore_evas_shutdown();
     }
 
-    /** The text as a theme's part has it: an object that is just as high as the text says it is. */
+    /** The text as in a part of the theme: an object of exactly the height that the text reports. */
     Drawing Draw(const std::string& markup)
     {
         Evas_Textblock_Style* style = evas_textblock_style_new();
@@ -78,7 +78,7 @@ protected:
         return drawing;
     }
 
-    /** All of its rows of pixels are there without empty lines above and below it, too. */
+    /** The text has as many inked rows of pixels as with empty lines above and below it. */
     void ExpectWhole(const char* text)
     {
         const std::string line = text;

@@ -47,7 +47,7 @@ Texts Lines(const std::string& fileName)
     {
         lines.push_back(line);
     }
-    // A folder can be opened, and fails with the first line.
+    // Opening a folder succeeds; reading its first line fails.
     if (input.bad() || (fileName != "-" && !file.is_open()))
     {
         throw CLI::ValidationError(fileName, "cannot be read");
@@ -55,7 +55,7 @@ Texts Lines(const std::string& fileName)
     return lines;
 }
 
-/** Keeps out what the library would take as well: nan, and numbers that it reads to another base than ten. */
+/** Refuses what the library would accept too: nan, and numbers with another base than ten. */
 std::string CheckDecimal(const std::string& text)
 {
     const std::size_t digits = text.find_first_not_of("+-");
@@ -65,7 +65,7 @@ std::string CheckDecimal(const std::string& text)
     return decimal ? "" : "\"" + text + "\" is not a decimal number";
 }
 
-/** Gives the request its default for the field and lets the option, where it is given, replace it. */
+/** Sets the field's default in the request; the option replaces it. */
 void AddField(CLI::App& kind, const Field& field, Request& request)
 {
     const std::string key = field.key;
@@ -97,7 +97,7 @@ void AddField(CLI::App& kind, const Field& field, Request& request)
             ->allow_extra_args(false);
         break;
     case Encoding::ListFromFile:
-        // Options are handled in the order in which they were added: the elements given one by one are there already.
+        // Options are handled in the order in which they were added, so the elements given one by one come first.
         kind.add_option_function<std::string>(
                 field.option, [&request, key](const std::string& file) { request.Append(key, Lines(file)); },
                 field.help)
@@ -131,7 +131,10 @@ void AddGeneral(CLI::App& app, General& general)
     app.add_flag("--no-wait", general.noWait, "Do not wait for the answer");
 }
 
-/** One request for each kind, by its name; the sub-command's options fill it in. Their places do not move. */
+/**
+ * One request for each kind, by its name; the sub-command's options fill it in. A map, because the options keep
+ * references to them.
+ */
 using Requests = std::map<std::string, Request>;
 constexpr auto RAW = "raw";
 
@@ -200,7 +203,10 @@ bool AwaitsValue(const CLI::App& app, const std::string& word)
                        });
 }
 
-/** The arguments in the library's order, which is backwards; "--title=" in two words: it takes no empty text in one. */
+/**
+ * The arguments in the library's order, which is reversed. "--title=" becomes two words, because the library accepts no
+ * empty text in one.
+ */
 Texts Arguments(const CLI::App& app, int argc, char** argv)
 {
     Texts arguments;
@@ -233,7 +239,7 @@ std::variant<Command, int> ParseCommandLine(int argc, char** argv)
     AddGeneral(app, general);
     AddScreens(app, requests);
     AddOthers(app, requests);
-    // After the kinds, which would take it over.
+    // Added after the kinds, which would inherit it.
     app.footer(FOOTER);
     try
     {

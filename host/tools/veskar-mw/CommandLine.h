@@ -12,7 +12,7 @@ struct Command
 {
     Request request;
     std::chrono::microseconds timeout;
-    /** False: done once the application has taken the request. */
+    /** False: finished as soon as the application has taken the request. */
     bool wait;
 };
 

@@ -64,7 +64,7 @@ DeskConnection::Menu DeskConnection::OpenMenu(const Request& request)
 
 std::chrono::microseconds DeskConnection::m_TimeLeft() const
 {
-    // To the bus library 0 means its own default.
+    // The bus library takes 0 for its own default.
     return std::max(1us, std::chrono::duration_cast<std::chrono::microseconds>(m_deadline - Clock::now()));
 }
 

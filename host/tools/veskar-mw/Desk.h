@@ -1,4 +1,4 @@
-/** veskar-mw's side of the bus: a request goes to the daemon, which sends it on and hands back what comes of it. */
+/** veskar-mw's side of the bus: it sends a request to the daemon, which passes it on and returns the result. */
 #pragma once
 
 #include "DeskBus.h"
@@ -13,8 +13,8 @@
 namespace veskar
 {
 /**
- * Every operation waits at most the time given with the construction, all of them together; each throws sdbus::Error
- * when the request goes nowhere or the time is over.
+ * All operations together wait at most for the time given to the constructor. Each throws sdbus::Error when the request
+ * cannot be delivered or the time is over.
  */
 class DeskConnection
 {
@@ -42,7 +42,7 @@ private:
     std::unique_ptr<sdbus::IProxy> m_desk;
 };
 
-/** What an error of the above means to whoever asked. */
+/** What an error of the above means for the user. */
 struct Failure
 {
     int status;

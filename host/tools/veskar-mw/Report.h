@@ -1,4 +1,4 @@
-/** What veskar-mw says in the end: JSON lines on standard output, and its exit status. */
+/** The result of veskar-mw: JSON lines on standard output, and the exit status. */
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-/** A service request as the application understands it, built without a bus. */
+/** A service request with the keys that the application knows, built without a bus. */
 #pragma once
 
 #include <cstdint>
@@ -16,19 +16,19 @@ class Request
 public:
     using Value = std::variant<std::string, Texts>;
 
-    /** A screen of `type`, for example "ui_type_message", or "ui_type_close"; its ids are set apart. */
+    /** A screen of `type`, for example "ui_type_message", or "ui_type_close". SetIds sets its ids. */
     static Request Screen(const std::string& type);
     static Request Menu(const std::string& position);
     static Request Sequence();
     /**
-     * KEY=VALUE sets a text, KEY[]=VALUE appends to a list of texts; of a text set twice the last counts. Throws
-     * std::invalid_argument for a word that is neither, and for a key that is used both ways.
+     * KEY=VALUE sets a text, KEY[]=VALUE appends to a list of texts; if a text is set twice, the last one counts.
+     * Throws std::invalid_argument for a word that is neither, and for a key with a text and a list.
      */
     static Request Raw(const Texts& words);
 
     Request& Set(const std::string& key, const std::string& value);
     Request& Set(const std::string& key, const Texts& values);
-    /** More elements for a list that is there. */
+    /** Appends to a list that exists. */
     Request& Append(const std::string& key, const Texts& values);
     Request& SetNumber(const std::string& key, int value);
     Request& SetFlag(const std::string& key, bool value);

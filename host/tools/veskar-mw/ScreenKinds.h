@@ -26,7 +26,7 @@ struct Field
     Encoding encoding;
     std::string help;
     int defaultNumber = 0;
-    /** What is over it, or under 0, can only be a slip; `raw` sends it all the same. */
+    /** A number above it or below 0 must be a mistake and is refused; `raw` sends any. */
     int highestNumber = std::numeric_limits<int>::max();
 };
 
@@ -35,7 +35,7 @@ struct ScreenKind
     std::string name;
     std::string uiType;
     std::string help;
-    /** Every one of them is sent, also where the command line gives none: empty, 0 or the default number then. */
+    /** All of them are sent. One that the command line does not give is empty, 0 or the default number. */
     std::vector<Field> fields;
 };
 

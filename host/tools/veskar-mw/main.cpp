@@ -14,7 +14,7 @@ void Say(const std::string& text)
     std::cerr << "veskar-mw: " << text << std::endl;
 }
 
-/** Flushed, since who reads it may act on it while this process goes on. */
+/** Flushed, because a reader may react while this process still runs. */
 void PrintLine(const std::string& line)
 {
     std::cout << line << std::endl;

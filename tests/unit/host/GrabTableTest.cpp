@@ -8,7 +8,7 @@ using namespace veskar;
 namespace
 {
 
-/** A client's surface, as far as the table looks at it; destroyed with the test. */
+/** As much of a client's surface as the table uses; destroyed with the test. */
 class Window
 {
 public:
@@ -17,7 +17,7 @@ public:
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
 
-    /** A client is nothing but a name to the table. */
+    /** The table uses a client only as an identity. */
     wl_client* Client() { return reinterpret_cast<wl_client*>(this); }
     weston_surface* Surface() { return &m_surface; }
 

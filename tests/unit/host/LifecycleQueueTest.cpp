@@ -1,11 +1,11 @@
-/** In which order an application hears of its windows and of its calls. */
+/** In which order an application gets events of its windows and calls. */
 #include "appfw/LifecycleQueue.h"
 
 #include <gtest/gtest.h>
 
 using namespace veskar;
 
-// No message has a sender before a bus has carried it; here its destination stands for it.
+// A message that no bus has carried has no sender; here its destination replaces it.
 extern "C" const char* __wrap_eldbus_message_sender_get(const Eldbus_Message* message)
 {
     return eldbus_message_destination_get(message);
@@ -42,7 +42,7 @@ protected:
         }
     }
 
-    /** What has been delivered by the end of the next turn that delivers anything, each with a space after it. */
+    /** What was delivered up to the end of the next turn that delivers anything; a space follows each name. */
     std::string AfterOneTurn()
     {
         const std::string before = m_delivered;

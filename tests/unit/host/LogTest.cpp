@@ -30,7 +30,7 @@ TEST(Log, TypedDigitsAreMaskedAndOtherNumbersAreNot)
 TEST(Log, OneCallIsOneLineFromAnyThread)
 {
     constexpr int COUNT = 200;
-    // Longer than what a pipe takes at once.
+    // Longer than what a pipe accepts at once.
     const std::string text = std::string(6000, 'x') + "\nNumber [5] pressed!";
     testing::internal::CaptureStderr();
     std::thread threads[4];

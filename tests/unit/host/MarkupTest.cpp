@@ -9,7 +9,7 @@
 namespace
 {
 
-/** The characters that the toolkit lays out for a text, which gets it as markup. */
+/** The characters that the toolkit lays out for a text; it gets them as markup. */
 std::string LaidOut(const std::string& text)
 {
     const veskar::CString markup(elm_entry_utf8_to_markup(text.c_str()));

@@ -18,7 +18,7 @@ constexpr std::uint8_t GONE = 0;
 class ScreensTest : public testing::Test
 {
 protected:
-    /** One more request; what becomes of it is in m_outcomes under the client's name: a button, or GONE. */
+    /** One more request. Its outcome is in m_outcomes under the client's name: a button, or GONE. */
     std::shared_ptr<Waiter> Wait(const std::string& client, ScreenIds screen = MESSAGE)
     {
         const auto waiter =

@@ -217,7 +217,7 @@ void elm_access_force_say(const char* text)
     Did("say", text);
 }
 
-// The key router, which keeps count of who holds what.
+// The key router, which records who holds which key.
 
 int KeyRouter_Initialize(wl_display*, wl_registry*, wl_seat*, unsigned int id)
 {
@@ -243,7 +243,7 @@ int KeyRouter_Add_Key(const char* name, int mode, _KeyList* list)
 
 int KeyRouter_Remove_Key(const char* name, int mode, _KeyList* list)
 {
-    const auto& last = list->keys[list->count - 1]; // the one that is tried at present
+    const auto& last = list->keys[list->count - 1]; // the one that is being tried
     list->count -= std::strcmp(last.name, name) == 0 && last.mode == mode ? 1 : 0;
     return 1;
 }
@@ -251,7 +251,7 @@ int KeyRouter_Remove_Key(const char* name, int mode, _KeyList* list)
 namespace
 {
 
-/** A key is held exclusively or topmost; that it is registered too does not matter to either. */
+/** A key can be held exclusively or as the topmost; registering it too makes no difference. */
 int OtherStrength(int mode)
 {
     return mode == KEYROUTER_MODE_EXCLUSIVE ? KEYROUTER_MODE_TOPMOST
@@ -259,7 +259,7 @@ int OtherStrength(int mode)
                                             : 0;
 }
 
-/** Writes down what is done to the list's keys and does it to each, up to the first that it cannot be done to. */
+/** Records the operation and applies it to the list's keys, up to the first one where it fails. */
 template <typename Handle>
 int ForEach(const char* verb, const _KeyList* list, Handle handle)
 {
@@ -304,7 +304,7 @@ int KeyRouter_UnSet_KeyList(wl_surface*, const _KeyList* list)
     return ForEach("release", list, Release);
 }
 
-// The toolkit assistant; its text page is by itself, so that a test can take the real one.
+// The toolkit assistant; its text page is in a file of its own, so that a test can use the real one.
 
 void ea_init(void)
 {

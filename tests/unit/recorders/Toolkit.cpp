@@ -1,4 +1,5 @@
-// The toolkit's functions that the linker leads here (--wrap). What has a visible effect goes on to the toolkit.
+// The toolkit's functions that the linker redirects here (--wrap). Those with a visible effect are passed on to the
+// toolkit.
 
 #include "Tv.h"
 
@@ -62,7 +63,7 @@ extern "C"
         return __real_ecore_thread_main_loop_end();
     }
 
-    // A Wayland connection whose every object is this TV: none of them is looked into.
+    // A Wayland connection. Every object is a pointer to this TV, because nobody uses its contents.
 
 #define OPAQUE(Result, function, Argument)                                                                             \
     Result* __wrap_##function(Argument*)                                                                               \

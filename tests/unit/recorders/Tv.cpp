@@ -58,7 +58,7 @@ Texts Tv::Log(int priority) const
     const std::lock_guard<std::mutex> lock(logMutex);
     for (const LogLine& line : log)
     {
-        // A line in another colour than its level's is kept whole, so that it matches nothing.
+        // A line in another colour than its level's keeps its colour codes, so that no test matches it.
         const bool coloured = line.text.rfind(before, 0) == 0 && line.text.size() >= before.size() + after.size();
         if (line.priority == priority && line.text != before + after)
         {

@@ -1,6 +1,6 @@
 /**
- * The TV that the tests run on: it stands behind the platform's C functions, and behind the few of the toolkit's whose
- * effect cannot be seen without a compositor. It does what the test has set and remembers what the application did.
+ * The TV that the tests run on: it is behind the platform's C functions, and behind the few toolkit functions whose
+ * effect cannot be seen without a compositor. It behaves as the test has set it and remembers what the application did.
  */
 #pragma once
 
