@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <string_view>
 
 #include "BusName.h"
 #include "CString.h"
@@ -32,6 +33,13 @@ std::string Quoted(const char* key)
 Refusal Refuse(const char* key, const std::string& why)
 {
     return "the value of " + Quoted(key) + " " + why;
+}
+
+/** How many characters of `text` are one of `kinds`. */
+size_t Count(std::string_view text, std::string_view kinds)
+{
+    return std::count_if(text.begin(), text.end(),
+                         [kinds](char character) { return kinds.find(character) != std::string_view::npos; });
 }
 
 /** Reads one request's values and counts what they take. */
@@ -125,6 +133,10 @@ private:
             {
                 return refusal;
             }
+            if (Count(element, "\t") > MOST_TABS_OF_ELEMENT)
+            {
+                return Refuse(key, "has an element of more than " + std::to_string(MOST_TABS_OF_ELEMENT) + " tabs");
+            }
             array.emplace_back(element);
         }
         m_request.data.insert_or_assign(key, std::move(array));
@@ -138,6 +150,10 @@ private:
         {
             return Refuse(key, "holds a string of " + std::to_string(length) + " bytes, more than " +
                                    std::to_string(LONGEST_TEXT));
+        }
+        if (Count(text, "\n\t") > MOST_BREAKS)
+        {
+            return Refuse(key, "holds a string of more than " + std::to_string(MOST_BREAKS) + " line breaks and tabs");
         }
         m_bytes += std::max(length, SMALLEST_TEXT);
         if (m_bytes > LARGEST_REQUEST)

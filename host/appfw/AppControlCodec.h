@@ -12,9 +12,13 @@ namespace veskar
 
 /**
  * The limits of a request, so that a faulty sender cannot block the screen: bytes of a text, elements of an array and
- * keys, and bytes of all keys and values together. A short text counts with the memory that it takes.
+ * keys, and bytes of all keys and values together. A short text counts with the memory that it takes. Each line break
+ * and each tab costs the toolkit a line to lay out, and each tab of an array's element, which may be a row of a list,
+ * a widget.
  */
-constexpr size_t LONGEST_TEXT = 256UL * 1024;
+constexpr size_t LONGEST_TEXT = 64UL * 1024;
+constexpr size_t MOST_BREAKS = 4'000;
+constexpr size_t MOST_TABS_OF_ELEMENT = 64;
 constexpr size_t MOST_ELEMENTS = 20'000;
 constexpr size_t LARGEST_REQUEST = 8UL * 1024 * 1024;
 constexpr size_t SMALLEST_TEXT = sizeof(std::string);

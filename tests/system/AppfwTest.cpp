@@ -95,10 +95,17 @@ TEST_F(Appfw, ASignalEndsItThroughTerminate)
 
 TEST_F(Appfw, WhatIsNoStringOrTooLargeIsRefusedByItsKeyAndNeverSeen)
 {
-    constexpr std::size_t LONGEST = 256UL * 1024;
+    constexpr std::size_t LONGEST = 64UL * 1024;
     const std::string longText(LONGEST, 'x');
-    EXPECT_EQ(SendRaw({{"name", std::string("whole")}, {"a", longText}, {"b", Events(20000, "x")}}), "");
-    Events large(31, longText);
+    const std::string manyBreaks = std::string(2000, '\n') + std::string(2000, '\t');
+    const std::string manyCells(64, '\t');
+    EXPECT_EQ(SendRaw({{"name", std::string("whole")},
+                       {"a", longText},
+                       {"b", Events(20000, "x")},
+                       {"c", manyBreaks},
+                       {"d", Events(2, manyCells)}}),
+              "");
+    Events large(127, longText);
     large.push_back(longText.substr(sizeof(std::string))); // the key counts too
     EXPECT_EQ(SendRaw({{"all", large}}), "");
     large.push_back("");
@@ -116,6 +123,8 @@ TEST_F(Appfw, WhatIsNoStringOrTooLargeIsRefusedByItsKeyAndNeverSeen)
         {"number", {{"fine", std::string("x")}, {"number", 7}}},
         {"numbers", {{"numbers", std::vector<int>{7}}}},
         {"text", {{"text", longText + "x"}}},
+        {"breaks", {{"breaks", manyBreaks + "\n"}}},
+        {"cells", {{"cells", Events{"fine", manyCells + "\t"}}}},
         {"array", {{"array", Events(20001, "x")}}},
         {"all", {{"all", large}}},
         {"array 113", manyArrays},
