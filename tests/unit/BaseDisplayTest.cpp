@@ -278,7 +278,7 @@ TEST_F(BaseDisplayTest, TheNumberPadIsAskedForWhereItExistsAndIsNotAlreadyAsWant
         tv.Forget();
         what == "hide" ? display->t_HideNumPad() : display->t_ShowNumPad(what == "numbers");
         EXPECT_EQ(tv.liveRequests, 0);
-        const auto launches = tv.Did("launch");
+        auto launches = tv.Did("launch");
         EXPECT_TRUE(launches.empty() || tv.linesBeforeDestroyed == tv.log.size()) << "told too late how it went";
         return launches;
     };
