@@ -150,6 +150,7 @@ private:
     void m_Fit();
     void m_Update();
     std::vector<Page> m_BreakIntoPages() const;
+    void m_SetLeastHeight();
     void m_Place();
     void m_Indicate();
 
@@ -162,6 +163,7 @@ private:
     int m_viewWidth = 0;
     int m_viewHeight = 0;
     int m_current = 0;
+    bool m_heightIsSet = false; // for the present text, style and width
     Ecore_Job* m_pending = nullptr;
 };
 
@@ -201,6 +203,7 @@ void TextPage::SetText(const char* markup)
 {
     evas_object_textblock_text_markup_set(m_text, WithoutTabs(markup).c_str());
     m_current = 0;
+    m_heightIsSet = false;
     m_Update();
 }
 
@@ -208,8 +211,7 @@ void TextPage::SetStyle(StyleHandle style)
 {
     evas_object_textblock_style_set(m_text, style.get());
     m_style = std::move(style);
-    // A scroller asks for no height of its own, and the theme's is known once the program has set the style.
-    SetOuterLeastSize(m_scroller, {0, ThemeSize(m_scroller, "page_height")});
+    m_heightIsSet = false;
     m_Update();
 }
 
@@ -246,13 +248,16 @@ void TextPage::m_Fit()
 
 void TextPage::m_Update()
 {
+    const int oldWidth = m_viewWidth;
     elm_scroller_region_get(m_scroller, nullptr, nullptr, &m_viewWidth, &m_viewHeight);
+    m_heightIsSet = m_heightIsSet && m_viewWidth == oldWidth;
     if (m_viewWidth <= 0)
     {
         // Before it has its place. Wrapping a long text to nothing can keep the toolkit busy for ever.
         return;
     }
     evas_object_resize(m_text, m_viewWidth, m_viewHeight);
+    m_SetLeastHeight();
     m_pages = m_BreakIntoPages();
     m_current = std::clamp(m_current, 0, std::max(Total() - 1, 0));
     evas_object_size_hint_min_set(m_content, 0, m_viewHeight * Total());
@@ -274,6 +279,19 @@ std::vector<TextPage::Page> TextPage::m_BreakIntoPages() const
         pages.back().height = bottom - pages.back().top;
     }
     return pages;
+}
+
+/** As high as its lines, up to the theme's page: a scroller has no least height of its own. */
+void TextPage::m_SetLeastHeight()
+{
+    if (m_heightIsSet)
+    {
+        return;
+    }
+    m_heightIsSet = true;
+    int height = 0;
+    evas_object_textblock_size_formatted_get(m_text, nullptr, &height);
+    SetOuterLeastSize(m_scroller, {0, std::min(height, ThemeSize(m_scroller, "page_height"))});
 }
 
 void TextPage::m_Place()

@@ -11,15 +11,16 @@ namespace veskar
 namespace
 {
 
-/** Of rows that hold cells; a row that is one text takes the width that there is. */
+/** Cells have a width of their own; a text needs no more than to be read. */
 int RowWidth(const Evas_Object* list)
 {
     const Elm_Object_Item* row = elm_genlist_first_item_get(list);
-    if (row == nullptr || elm_genlist_item_item_class_get(row)->func.text_get != nullptr)
+    if (row == nullptr)
     {
         return 0;
     }
-    return ThemeSize(list, "cells_width");
+    const bool isText = elm_genlist_item_item_class_get(row)->func.text_get != nullptr;
+    return ThemeSize(list, isText ? "text_width" : "cells_width");
 }
 
 } // namespace

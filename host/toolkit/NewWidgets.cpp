@@ -1,6 +1,7 @@
 // What the program's widgets are given when they are created: a list the height of its rows and a focus that walks them
-// one by one, a screen whole pictures and a size that the TV can show.
+// one by one; a screen whole pictures, a size that the TV can show and buttons that lead on.
 
+#include "ButtonFocus.h"
 #include "ListHeight.h"
 #include "RowFocus.h"
 #include "ScreenFit.h"
@@ -30,6 +31,7 @@ extern "C"
         {
             veskar::LiveWith<veskar::WholeFrames>(popup, parent);
             veskar::LiveWith<veskar::ScreenFit>(popup, parent, popup);
+            veskar::LiveWith<veskar::ButtonFocus>(popup, popup);
         }
         return popup;
     }

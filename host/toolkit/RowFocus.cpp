@@ -124,11 +124,13 @@ Eina_Bool RowFocus::s_OnKey(void* data, Evas_Object* /*list*/, Evas_Object* /*so
                             void* eventInfo)
 {
     // This comes before the list's own handling.
-    if (type != EVAS_CALLBACK_KEY_DOWN)
+    // After an answer the screen is hidden, and a key may still come.
+    auto* focus = static_cast<RowFocus*>(data);
+    if (type != EVAS_CALLBACK_KEY_DOWN || !evas_object_visible_get(PopupAround(focus->m_list)))
     {
         return EINA_FALSE;
     }
-    const bool used = static_cast<RowFocus*>(data)->m_TakeKey(static_cast<Evas_Event_Key_Down*>(eventInfo)->key);
+    const bool used = focus->m_TakeKey(static_cast<Evas_Event_Key_Down*>(eventInfo)->key);
     return used ? EINA_TRUE : EINA_FALSE;
 }
 

@@ -196,6 +196,52 @@ TEST_F(ToolkitTest, OnlyARegularFileOfASensibleSizeIsAnImage)
     std::filesystem::remove_all(folder);
 }
 
+TEST_F(ToolkitTest, DownFromAButtonNeverLeadsUpIntoTheList)
+{
+    for (const char* title :
+         {"Title", "Delete Kavro Operator Profile"}) // buttons side by side, and one below the other
+    {
+        SCOPED_TRACE(title);
+        manager->ShowList(1, 255, title, "", "", Texts(40, "row"), "L", false, {"A", "B"}, true);
+        Picture();
+        ASSERT_EQ(elm_object_focused_object_get(tv.window), Find("elm_button", 0));
+        for (const char* key : {"Down", "Down", "Down"})
+        {
+            Key(key);
+            EXPECT_STREQ(evas_object_type_get(elm_object_focused_object_get(tv.window)), "elm_button");
+        }
+    }
+    EXPECT_EQ(elm_object_focused_object_get(tv.window), Find("elm_button", 1));
+    Key("Up");
+    Key("Up");
+    EXPECT_EQ(elm_object_focused_object_get(tv.window), Find("elm_genlist"));
+}
+
+TEST_F(ToolkitTest, ALongTextIsAsHighAsItsLinesUpToAPage)
+{
+    const auto heightOf = [this](const std::string& text)
+    {
+        manager->ShowMessage(1, 255, "T", "", "", text, {"OK"}, false);
+        Picture();
+        return BoxOf(Find("elm_scroller")).height;
+    };
+    const int twoLines = heightOf(std::string(301, '.') + "\n2");
+    const int fourLines = heightOf(std::string(301, '.') + "\n2\n3\n4");
+    const int page = heightOf(std::string(301, '\n'));
+    EXPECT_GT(fourLines, twoLines);
+    EXPECT_LT(fourLines, page);
+    EXPECT_EQ(page, 235);
+}
+
+TEST_F(ToolkitTest, RowsBesideAnImageKeepTheirRoomInThePanel)
+{
+    manager->ShowMultipleImageList(1, 255, "Delete Kavro Operator Profile", "", "", {"a", "b", "c"}, "L", false, {"OK"},
+                                   images, 640, 480, true);
+    Picture();
+    EXPECT_GE(BoxOf(Find("elm_genlist")).width, 200);
+    ExpectOnScreen("elm_image");
+}
+
 TEST_F(ToolkitTest, AHiddenButtonStaysHiddenAndNoKeyLeadsThere)
 {
     manager->ShowList(1, 255, "T", "", "", {"a", "b"}, "L", false, {"", "No"}, true);

@@ -19,7 +19,7 @@ constexpr int SPACER_WIDTH = 20;
 } // namespace
 
 const MenuListKind ImageListPopup::KIND = {
-    1280, LOG_LEVEL_DEBUG, LOG_LEVEL_ERROR, s_CreateListItemTemplate, s_ContentGet, s_OnMenuItemClicked,
+    1280, LOG_LEVEL_DEBUG, s_CreateListItemTemplate, s_ContentGet, s_OnMenuItemClicked, s_OnItemRealized,
 };
 
 const std::string ImageListPopup::KEY_DIRECTION_UP = "Up";
@@ -137,6 +137,17 @@ char* ImageListPopup::s_TextGet(void* data, Evas_Object* /*object*/, const char*
 Evas_Object* ImageListPopup::s_ContentGet(void* data, Evas_Object* object, const char* part)
 {
     return CreateRow(static_cast<const char*>(data), object, part, s_numColumns);
+}
+
+void ImageListPopup::s_OnItemRealized(void* data, Evas_Object* /*object*/, void* /*eventInfo*/)
+{
+    LOG_ENTRY();
+    if (data == nullptr)
+    {
+        LOG_ERROR(" pthis == NULL");
+        return;
+    }
+    static_cast<ImageListPopup*>(data)->m_list.FocusIfAllRealised();
 }
 
 void ImageListPopup::s_OnMenuItemClicked(void* data, Evas_Object* object, void* /*eventInfo*/)

@@ -8,7 +8,7 @@ namespace VESKAR_APP
 {
 
 const MenuListKind ListWindow::KIND = {
-    1217, LOG_LEVEL_DEBUG, LOG_LEVEL_ERROR, s_CreateListItemTemplate, s_ContentGet, s_OnMenuItemClicked,
+    1217, LOG_LEVEL_DEBUG, s_CreateListItemTemplate, s_ContentGet, s_OnMenuItemClicked, s_OnItemRealized,
 };
 
 int ListWindow::s_numColumns = 1;
@@ -81,6 +81,17 @@ Elm_Genlist_Item_Class* ListWindow::s_CreateListItemTemplate()
 Evas_Object* ListWindow::s_ContentGet(void* data, Evas_Object* object, const char* part)
 {
     return CreateRow(static_cast<const char*>(data), object, part, s_numColumns);
+}
+
+void ListWindow::s_OnItemRealized(void* data, Evas_Object* /*object*/, void* /*eventInfo*/)
+{
+    LOG_ENTRY();
+    if (data == nullptr)
+    {
+        LOG_ERROR(" pthis == NULL");
+        return;
+    }
+    static_cast<ListWindow*>(data)->m_list.FocusIfAllRealised();
 }
 
 void ListWindow::s_OnMenuItemClicked(void* data, Evas_Object* object, void* /*eventInfo*/)

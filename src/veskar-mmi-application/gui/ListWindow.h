@@ -32,6 +32,7 @@ protected:
     static Evas_Object* s_CreateMenuList(Evas_Object* parent);
     static Elm_Genlist_Item_Class* s_CreateListItemTemplate();
     static Evas_Object* s_ContentGet(void* data, Evas_Object* object, const char* part);
+    static void s_OnItemRealized(void* data, Evas_Object* object, void* eventInfo);
     static void s_OnMenuItemClicked(void* data, Evas_Object* object, void* eventInfo);
 
     MenuList m_list;

@@ -11,7 +11,7 @@ namespace VESKAR_APP
 {
 
 const MenuListKind MultipleListWindow::KIND = {
-    1280, LOG_LEVEL_INFO, LOG_LEVEL_INFO, s_CreateListItemTemplate, s_ContentGet, s_OnMenuItemClicked,
+    1280, LOG_LEVEL_INFO, s_CreateListItemTemplate, s_ContentGet, s_OnMenuItemClicked, s_OnItemRealized,
 };
 
 int MultipleListWindow::s_numColumns = 1;
@@ -97,6 +97,17 @@ Evas_Object* MultipleListWindow::s_ContentGet(void* /*data*/, Evas_Object* objec
     elm_object_focus_allow_set(check, EINA_FALSE);
     evas_object_show(check);
     return check;
+}
+
+void MultipleListWindow::s_OnItemRealized(void* data, Evas_Object* /*object*/, void* /*eventInfo*/)
+{
+    LOG_ENTRY();
+    if (data == nullptr)
+    {
+        LOG_INFO(" pthis == NULL");
+        return;
+    }
+    static_cast<MultipleListWindow*>(data)->m_list.FocusIfAllRealised();
 }
 
 void MultipleListWindow::s_OnMenuItemClicked(void* data, Evas_Object* /*object*/, void* /*eventInfo*/)

@@ -33,6 +33,7 @@ protected:
     static Elm_Genlist_Item_Class* s_CreateListItemTemplate();
     static char* s_TextGet(void* data, Evas_Object* object, const char* part);
     static Evas_Object* s_ContentGet(void* data, Evas_Object* object, const char* part);
+    static void s_OnItemRealized(void* data, Evas_Object* object, void* eventInfo);
     static void s_OnMenuItemClicked(void* data, Evas_Object* object, void* eventInfo);
     static void s_OnDeleteButtonClicked(void* data, Evas_Object* object, void* eventInfo);
 

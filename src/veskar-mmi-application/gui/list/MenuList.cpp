@@ -66,10 +66,10 @@ MenuList::MenuList(const MenuListKind& kind, void* screen)
 
 MenuList::~MenuList()
 {
-    // Before the rows are deleted: each deletion makes room for other rows, which are realised then.
-    if (m_menuList != nullptr)
+    // Taken back before the rows are deleted, as often as it was added.
+    while (m_menuList != nullptr && EFL_GUARD(evas_object_smart_callback_del_full, m_menuList, "realized",
+                                              m_kind.onRowRealised, m_screen) != nullptr)
     {
-        EFL_GUARD(evas_object_smart_callback_del_full, m_menuList, "realized", s_OnItemRealized, this);
     }
 }
 
@@ -130,7 +130,7 @@ std::string MenuList::m_PopulateList(Elm_Genlist_Item_Class* itemClass)
                                           ELM_GENLIST_ITEM_NONE, m_kind.onRowPressed, m_screen);
         if (item != nullptr)
         {
-            m_menuItems.emplace_back(item, GuardedFreeWith<elm_object_item_del>());
+            m_menuItems.push_back(std::shared_ptr<Elm_Object_Item>(item, GuardedFreeWith<elm_object_item_del>()));
         }
     }
     return spoken;
@@ -157,9 +157,9 @@ void MenuList::SetFocusToList(bool firstElement)
         LOG_ERROR("m_menuItems.empty()");
         return;
     }
-    if (!m_FocusIfAllRealised())
+    if (!FocusIfAllRealised())
     {
-        EFL_GUARD(evas_object_smart_callback_add, m_menuList, "realized", s_OnItemRealized, this);
+        EFL_GUARD(evas_object_smart_callback_add, m_menuList, "realized", m_kind.onRowRealised, m_screen);
     }
     if (firstElement)
     {
@@ -170,18 +170,7 @@ void MenuList::SetFocusToList(bool firstElement)
               << m_menuItems.size());
 }
 
-void MenuList::s_OnItemRealized(void* data, Evas_Object* /*object*/, void* /*eventInfo*/)
-{
-    LOG_ENTRY();
-    if (data == nullptr)
-    {
-        LOG_ERROR(" pthis == NULL");
-        return;
-    }
-    static_cast<MenuList*>(data)->m_FocusIfAllRealised();
-}
-
-bool MenuList::m_FocusIfAllRealised()
+bool MenuList::FocusIfAllRealised()
 {
     const EinaList realized(EFL_GUARD(elm_genlist_realized_items_get, m_menuList));
     if (EFL_GUARD(eina_list_count, realized.get()) == m_menuItems.size())

@@ -26,10 +26,10 @@ struct MenuListKind
 {
     int headerWidth;                                // design pixels
     LogLevel trace;                                 // of the steps
-    LogLevel fault;                                 // of a callback without its object
     Elm_Genlist_Item_Class* (*createRowTemplate)(); // freed by the list
     Elm_Gen_Item_Content_Get_Cb createHeader;       // for the header part
-    Evas_Smart_Cb onRowPressed;                     // gets the screen as its data
+    Evas_Smart_Cb onRowPressed;                     // both get the screen as their data
+    Evas_Smart_Cb onRowRealised;                    // calls FocusIfAllRealised
 };
 
 /**
@@ -39,7 +39,7 @@ struct MenuListKind
 class MenuList
 {
 public:
-    /** `screen` is handed to the row callback. */
+    /** `screen` is handed to the callbacks. */
     MenuList(const MenuListKind& kind, void* screen);
     ~MenuList();
 
@@ -64,16 +64,15 @@ public:
     /** Moves the focus into the list as soon as all its rows exist; `firstElement` changes the log alone. */
     void SetFocusToList(bool firstElement);
 
+    /** Focuses the list when every row is realised; false when no row is. */
+    bool FocusIfAllRealised();
+
     /** The toolkit's index of the pressed row, -1 without one. */
     static int GetFocusElement(const Evas_Object* genlist);
 
 private:
-    static void s_OnItemRealized(void* data, Evas_Object* object, void* eventInfo);
-
     void m_CreateListHeader(std::string headerEntry, Evas_Object* box);
     std::string m_PopulateList(Elm_Genlist_Item_Class* itemClass);
-    /** Focuses the list when every row is realised; false when no row is. */
-    bool m_FocusIfAllRealised();
 
     const MenuListKind& m_kind;
     void* m_screen;
