@@ -6,6 +6,7 @@
 #include <Elementary.h>
 
 #include "BusName.h"
+#include "Compositor.h"
 #include "Departure.h"
 #include "HandOver.h"
 #include "Log.h"
@@ -26,12 +27,18 @@ bool CanRunAs(const std::string& id)
     return IsApplicationId(id.c_str()) && IsApplicationId(Applications::LeavingNameOf(id).c_str());
 }
 
-bool StartToolkit(int argc, char** argv)
+/** Why the toolkit did not start; empty when it did. */
+std::string StartToolkit(int argc, char** argv)
 {
+    // The toolkit starts without a compositor too, and then shows nothing.
+    if (auto missing = MissingCompositor(); !missing.empty())
+    {
+        return missing;
+    }
     // The toolkit waits 0.2 s at most for its drawing thread before it frees a window's memory. On a busy machine that
     // is too short, and the thread then crashes. Without that thread each picture is drawn on the main loop.
     setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 0);
-    return elm_init(argc, argv) > 0;
+    return elm_init(argc, argv) > 0 ? "" : "the toolkit cannot be initialised";
 }
 
 void LoadTheme()
@@ -107,13 +114,14 @@ int Application::m_RunOwner(int argc, char** argv)
         return m_bus->IsGone() ? APP_ERROR_INVALID_CONTEXT : APP_ERROR_ALREADY_RUNNING;
     }
     m_queue->PutFirst(TakeOver(m_connection.get(), *m_bus, m_id));
-    if (!StartToolkit(argc, argv))
+    Departure departure(m_connection.get(), *m_bus, *m_queue, *m_outgoing, m_id);
+    if (const auto why = StartToolkit(argc, argv); !why.empty())
     {
-        APPFW_ERROR("the toolkit cannot be initialised");
+        APPFW_ERROR("%s cannot start: %s", m_id.c_str(), why.c_str());
+        departure.Refuse(name, why.c_str());
         return APP_ERROR_INVALID_CONTEXT;
     }
     const bool created = m_Live();
-    Departure departure(m_connection.get(), *m_bus, *m_queue, *m_outgoing, m_id);
     if (created)
     {
         departure.HandOver(name);
@@ -150,6 +158,10 @@ void Application::m_RunLoop()
     m_queue->Start();
     elm_run();
     m_queue->Stop();
+    if (const auto why = LostCompositor(); !why.empty())
+    {
+        APPFW_ERROR("the compositor is gone: the application ends (%s)", why.c_str());
+    }
 }
 
 void Application::m_Deliver(LifecycleEvent& event)

@@ -6,6 +6,7 @@
 #include "HandOver.h"
 #include "Log.h"
 #include "MainLoop.h"
+#include "TvBus.h"
 
 namespace veskar
 {
@@ -42,7 +43,7 @@ void Departure::HandOver(OwnName& name)
 void Departure::Refuse(OwnName& name, const char* why)
 {
     name.Release();
-    m_RefuseCalls(REFUSED_ERROR, why);
+    m_RefuseCalls(Applications::CANNOT_RUN_ERROR, why);
     m_AwaitOutgoing();
 }
 

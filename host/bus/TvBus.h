@@ -28,6 +28,8 @@ inline constexpr const char* APP_CONTROL = "AppControl";
 inline constexpr const char* PAUSE = "Pause";
 inline constexpr const char* RESUME = "Resume";
 inline constexpr const char* TERMINATE = "Terminate";
+/** The error for each call that reached a process that cannot run here. The text says why. */
+inline constexpr const char* CANNOT_RUN_ERROR = "org.tizen.Application1.Error.CannotRun";
 
 /** Owned by a process of that id on its way out: under it, the next process asks for the calls that this one holds. */
 inline std::string LeavingNameOf(const std::string& id)

@@ -10,10 +10,10 @@ namespace veskar
 {
 namespace
 {
-/** True for the bus's errors about a name that nobody owns and for which no program can be started. */
+/** True for an application that cannot run, and for the bus's errors about a name that nobody owns. */
 bool IsNoApplication(const std::string& errorName)
 {
-    return errorName == "org.freedesktop.DBus.Error.ServiceUnknown" ||
+    return errorName == Applications::CANNOT_RUN_ERROR || errorName == "org.freedesktop.DBus.Error.ServiceUnknown" ||
            errorName == "org.freedesktop.DBus.Error.NameHasNoOwner" ||
            errorName.rfind("org.freedesktop.DBus.Error.Spawn.", 0) == 0;
 }

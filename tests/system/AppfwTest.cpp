@@ -218,11 +218,27 @@ TEST_F(Appfw, WhatIsSentInTerminateArrivesThoughItsTargetStartsSlowly)
     ExpectTold(expected);
 }
 
-TEST_F(Appfw, WithoutABusOrWhenCreateFailsItEndsWithAnError)
+TEST_F(Appfw, WithoutABusOrACompositorOrWhenCreateFailsItEndsWithAnError)
 {
+    EXPECT_EQ(Process(InLog("WAYLAND_DISPLAY=nowhere")).Status(), 1);
+    EXPECT_EQ(CountInLog("no compositor at WAYLAND_DISPLAY=nowhere"), 1);
     EXPECT_EQ(Process(InLog("PROBE_CREATE_FAILS=1")).Status(), 1);
     EXPECT_EQ(Process({"env", "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere", PROBE}).Status(), 1);
     ExpectTold({"create"});
+}
+
+TEST_F(Appfw, WhenTheCompositorDiesItSaysSoAndEndsThroughTerminate)
+{
+    Process compositor({"weston", "--backend=headless-backend.so", "--no-config", "--idle-time=0", "--socket=mortal",
+                        "--log=" + Environment("XDG_RUNTIME_DIR") + "/mortal.log"});
+    const Words listens{"grep", "-q", " 00010000 .*/mortal$", "/proc/net/unix"};
+    ASSERT_TRUE(WaitUntil([&] { return Process(listens).Status() == 0; }));
+    Process application(InLog("WAYLAND_DISPLAY=mortal"));
+    ExpectTold({"create", "resume"});
+    compositor.Signal(SIGKILL);
+    EXPECT_EQ(application.Status(), 0);
+    ExpectTold({"create", "resume", "terminate"});
+    EXPECT_EQ(CountInLog("the compositor is gone"), 1);
 }
 
 TEST_F(Appfw, WhenTheBusDiesItEndsThroughTerminate)

@@ -66,6 +66,27 @@ TEST_F(Surroundings, TheScreenIsRaisedAboveTheSetupWizard)
     EXPECT_EQ(CountInLog(raised), 1);
 }
 
+TEST_F(Surroundings, WithoutACompositorTheSenderIsToldAtOnceAndNoProcessStays)
+{
+    const auto startOn = [this](const std::string& compositor)
+    {
+        sdbus::createProxy(*m_bus, "org.freedesktop.DBus", "/org/freedesktop/DBus")
+            ->callMethod("UpdateActivationEnvironment")
+            .onInterface("org.freedesktop.DBus")
+            .withArguments(std::map<std::string, std::string>{{"WAYLAND_DISPLAY", compositor}});
+    };
+    startOn("nowhere");
+    Process request({"veskar-mw", "--source-id", "254", "message"});
+    EXPECT_EQ(request.Status(), 69);
+    startOn(Environment("WAYLAND_DISPLAY"));
+    EXPECT_EQ(request.Output(), "");
+    EXPECT_EQ(CountInLog("no compositor at WAYLAND_DISPLAY=nowhere"), 3) << "process, refused sender and middleware";
+    EXPECT_TRUE(WaitForApplicationEnd());
+    Process shown = SendMessage(7, 255, {"--button", "OK"});
+    Press({"Return"});
+    ExpectAnswer(shown, Answer(7, 255, 0, 1, 0));
+}
+
 TEST_F(Surroundings, AMenuPositionReachesTheMiddlewareAndItsScreenFollows)
 {
     EXPECT_EQ(RunCommand({"veskar-mw", "menu", "veskar_delete_op"}),

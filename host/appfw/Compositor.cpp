@@ -1,0 +1,54 @@
+#include "Compositor.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
+
+#include <ecore_wayland.h>
+#include <wayland-client.h>
+
+namespace veskar
+{
+namespace
+{
+
+/** Empty when unset. */
+std::string_view Variable(const char* name)
+{
+    const char* value = getenv(name);
+    return value != nullptr ? value : "";
+}
+
+/** As the toolkit chooses its display. */
+bool UsesWayland()
+{
+    const auto display = Variable("ELM_DISPLAY");
+    return display.empty() ? Variable("DISPLAY").empty() : display == "wl";
+}
+
+} // namespace
+
+std::string MissingCompositor()
+{
+    if (!UsesWayland())
+    {
+        return "";
+    }
+    if (auto* display = wl_display_connect(nullptr))
+    {
+        wl_display_disconnect(display);
+        return "";
+    }
+    const std::string why = strerror(errno);
+    return "no compositor at WAYLAND_DISPLAY=" + std::string(Variable("WAYLAND_DISPLAY")) + ": " + why;
+}
+
+std::string LostCompositor()
+{
+    auto* connected = UsesWayland() ? ecore_wl2_connected_display_get(nullptr) : nullptr;
+    const int error = connected != nullptr ? wl_display_get_error(ecore_wl2_display_get(connected)) : 0;
+    return error != 0 ? strerror(error) : "";
+}
+
+} // namespace veskar
