@@ -1,8 +1,5 @@
 #include "Application.h"
 
-#include <cstdlib>
-#include <filesystem>
-
 #include <Elementary.h>
 
 #include "BusName.h"
@@ -13,6 +10,7 @@
 #include "MainLoop.h"
 #include "SettingKeys.h"
 #include "SettingsWatch.h"
+#include "Toolkit.h"
 #include "TvBus.h"
 #include "WindowWatch.h"
 
@@ -25,34 +23,6 @@ namespace
 bool CanRunAs(const std::string& id)
 {
     return IsApplicationId(id.c_str()) && IsApplicationId(Applications::LeavingNameOf(id).c_str());
-}
-
-/** Why the toolkit did not start; empty when it did. */
-std::string StartToolkit(int argc, char** argv)
-{
-    // The toolkit starts without a compositor too, and then shows nothing.
-    if (auto missing = MissingCompositor(); !missing.empty())
-    {
-        return missing;
-    }
-    // The toolkit waits 0.2 s at most for its drawing thread before it frees a window's memory. On a busy machine that
-    // is too short, and the thread then crashes. Without that thread each picture is drawn on the main loop.
-    setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 0);
-    return elm_init(argc, argv) > 0 ? "" : "the toolkit cannot be initialised";
-}
-
-void LoadTheme()
-{
-    const char* chosen = getenv("VESKAR_THEME");
-    const char* theme = chosen != nullptr && *chosen != '\0' ? chosen : VESKAR_THEME_FILE;
-    std::error_code error;
-    if (!std::filesystem::exists(theme, error))
-    {
-        APPFW_ERROR("the TV's theme %s is missing: the screens take the toolkit's own look", theme);
-        return;
-    }
-    // An overlay, not an extension, because it also replaces styles that the toolkit's theme has.
-    elm_theme_overlay_add(nullptr, theme);
 }
 
 } // namespace
@@ -80,6 +50,7 @@ int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& c
 {
     m_callbacks = callbacks;
     m_userData = userData;
+    PrepareToolkit();
     const BusLibrary library;
     m_connection.reset(library && CanRunAs(m_id) ? eldbus_connection_get(ELDBUS_CONNECTION_TYPE_SESSION) : nullptr);
     if (!m_connection)

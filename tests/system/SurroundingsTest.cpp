@@ -66,6 +66,18 @@ TEST_F(Surroundings, TheScreenIsRaisedAboveTheSetupWizard)
     EXPECT_EQ(CountInLog(raised), 1);
 }
 
+TEST_F(Surroundings, NoDaemonOfADesktopRunsBesideTheScreens)
+{
+    Process request = SendMessage(7, 255);
+    StillShot();
+    const std::string inThisTv = "VESKAR_TV_DIR=" + Environment("VESKAR_TV_DIR");
+    const std::string daemons = RunCommand(
+        {"sh", "-c", "grep -lszxF \"$0\" /proc/[0-9]*/environ | while read -r f; do cat \"${f%environ}comm\"; done",
+         inThisTv});
+    EXPECT_NE(daemons.find("veskar-app\n"), std::string::npos);
+    EXPECT_EQ(daemons.find("efreetd"), std::string::npos) << daemons;
+}
+
 TEST_F(Surroundings, WithoutACompositorTheSenderIsToldAtOnceAndNoProcessStays)
 {
     const auto startOn = [this](const std::string& compositor)

@@ -1,0 +1,53 @@
+#include "Toolkit.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+#include <Efreet.h>
+#include <Elementary.h>
+
+#include "Compositor.h"
+#include "Log.h"
+
+namespace veskar
+{
+
+void PrepareToolkit()
+{
+    // The toolkit's threads write to its log while the main thread registers log domains. Without locks that crashes.
+    eina_init();
+    eina_log_threads_enable();
+    // Menus and icons of a desktop, and news about batteries and the time zone: a TV's dialogues use none of them. They
+    // cost a daemon, a thread and a third of the start.
+    efreet_cache_disable();
+    ecore_app_no_system_modules();
+}
+
+std::string StartToolkit(int argc, char** argv)
+{
+    // The toolkit starts without a compositor too, and then shows nothing.
+    if (auto missing = MissingCompositor(); !missing.empty())
+    {
+        return missing;
+    }
+    // The toolkit waits 0.2 s at most for its drawing thread before it frees a window's memory. On a busy machine that
+    // is too short, and the thread then crashes. Without that thread each picture is drawn on the main loop.
+    setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 0);
+    return elm_init(argc, argv) > 0 ? "" : "the toolkit cannot be initialised";
+}
+
+void LoadTheme()
+{
+    const char* chosen = getenv("VESKAR_THEME");
+    const char* theme = chosen != nullptr && *chosen != '\0' ? chosen : VESKAR_THEME_FILE;
+    std::error_code error;
+    if (!std::filesystem::exists(theme, error))
+    {
+        APPFW_ERROR("the TV's theme %s is missing: the screens take the toolkit's own look", theme);
+        return;
+    }
+    // An overlay, not an extension, because it also replaces styles that the toolkit's theme has.
+    elm_theme_overlay_add(nullptr, theme);
+}
+
+} // namespace veskar
