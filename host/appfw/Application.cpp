@@ -137,8 +137,16 @@ void Application::m_RunLoop()
 
 void Application::m_Deliver(LifecycleEvent& event)
 {
-    m_Tell(event);
-    Replies(m_connection.get(), *m_bus).Done(event.call.get());
+    const Replies replies(m_connection.get(), *m_bus);
+    const auto lack = event.kind == LifecycleKind::Request ? LackOfRoom() : "";
+    if (lack.empty())
+    {
+        m_Tell(event);
+        replies.Done(event.call.get());
+        return;
+    }
+    APPFW_ERROR("a request is refused: %s", lack.c_str());
+    replies.Refused(event.call.get(), Applications::CANNOT_RUN_ERROR, lack.c_str());
 }
 
 void Application::m_Tell(const LifecycleEvent& event)

@@ -6,12 +6,16 @@
 #include <string_view>
 
 #include <ecore_wayland.h>
+#include <sys/statvfs.h>
 #include <wayland-client.h>
 
 namespace veskar
 {
 namespace
 {
+
+/** Bytes: the toolkit draws into two pictures of the screen by turns, sometimes three. */
+constexpr unsigned long long ROOM_FOR_PICTURES = 3ULL * 1920 * 1080 * 4;
 
 /** Empty when unset. */
 std::string_view Variable(const char* name)
@@ -49,6 +53,20 @@ std::string LostCompositor()
     auto* connected = UsesWayland() ? ecore_wl2_connected_display_get(nullptr) : nullptr;
     const int error = connected != nullptr ? wl_display_get_error(ecore_wl2_display_get(connected)) : 0;
     return error != 0 ? strerror(error) : "";
+}
+
+std::string LackOfRoom()
+{
+    struct statvfs disk = {};
+    const std::string folder(Variable("XDG_RUNTIME_DIR"));
+    if (!UsesWayland() || folder.empty() || statvfs(folder.c_str(), &disk) != 0)
+    {
+        return "";
+    }
+    const auto room = disk.f_frsize * static_cast<unsigned long long>(disk.f_bavail);
+    return room >= ROOM_FOR_PICTURES ? ""
+                                     : folder + " is full: " + std::to_string(room) +
+                                           " bytes are left, a screen takes " + std::to_string(ROOM_FOR_PICTURES);
 }
 
 } // namespace veskar

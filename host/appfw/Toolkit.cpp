@@ -7,10 +7,18 @@
 #include <Elementary.h>
 
 #include "Compositor.h"
+#include "Fonts.h"
 #include "Log.h"
 
 namespace veskar
 {
+namespace
+{
+
+/** Every theme for the TV has it. */
+constexpr const char* GROUP_OF_THE_THEME = "elm/popup/base/C_PopupBasic_WhiteBottom";
+
+} // namespace
 
 void PrepareToolkit()
 {
@@ -30,6 +38,10 @@ std::string StartToolkit(int argc, char** argv)
     {
         return missing;
     }
+    if (auto lack = LackOfRoom(); !lack.empty())
+    {
+        return lack;
+    }
     // The toolkit waits 0.2 s at most for its drawing thread before it frees a window's memory. On a busy machine that
     // is too short, and the thread then crashes. Without that thread each picture is drawn on the main loop.
     setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 0);
@@ -38,12 +50,17 @@ std::string StartToolkit(int argc, char** argv)
 
 void LoadTheme()
 {
+    if (const auto fonts = MissingFonts(); !fonts.empty())
+    {
+        APPFW_ERROR("fonts are missing, their texts are drawn with others or as boxes: %s", fonts.c_str());
+    }
     const char* chosen = getenv("VESKAR_THEME");
     const char* theme = chosen != nullptr && *chosen != '\0' ? chosen : VESKAR_THEME_FILE;
-    std::error_code error;
-    if (!std::filesystem::exists(theme, error))
+    if (!edje_file_group_exists(theme, GROUP_OF_THE_THEME))
     {
-        APPFW_ERROR("the TV's theme %s is missing: the screens take the toolkit's own look", theme);
+        std::error_code error;
+        const char* why = std::filesystem::exists(theme, error) ? "damaged or no theme" : "missing";
+        APPFW_ERROR("the TV's theme %s is %s: the screens take the toolkit's own look", theme, why);
         return;
     }
     // An overlay, not an extension, because it also replaces styles that the toolkit's theme has.

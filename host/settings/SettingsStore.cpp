@@ -65,12 +65,15 @@ bool IsWellFormedComponent(std::string_view component)
     return !component.empty() && component != "." && component != "..";
 }
 
-/** Nothing for what is missing, or no plain file. */
+/** Bytes. No value of the TV comes near it. */
+constexpr off_t LARGEST_FILE = 64 * 1024;
+
+/** Nothing for what is missing, too large, or no plain file. */
 std::optional<std::string> ReadFile(const char* path)
 {
     const FileDescriptor file(open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status = {};
-    if (!file || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode))
+    if (!file || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > LARGEST_FILE)
     {
         return std::nullopt;
     }

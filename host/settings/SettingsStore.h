@@ -31,7 +31,10 @@ bool IsWellFormedKey(std::string_view key);
 /** The file of a key; nothing for a key that is not well-formed, or where the environment names no folder for it. */
 std::optional<std::filesystem::path> SettingFile(std::string_view key);
 
-/** The value without one line break at its end; nothing for a key that is unset or not well-formed. */
+/**
+ * The value without one line break at its end; nothing for a key that is unset or not well-formed, and for a file of
+ * more than 64 KiB.
+ */
 std::optional<std::string> ReadSetting(std::string_view key);
 
 /** The whole text as a number; nothing when it is not one, or does not fit. */

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <csignal>
+#include <filesystem>
 #include <fstream>
 #include <random>
 #include <thread>
@@ -225,6 +226,33 @@ TEST_F(Appfw, WithoutABusOrACompositorOrWhenCreateFailsItEndsWithAnError)
     EXPECT_EQ(Process(InLog("PROBE_CREATE_FAILS=1")).Status(), 1);
     EXPECT_EQ(Process({"env", "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere", PROBE}).Status(), 1);
     ExpectTold({"create"});
+}
+
+TEST_F(Appfw, AThemeThatIsDamagedAndFontsThatAreMissingAreOneLineEach)
+{
+    const std::string folder = Environment("XDG_RUNTIME_DIR");
+    std::filesystem::copy(Environment("VESKAR_THEME"), folder + "/half.edj");
+    std::filesystem::resize_file(folder + "/half.edj", 5000);
+    std::ofstream(folder + "/garbage.edj") << std::string(5000, 'x');
+    std::ofstream(folder + "/no-fonts.conf") << "<fontconfig></fontconfig>";
+    const std::pair<std::string, std::string> spoilt[] = {
+        {"VESKAR_THEME=" + folder + "/half.edj", "half.edj is damaged"},
+        {"VESKAR_THEME=" + folder + "/garbage.edj", "garbage.edj is damaged"},
+        {"VESKAR_THEME=/nowhere.edj", "/nowhere.edj is missing"},
+        {"FONTCONFIG_FILE=" + folder + "/no-fonts.conf", "fonts are missing"},
+    };
+    Events expected;
+    for (const auto& [variable, line] : spoilt)
+    {
+        Process application(InLog(variable));
+        expected.insert(expected.end(), {"create", "resume", "terminate"});
+        WaitUntil([&] { return Told().size() >= expected.size() - 1; });
+        application.Signal(SIGTERM);
+        EXPECT_EQ(application.Status(), 0);
+        EXPECT_EQ(CountInLog(line), 1) << line;
+    }
+    EXPECT_EQ(CountInLog("VESKAR-APPFW E"), 4);
+    ExpectTold(expected);
 }
 
 TEST_F(Appfw, WhenTheCompositorDiesItSaysSoAndEndsThroughTerminate)

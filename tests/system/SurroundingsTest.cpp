@@ -108,6 +108,40 @@ TEST_F(Surroundings, AMenuPositionReachesTheMiddlewareAndItsScreenFollows)
     ExpectAnswer(screen, Answer(7, 255, 0, 1, 0));
 }
 
+TEST_F(Surroundings, ATvIsPutWhereThereIsRoomAndAScreenThatWouldNotFitIsRefused)
+{
+    const std::string small = Environment("XDG_RUNTIME_DIR") + "/small";
+    std::filesystem::create_directory(small);
+    const auto onDiskOf = [&small](const std::string& size, const std::string& command)
+    {
+        return Process({"unshare", "--user", "--map-current-user", "--keep-caps", "--mount", "sh", "-c",
+                        "mount -t tmpfs -o size=" + size + " tmpfs " + small + " && " + command});
+    };
+    if (onDiskOf("2m", "true").Status() != 0)
+    {
+        GTEST_SKIP() << "no disk can be made here";
+    }
+    Process tv = onDiskOf("2m", "TMPDIR=" + small + " veskar-tv -- sh -c 'echo $VESKAR_TV_DIR' 2>&1");
+    EXPECT_EQ(tv.Status(), 0);
+    EXPECT_NE(tv.Output().find(small + " has 2 MiB left"), std::string::npos) << tv.Output();
+    EXPECT_EQ(tv.Output().find(small + "/"), std::string::npos) << tv.Output();
+
+    const std::string start = "WAYLAND_DISPLAY=$XDG_RUNTIME_DIR/$WAYLAND_DISPLAY XDG_RUNTIME_DIR=" + small +
+                              " exec " VESKAR_APPLICATION_PROGRAM " 2>>\"$VESKAR_TV_LOG\"";
+    EXPECT_NE(onDiskOf("2m", start).Status(), 0);
+    EXPECT_EQ(CountInLog("cannot start: " + small + " is full"), 1);
+
+    Process application = onDiskOf("64m", start);
+    ASSERT_TRUE(WaitUntil([this] { return IsApplicationRunning(); }));
+    std::ofstream("/proc/" + std::to_string(ApplicationPid()) + "/root" + small + "/other")
+        << std::string(60 << 20, 'x') << std::flush;
+    Process request({"veskar-mw", "message"});
+    EXPECT_EQ(request.Status(), 69);
+    EXPECT_EQ(CountInLog("request is refused: " + small + " is full"), 1);
+    EndApplication();
+    EXPECT_EQ(application.Status(), 0);
+}
+
 TEST_F(Surroundings, ACommandInATvFindsABusThatWasSlowToListen)
 {
     const std::string folder = Environment("XDG_RUNTIME_DIR");

@@ -73,6 +73,18 @@ TEST_F(Settings, OneLineBreakAtTheEndIsNoPartOfAValueAndANumberIsNothingElse)
     }
 }
 
+TEST_F(Settings, AFileThatIsTooLargeForAValueCountsAsMissing)
+{
+    WriteFile(NUMBER, "1");
+    const auto file = *SettingFile(NUMBER);
+    for (const std::uintmax_t size :
+         {std::uintmax_t{64} << 10, (std::uintmax_t{64} << 10) + 1, std::uintmax_t{1} << 40})
+    {
+        std::filesystem::resize_file(file, size);
+        EXPECT_EQ(ReadSetting(NUMBER).has_value(), size == 64 << 10) << size;
+    }
+}
+
 TEST_F(Settings, AKeyNeverLeavesItsFolder)
 {
     for (const char* key : {"", "/etc/passwd", "db/../../x", "db//x", "db/", "memory/./x", "..", "db/a\nb"})
