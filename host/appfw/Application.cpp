@@ -145,7 +145,6 @@ void Application::m_Deliver(LifecycleEvent& event)
         replies.Done(event.call.get());
         return;
     }
-    APPFW_ERROR("a request is refused: %s", lack.c_str());
     replies.Refused(event.call.get(), Applications::CANNOT_RUN_ERROR, lack.c_str());
 }
 

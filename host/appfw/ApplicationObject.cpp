@@ -1,7 +1,6 @@
 #include "ApplicationObject.h"
 
 #include "AppControlCodec.h"
-#include "Log.h"
 #include "TvBus.h"
 
 namespace veskar
@@ -44,7 +43,6 @@ Eldbus_Message* ApplicationObject::s_OnAppControl(const Eldbus_Service_Interface
     auto request = std::make_unique<app_control_s>();
     if (const auto refusal = DecodeAppControl(call, *request))
     {
-        APPFW_ERROR("request refused: %s", refusal->c_str());
         return eldbus_message_error_new(call, REFUSED_ERROR, refusal->c_str());
     }
     OwnerOf(object)->m_received({LifecycleKind::Request, std::move(request), ShareMessage(call)});

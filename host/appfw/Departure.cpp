@@ -68,12 +68,7 @@ void Departure::m_PassOnCalls(const std::string& successor)
 
 void Departure::m_RefuseCalls(const char* name, const char* why)
 {
-    const auto refuse = [&](const LifecycleEvent& request)
-    {
-        APPFW_ERROR("the application takes a request no more: %s", why);
-        m_replies.Refused(request.call.get(), name, why);
-    };
-    m_EmptyQueue(refuse);
+    m_EmptyQueue([&](const LifecycleEvent& request) { m_replies.Refused(request.call.get(), name, why); });
 }
 
 void Departure::m_EmptyQueue(const std::function<void(const LifecycleEvent& request)>& handle)
@@ -100,7 +95,6 @@ void Departure::m_PassOn(const LifecycleEvent& event, const std::string& success
     {
         if (const auto error = ErrorOf(reply))
         {
-            APPFW_ERROR("the next process did not take the request: %s", error->text);
             m_replies.Refused(asked.get(), error->name, error->text);
             return;
         }

@@ -1,6 +1,7 @@
 #include "RouterBinding.h"
 
 #include <algorithm>
+#include <dlog.h>
 #include <key_router.h>
 #include <stdexcept>
 #include <string_view>
@@ -16,6 +17,19 @@ std::unique_ptr<veskar::RouterBinding>& Binding()
 {
     static auto* one = new std::unique_ptr<veskar::RouterBinding>;
     return *one;
+}
+
+/** Each screen asks for some hundred keys: one line says why none is granted. */
+bool HasRouter()
+{
+    static bool told = false;
+    if (!Binding() && !told)
+    {
+        told = true;
+        __dlog_print(LOG_ID_MAIN, DLOG_WARN, "VESKAR-KEYROUTER",
+                     "the compositor has no key router for this process: it hears only the keys of its focused window");
+    }
+    return Binding() != nullptr;
 }
 
 } // namespace
@@ -78,11 +92,11 @@ extern "C"
 
     int KeyRouter_Set_KeyList(wl_surface* surface, const _KeyList* list)
     {
-        return Binding() && surface != nullptr && Binding()->Grab(surface, *list) ? 1 : 0;
+        return HasRouter() && surface != nullptr && Binding()->Grab(surface, *list) ? 1 : 0;
     }
 
     int KeyRouter_UnSet_KeyList(wl_surface* surface, const _KeyList* list)
     {
-        return Binding() && surface != nullptr && Binding()->Ungrab(surface, *list) ? 1 : 0;
+        return HasRouter() && surface != nullptr && Binding()->Ungrab(surface, *list) ? 1 : 0;
     }
 }

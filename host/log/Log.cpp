@@ -2,53 +2,23 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <mutex>
 #include <string>
 #include <string_view>
-#include <type_traits>
 #include <utility>
 
-#include <syslog.h>
-#include <systemd/sd-journal.h>
-#include <unistd.h>
-
+#include "Output.h"
 #include "SecretMask.h"
 
 namespace
 {
 
-struct Level
-{
-    int priority;
-    const char* name;
-    char letter;
-    int journalPriority;
-};
-
-constexpr Level LEVELS[] = {
-    {DLOG_DEBUG, "debug", 'D', LOG_DEBUG},
-    {DLOG_INFO, "info", 'I', LOG_INFO},
-    {DLOG_WARN, "warn", 'W', LOG_WARNING},
-    {DLOG_ERROR, "error", 'E', LOG_ERR},
-};
-
-/** Priorities outside the four count as the nearest of them. */
-const Level& LevelOf(int priority)
-{
-    const Level* found = &LEVELS[0];
-    for (const auto& level : LEVELS)
-    {
-        if (level.priority <= priority)
-        {
-            found = &level;
-        }
-    }
-    return *found;
-}
+using veskar::LogLine;
+using veskar::LogTarget;
 
 bool EnvironmentIs(const char* name, std::string_view value)
 {
@@ -63,35 +33,96 @@ int LowestPriority()
     {
         return DLOG_INFO;
     }
-    for (const auto& level : LEVELS)
+    const std::pair<std::string_view, int> names[] = {
+        {"debug", DLOG_DEBUG}, {"info", DLOG_INFO}, {"warn", DLOG_WARN}, {"error", DLOG_ERROR}};
+    for (const auto& [name, priority] : names)
     {
-        if (std::string_view(wanted) == level.name)
+        if (wanted == name)
         {
-            return level.priority;
+            return priority;
         }
     }
     fprintf(stderr, "VESKAR_LOG=%s: not one of debug, info, warn, error; info is used\n", wanted);
     return DLOG_INFO;
 }
 
-/**
- * The log's whole state, made at the first line. Threads still log while the process exits, after static objects have
- * been destroyed, so nothing here may need a destructor.
- */
+/** The log's whole state. Equal lines that follow one another become one line and a count. */
 struct LogState
 {
     const int lowestPriority = LowestPriority();
     const bool showSecrets = EnvironmentIs("VESKAR_LOG_SECRETS", "1");
-    const bool toJournal = EnvironmentIs("VESKAR_LOG_TO", "journal");
-    /** A write longer than a pipe takes at once may be split: this keeps another thread's line out of it. */
-    std::mutex writing;
-};
-static_assert(std::is_trivially_destructible_v<LogState>);
+    const LogTarget target = EnvironmentIs("VESKAR_LOG_TO", "journal") ? LogTarget::Journal : LogTarget::StandardError;
 
+    /**
+     * Protects what follows, and the output: a write longer than a pipe takes at once may be split, and another
+     * thread's line must not come between.
+     */
+    std::mutex writing;
+    LogLine last = {};
+    unsigned repeats = 0;
+    bool folds = true;
+};
+
+LogState& State();
+
+/** The lock must be held. */
+void WriteRepeats(LogState& state)
+{
+    if (state.repeats > 1)
+    {
+        state.last.text += " (" + std::to_string(state.repeats) + " more times)";
+    }
+    if (state.repeats > 0)
+    {
+        veskar::WriteLine(state.target, state.last);
+    }
+    state.repeats = 0;
+}
+
+/** From here on each line is written: nobody would write a count any more. */
+void StopFolding()
+{
+    auto& state = State();
+    const std::lock_guard<std::mutex> lock(state.writing);
+    WriteRepeats(state);
+    state.folds = false;
+}
+
+void OnCrash(int signal)
+{
+    auto& state = State();
+    if (state.writing.try_lock() && state.repeats > 0)
+    {
+        veskar::WriteLastRepeats(state.last, state.repeats);
+    }
+    raise(signal); // ends the process when this function returns
+}
+
+/** Leaves a signal alone that somebody else handles, such as a sanitizer. */
+void WatchForCrashes()
+{
+    for (const int signal : {SIGSEGV, SIGBUS, SIGABRT, SIGFPE, SIGILL})
+    {
+        struct sigaction action = {};
+        if (sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_DFL)
+        {
+            action.sa_handler = OnCrash;
+            action.sa_flags = SA_RESETHAND;
+            sigaction(signal, &action, nullptr);
+        }
+    }
+}
+
+/** Made at the first line and never destroyed: threads still log while the process exits. */
 LogState& State()
 {
-    static LogState state;
-    return state;
+    static auto* state = []
+    {
+        atexit(StopFolding);
+        WatchForCrashes();
+        return new LogState;
+    }();
+    return *state;
 }
 
 /** A text with line breaks stays one line, so that it cannot be taken for two. */
@@ -101,44 +132,6 @@ void EscapeLineBreaks(std::string& text)
     {
         text.replace(at, 1, text[at] == '\n' ? "\\n" : "\\r");
     }
-}
-
-/** Journal readers colour by priority themselves. */
-void StripColours(std::string& text)
-{
-    for (auto at = text.find("\x1b["); at != std::string::npos; at = text.find("\x1b[", at))
-    {
-        const auto end = text.find('m', at);
-        text.erase(at, end == std::string::npos ? end : end - at + 1);
-    }
-}
-
-int WriteToJournal(const Level& level, const char* tag, std::string& text)
-{
-    StripColours(text);
-    const int result = sd_journal_send("PRIORITY=%d", level.journalPriority, "SYSLOG_IDENTIFIER=%s", tag, "MESSAGE=%s",
-                                       text.c_str(), nullptr);
-    return result < 0 ? result : static_cast<int>(text.size());
-}
-
-int WriteToStandardError(LogState& state, const std::string& line)
-{
-    const std::lock_guard<std::mutex> lock(state.writing);
-    size_t written = 0;
-    while (written < line.size())
-    {
-        const ssize_t count = write(STDERR_FILENO, line.data() + written, line.size() - written);
-        if (count < 0 && errno == EINTR)
-        {
-            continue;
-        }
-        if (count < 0)
-        {
-            return -errno;
-        }
-        written += count;
-    }
-    return static_cast<int>(written);
 }
 
 /** Straight into the string: a typed digit's copy in some other buffer would outlive its masking. */
@@ -154,17 +147,22 @@ std::string Format(const char* format, va_list arguments)
     return text;
 }
 
-int Print(LogState& state, int priority, const char* tag, std::string text)
+int Print(LogState& state, LogLine line)
 {
     if (!state.showSecrets)
     {
-        veskar::MaskTypedDigits(text);
+        veskar::MaskTypedDigits(line.text);
     }
-    EscapeLineBreaks(text);
-    const auto& level = LevelOf(priority);
-    const char* name = tag != nullptr ? tag : "";
-    return state.toJournal ? WriteToJournal(level, name, text)
-                           : WriteToStandardError(state, std::string(name) + " " + level.letter + " " + text + "\n");
+    EscapeLineBreaks(line.text);
+    const std::lock_guard<std::mutex> lock(state.writing);
+    if (state.folds && line == state.last)
+    {
+        ++state.repeats;
+        return 0;
+    }
+    WriteRepeats(state);
+    state.last = std::move(line);
+    return veskar::WriteLine(state.target, state.last);
 }
 
 } // namespace
@@ -179,7 +177,7 @@ int __dlog_print(log_id_t, int priority, const char* tag, const char* format, ..
     const int savedErrno = errno;
     va_list arguments;
     va_start(arguments, format);
-    const int result = Print(state, priority, tag, Format(format, arguments));
+    const int result = Print(state, {priority, tag != nullptr ? tag : "", Format(format, arguments)});
     va_end(arguments);
     errno = savedErrno;
     return result;

@@ -136,7 +136,15 @@ TEST_F(Appfw, WhatIsNoStringOrTooLargeIsRefusedByItsKeyAndNeverSeen)
         const std::string error = SendRaw(values);
         EXPECT_EQ(error.find("org.tizen.Application1.Error.Refused: "), 0u) << error;
         EXPECT_NE(error.find('"' + key + '"'), std::string::npos) << error;
+        const std::string logged = "AppControl(a{sv}) of " + m_bus->getUniqueName() + " is refused: ";
+        EXPECT_EQ(CountInLog(logged + error.substr(error.find(": ") + 2)), 1) << error;
     }
+    EXPECT_THROW(sdbus::createProxy(*m_bus, Applications::DIALOGUES, PathOf(Applications::DIALOGUES))
+                     ->callMethod(Applications::APP_CONTROL)
+                     .onInterface(Applications::INTERFACE)
+                     .withArguments(std::string("of a wrong signature")),
+                 sdbus::Error);
+    EXPECT_EQ(CountInLog("AppControl(s) of " + m_bus->getUniqueName() + " is refused"), 1);
     ExpectTold({"create", "request whole", "resume", "request "});
 }
 

@@ -1,6 +1,7 @@
 #include "Tv.h"
 
 #include <fstream>
+#include <regex>
 #include <sstream>
 
 #include <unistd.h>
@@ -152,11 +153,17 @@ std::string TvTest::Log() const
 
 int TvTest::CountInLog(const std::string& text) const
 {
-    const std::string log = Log();
+    // The log folds equal lines.
+    const std::regex folded("\\(([0-9]+) more times\\)$");
+    std::istringstream log(Log());
     int count = 0;
-    for (std::size_t at = log.find(text); at != std::string::npos; at = log.find(text, at + text.size()))
+    for (std::string line; std::getline(log, line);)
     {
-        ++count;
+        if (line.find(text) != std::string::npos)
+        {
+            std::smatch times;
+            count += std::regex_search(line, times, folded) ? std::stoi(times[1]) : 1;
+        }
     }
     return count;
 }

@@ -72,7 +72,7 @@ protected:
     /** Owns the names of these applications and prints what they are asked, as long as the process lives. */
     static Process StandFor(const std::string& applications);
 
-    /** What was written to the TV's log since the test began, and how often it contains a text. */
+    /** What was written to the TV's log since the test began, and how many lines contain a text. */
     std::string Log() const;
     int CountInLog(const std::string& text) const;
 

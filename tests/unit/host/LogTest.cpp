@@ -2,12 +2,25 @@
 #include <SecretMask.h>
 #include <dlog.h>
 
+#include <csignal>
+#include <cstdlib>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <thread>
 #include <utility>
 
 #include <gtest/gtest.h>
+
+namespace
+{
+
+void Tell(const std::string& text)
+{
+    __dlog_print(LOG_ID_MAIN, DLOG_ERROR, "TAG", "%s", text.c_str());
+}
+
+} // namespace
 
 TEST(Log, TypedDigitsAreMaskedAndOtherNumbersAreNot)
 {
@@ -27,7 +40,7 @@ TEST(Log, TypedDigitsAreMaskedAndOtherNumbersAreNot)
     }
 }
 
-TEST(Log, OneCallIsOneLineFromAnyThread)
+TEST(Log, OneCallIsOneLineFromAnyThreadAndEqualOnesAreCounted)
 {
     constexpr int COUNT = 200;
     // Longer than what a pipe accepts at once.
@@ -41,7 +54,7 @@ TEST(Log, OneCallIsOneLineFromAnyThread)
             {
                 for (int line = 0; line < COUNT; ++line)
                 {
-                    __dlog_print(LOG_ID_MAIN, DLOG_ERROR, "TAG", "%s", text.c_str());
+                    Tell(text + (line % 4 == 0 ? "!" : ""));
                 }
             });
     }
@@ -49,12 +62,43 @@ TEST(Log, OneCallIsOneLineFromAnyThread)
     {
         thread.join();
     }
+    Tell("end");
     std::istringstream lines(testing::internal::GetCapturedStderr());
     const std::string expected = "TAG E " + std::string(6000, 'x') + "\\nNumber [*] pressed!";
-    int count = 0;
-    for (std::string line; std::getline(lines, line); ++count)
+    const std::regex count("!?( \\(([0-9]+) more times\\))?");
+    int told = 0;
+    for (std::string line; std::getline(lines, line) && line != "TAG E end";)
     {
-        ASSERT_EQ(line, expected);
+        ASSERT_EQ(line.substr(0, expected.size()), expected);
+        line.erase(0, expected.size());
+        std::smatch times;
+        ASSERT_TRUE(std::regex_match(line, times, count)) << line;
+        told += times[2].matched ? std::stoi(times[2]) : 1;
     }
-    EXPECT_EQ(count, 4 * COUNT);
+    EXPECT_EQ(told, 4 * COUNT);
+}
+
+TEST(Log, EqualLinesAreFoldedAndTheirCountIsNotLostWhenTheProcessEndsOrCrashes)
+{
+    testing::internal::CaptureStderr();
+    for (const char* line : {"once", "twice", "twice", "often", "often", "often", "often", "twice"})
+    {
+        Tell(line);
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "TAG E once\nTAG E twice\nTAG E twice\nTAG E often\nTAG E often (3 more times)\nTAG E twice\n");
+    const auto tellAndEnd = [](void (*end)())
+    {
+        for (int i = 0; i < 5; ++i)
+        {
+            Tell("last");
+        }
+        end();
+    };
+    const std::string counted = "TAG E last\nTAG E last \\(4 more times\\)\n";
+    EXPECT_EXIT(tellAndEnd([] { exit(0); }), testing::ExitedWithCode(0), counted);
+#ifndef __SANITIZE_ADDRESS__ // it reports crashes itself
+    EXPECT_EXIT(tellAndEnd([] { abort(); }), testing::KilledBySignal(SIGABRT), counted);
+    EXPECT_EXIT(tellAndEnd([] { raise(SIGSEGV); }), testing::KilledBySignal(SIGSEGV), counted);
+#endif
 }
