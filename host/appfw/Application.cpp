@@ -61,6 +61,7 @@ int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& c
     m_bus = std::make_unique<BusWatch>(m_connection.get());
     m_names = std::make_unique<BusNames>(m_connection.get());
     m_outgoing = std::make_unique<OutgoingCalls>();
+    m_freed = std::make_unique<FreedMemory>();
     m_queue = std::make_unique<LifecycleQueue>([this](LifecycleEvent& event) { m_Deliver(event); });
     // Before the name is requested: a process that the bus started gets its first request before that answer.
     m_object = std::make_unique<ApplicationObject>(
@@ -70,6 +71,7 @@ int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& c
 
     m_object.reset();
     m_queue.reset();
+    m_freed.reset();
     m_outgoing.reset();
     m_names.reset();
     m_bus.reset();
@@ -143,6 +145,7 @@ void Application::m_Deliver(LifecycleEvent& event)
     {
         m_Tell(event);
         replies.Done(event.call.get());
+        m_freed->GiveBackSoon(); // a request may have replaced a screen, a pause tells that one was hidden
         return;
     }
     replies.Refused(event.call.get(), Applications::CANNOT_RUN_ERROR, lack.c_str());

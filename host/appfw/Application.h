@@ -12,6 +12,7 @@
 #include "Bus.h"
 #include "BusNames.h"
 #include "BusWatch.h"
+#include "FreedMemory.h"
 #include "LifecycleQueue.h"
 #include "OutgoingCalls.h"
 #include "OwnName.h"
@@ -78,6 +79,7 @@ private:
     std::unique_ptr<BusWatch> m_bus;
     std::unique_ptr<BusNames> m_names;
     std::unique_ptr<OutgoingCalls> m_outgoing;
+    std::unique_ptr<FreedMemory> m_freed;
     std::unique_ptr<LifecycleQueue> m_queue;
     std::unique_ptr<ApplicationObject> m_object;
 };

@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <list>
 #include <memory>
 #include <string>
 #include <thread>
@@ -51,6 +52,19 @@ void TellLeaving(Ecore_Evas* /*canvas*/)
 void WatchScreen(void (*leaving)(Ecore_Evas* canvas))
 {
     ecore_evas_callback_hide_set(ecore_evas_ecore_evas_get(evas_object_evas_get(s_window)), leaving);
+}
+
+/** As a large screen does: takes much for a moment, and leaves something small everywhere in it. */
+void FillMemory()
+{
+    static std::list<std::string> kept;
+    std::list<std::string> blocks(100'000, std::string(1000, 'x'));
+    auto block = blocks.begin();
+    for (int i = 0; i < 100; ++i)
+    {
+        kept.splice(kept.end(), blocks, block++);
+        std::advance(block, 900);
+    }
 }
 
 bool Create(void*)
@@ -101,6 +115,10 @@ void Request(app_control_h request, void*)
         // Longer than in a real application, because a request is lost most easily in this moment.
         elm_exit();
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    if (action == "fill memory")
+    {
+        FillMemory();
     }
     s_sendAtTheEnd = s_sendAtTheEnd || action == "send at the end";
 }

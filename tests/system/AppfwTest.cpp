@@ -9,6 +9,8 @@
 #include <random>
 #include <thread>
 
+#include <unistd.h>
+
 namespace
 {
 
@@ -190,6 +192,24 @@ TEST_F(Appfw, ALeavingProcessThatHangsDoesNotKeepTheNextOneForEver)
     EXPECT_EQ(SendRaw(Request("first")), "");
     m_bus->releaseName(leaving);
     ExpectTold({"create", "request first", "resume"});
+}
+
+TEST_F(Appfw, WhatARequestHasFreedIsGivenBackToTheSystem)
+{
+    SendRaw(Request("start"));
+    const std::string file = "/proc/" + std::to_string(ApplicationPid()) + "/statm";
+    const auto pages = [&file]
+    {
+        long size = 0;
+        long resident = 0;
+        std::ifstream(file) >> size >> resident;
+        return resident;
+    };
+    const long before = pages();
+    const long half = 50'000'000 / sysconf(_SC_PAGESIZE);
+    SendRaw(Request("large", "fill memory"));
+    EXPECT_GT(pages(), before + half);
+    EXPECT_TRUE(WaitUntil([&] { return pages() < before + half; }));
 }
 
 TEST_F(Appfw, AnApplicationThatNobodyHasIsNotFound)
