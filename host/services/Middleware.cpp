@@ -248,7 +248,10 @@ void Middleware::m_OwnerChanged(const std::string& name, const std::string& oldO
     if (name == oldOwner && newOwner.empty())
     {
         m_screens.RemoveClient(name);
-        m_screens.ProcessEnded(name);
+        if (const auto waiters = m_screens.ProcessEnded(name))
+        {
+            Print("the application ended without an answer, for which " + std::to_string(waiters) + " waited");
+        }
     }
 }
 

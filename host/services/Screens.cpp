@@ -72,8 +72,9 @@ void Screens::ProcessCame(const std::string& process)
     }
 }
 
-void Screens::ProcessEnded(const std::string& process)
+std::size_t Screens::ProcessEnded(const std::string& process)
 {
+    const auto before = m_waiters.size();
     m_waiters.remove_if(
         [&process](const std::shared_ptr<Waiter>& waiter)
         {
@@ -85,6 +86,7 @@ void Screens::ProcessEnded(const std::string& process)
             }
             return ended;
         });
+    return before - m_waiters.size();
 }
 
 void Screens::RemoveClient(const std::string& client)

@@ -79,8 +79,11 @@ public:
      */
     void ProcessLeft();
     void ProcessCame(const std::string& process);
-    /** The process has left the bus after its last answer. Those who still wait for an answer of it fail. */
-    void ProcessEnded(const std::string& process);
+    /**
+     * The process has left the bus after its last answer. Those who still wait for an answer of it fail. Returns how
+     * many they were.
+     */
+    std::size_t ProcessEnded(const std::string& process);
     void RemoveClient(const std::string& client);
 
 private:

@@ -45,6 +45,26 @@ TEST_F(Lifecycle, TerminateAnswersTheScreenThatIsShown)
     EXPECT_EQ(CountInLog("Finishing terminate callback!"), 1);
 }
 
+TEST_F(Lifecycle, AProcessThatDiesWithAScreenShownIsToldAtOnceAndTheNextRequestStartsAnother)
+{
+    constexpr std::chrono::seconds AT_ONCE{2};
+    const std::string died = "ended without an answer, for which 1 waited";
+    Process request = SendMessage(7, 254, {"--button", "OK"});
+    StillShot();
+    const auto pid = static_cast<pid_t>(ApplicationPid());
+    ASSERT_GT(pid, 0);
+    kill(pid, SIGKILL);
+    EXPECT_EQ(request.Status(AT_ONCE), 69);
+    EXPECT_EQ(request.Output(), "");
+    EXPECT_EQ(CountInLog(died), 1);
+
+    Process next = SendMessage(7, 254, {"--button", "OK"});
+    Press({"Return"});
+    ExpectAnswer(next, Answer(7, 254, 0, 1, 0));
+    EndApplication();
+    EXPECT_EQ(CountInLog(died), 1) << "it was answered before it ended";
+}
+
 TEST_F(Lifecycle, ASecondInstanceDrawsNothingAndSaysSo)
 {
     Process request = SendMessage(7, 255, {"--button", "OK"});

@@ -77,7 +77,7 @@ TEST_F(ScreensTest, AnswerOfAnotherProcessIsNotForThoseWhoWaitForThisOne)
     WaitHandled("old");
     WaitHandled("new", NEXT_PROCESS);
     EXPECT_EQ(AnsweredWith(1, MESSAGE, NEXT_PROCESS), 1U);
-    m_screens.ProcessEnded(PROCESS);
+    EXPECT_EQ(m_screens.ProcessEnded(PROCESS), 1U);
     EXPECT_EQ(m_outcomes, (Outcomes{{"new", 1}, {"old", GONE}}));
 }
 
