@@ -66,7 +66,7 @@ bool IsWellFormedComponent(std::string_view component)
 }
 
 /** Bytes. No value of the TV comes near it. */
-constexpr off_t LARGEST_FILE = 64 * 1024;
+constexpr off_t LARGEST_FILE = 64L * 1024;
 
 /** Nothing for what is missing, too large, or no plain file. */
 std::optional<std::string> ReadFile(const char* path)
