@@ -119,14 +119,6 @@ TEST_F(Screens, SelectBeginsOnItsFirstRowWhateverTheRowsAndTheScreenBefore)
     EXPECT_EQ(list.Status(), 2);
 }
 
-TEST_F(Screens, SelectLosesNoKeyOfAViewerWhoRunsDownItsRows)
-{
-    Process request = SendKind("select", Rows(40));
-    StillShot();
-    RunCommand(Words{"veskar-remote", "press", "--gap", "0"} + Words(30, "Down") + Words(5, "Up") + Words{"Return"});
-    ExpectAnswer(request, Answer(7, 255, 0, 0, 26));
-}
-
 TEST_F(Screens, SelectGoesOnFromARowHigherThanTheListAfterItsEnd)
 {
     const Words rows{"--entry", "One", "--entry", std::string(3000, 'n'), "--entry", "Three"};
@@ -163,21 +155,6 @@ TEST_F(Screens, ListOfManyRowsKeepsTheFocusedOneAndTheNextInView)
         return StillShot();
     };
     EXPECT_NE(eighthOf("One"), eighthOf("Another")) << "the row after the focused one is out of view";
-}
-
-TEST_F(Screens, ListOfOneRowIsTheSameWhateverHangsOverItsEndAndWhateverWasShownBefore)
-{
-    const auto show = [this](const std::string& end)
-    {
-        return SendKind("list", {"--header", "--format", "LR", "--entry", "A\tB" + end, "--entry", "1\t2" + end});
-    };
-    Process list = show("");
-    const Picture columns = StillShot();
-    Process message = SendMessage(8, 255, {"--button", "OK"});
-    const Picture between = ChangedShot(columns);
-    Process tabs = show("\t\t");
-    EXPECT_EQ(ChangedShot(between), columns);
-    EXPECT_EQ(list.Status() + message.Status(), 4);
 }
 
 TEST_F(Screens, MultiListAnswersTheMarkedRowsWithItsFirstButton)
