@@ -8,6 +8,7 @@
 #include "HandOver.h"
 #include "Log.h"
 #include "MainLoop.h"
+#include "OwnScreen.h"
 #include "SettingKeys.h"
 #include "SettingsWatch.h"
 #include "Toolkit.h"
@@ -19,10 +20,20 @@ namespace veskar
 namespace
 {
 
+constexpr const char* UI_ID_KEY = "ui_param_ui_id";
+
 /** True for an id whose name for a leaving process is not too long either. */
 bool CanRunAs(const std::string& id)
 {
     return IsApplicationId(id.c_str()) && IsApplicationId(Applications::LeavingNameOf(id).c_str());
+}
+
+/** 0 in a request for no screen. */
+int UiIdOf(const app_control_s& request)
+{
+    const auto found = request.data.find(UI_ID_KEY);
+    const auto* text = found == request.data.end() ? nullptr : std::get_if<std::string>(&found->second);
+    return text == nullptr ? 0 : std::atoi(text->c_str());
 }
 
 } // namespace
@@ -165,6 +176,7 @@ void Application::m_Tell(const LifecycleEvent& event)
     case LifecycleKind::Request:
         if (m_callbacks.app_control != nullptr)
         {
+            OwnScreen::Instance().NoteRequest(UiIdOf(*event.request));
             m_callbacks.app_control(event.request.get(), m_userData);
         }
         break;

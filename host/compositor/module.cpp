@@ -27,9 +27,10 @@ class Tv
 {
 public:
     Tv(weston_compositor* compositor, bool withKeyRouter)
-        : m_compositor(compositor), m_seat(compositor), m_windows(compositor), m_routing(m_seat, m_grabs, m_windows),
-          m_overlays(compositor, m_seat, m_windows), m_screenshots(compositor),
-          m_backdrop(compositor, [this] { m_OpenSocket(); }),
+        : m_compositor(compositor), m_seat(compositor), m_windows(compositor),
+          m_grabs([this](const Key& key, GrabMode mode) { m_GrabEnded(key, mode); }),
+          m_routing(m_seat, m_grabs, m_lateDigits, m_windows), m_overlays(compositor, m_seat, m_windows),
+          m_screenshots(compositor), m_backdrop(compositor, [this] { m_OpenSocket(); }),
           m_end(compositor->destroy_signal, [this](void*) { delete this; })
     {
         if (withKeyRouter)
@@ -53,7 +54,8 @@ private:
         try
         {
             m_socket.emplace(wl_display_get_event_loop(m_compositor->wl_display), RemoteSocketPath());
-            SetRemoteCommands(*m_socket, m_seat, m_grabs, m_screenshots);
+            SetRemoteCommands(*m_socket,
+                              {m_seat, m_grabs, m_routing, m_screenshots, m_keyRouter ? &*m_keyRouter : nullptr});
         }
         catch (const std::exception& error)
         {
@@ -62,9 +64,18 @@ private:
         }
     }
 
+    void m_GrabEnded(const Key& key, GrabMode mode)
+    {
+        if (mode != GrabMode::Registered)
+        {
+            m_lateDigits.Released(key, LateDigits::Now());
+        }
+    }
+
     weston_compositor* m_compositor;
     Seat m_seat;
     WindowStack m_windows;
+    LateDigits m_lateDigits;
     GrabTable m_grabs;
     Routing m_routing;
     Overlays m_overlays;

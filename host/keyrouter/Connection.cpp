@@ -7,19 +7,20 @@
 namespace veskar
 {
 
-namespace
-{
-
-/** The toolkit may have disconnected since a job was queued. */
-bool IsStillConnected(const void* display)
+bool IsStillConnected(const wl_display* display)
 {
     Ecore_Wl2_Display* connected = ecore_wl2_connected_display_get(nullptr);
     return connected != nullptr && ecore_wl2_display_get(connected) == display;
 }
 
+namespace
+{
+
+// The toolkit may have disconnected since a job was queued.
+
 void DispatchWhatWasRead(void* display)
 {
-    if (IsStillConnected(display))
+    if (IsStillConnected(static_cast<wl_display*>(display)))
     {
         wl_display_dispatch_pending(static_cast<wl_display*>(display));
     }
@@ -27,7 +28,7 @@ void DispatchWhatWasRead(void* display)
 
 void Flush(void* display)
 {
-    if (IsStillConnected(display))
+    if (IsStillConnected(static_cast<wl_display*>(display)))
     {
         wl_display_flush(static_cast<wl_display*>(display));
     }

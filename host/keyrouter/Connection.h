@@ -12,6 +12,9 @@ struct wl_event_queue;
 namespace veskar
 {
 
+/** Whether the toolkit still has this connection. */
+bool IsStillConnected(const wl_display* display);
+
 /** Waits until the compositor has handled all requests so far; events for `queue` are dispatched meanwhile. */
 bool RoundTrip(wl_display* display, wl_event_queue* queue);
 

@@ -1,17 +1,11 @@
 #include "KeyNames.h"
 
+#include "XkbOffset.h"
+
 #include <Ecore_Input.h>
 
 namespace veskar
 {
-
-namespace
-{
-
-// Keymaps, and with them the toolkit's events, count from the first code that X11 allows.
-constexpr uint32_t XKB_OFFSET = 8;
-
-} // namespace
 
 KeyNames::KeyNames() : m_filter(ecore_event_filter_add(nullptr, s_Rename, nullptr, this)) {}
 

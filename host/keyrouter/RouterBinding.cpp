@@ -6,6 +6,7 @@
 #include <key_router.h>
 #include <optional>
 #include <stdexcept>
+#include <wayland-client-protocol.h>
 
 namespace veskar
 {
@@ -46,7 +47,8 @@ void RouterBinding::QueueDelete::operator()(wl_event_queue* queue) const
 
 RouterBinding::RouterBinding(wl_display* display, wl_registry* registry, uint32_t globalName)
     : m_display(display), m_queue(wl_display_create_queue(display)),
-      m_router(BindOn(m_queue.get(), registry, globalName))
+      m_router(BindOn(m_queue.get(), registry, globalName)),
+      m_gate([this](uint32_t code, bool taken) { m_Tell(code, taken); })
 {
     static const tizen_keyrouter_listener listener = {s_OnKey, s_OnGrabbed};
     tizen_keyrouter_add_listener(m_router, &listener, this);
@@ -55,12 +57,32 @@ RouterBinding::RouterBinding(wl_display* display, wl_registry* registry, uint32_
         tizen_keyrouter_destroy(m_router);
         throw std::runtime_error("the compositor does not answer");
     }
+    OwnScreen::Instance().SetDisplay(this);
 }
 
 RouterBinding::~RouterBinding()
 {
+    OwnScreen::Instance().SetDisplay(nullptr);
+    m_AwaitNothing();
     tizen_keyrouter_destroy(m_router);
     wl_display_flush(m_display);
+}
+
+void RouterBinding::m_Tell(uint32_t code, bool taken)
+{
+    // Sent together with what the key does to the screen.
+    tizen_keyrouter_heard(m_router, code, taken ? 1 : 0);
+    FlushSoon(m_display);
+}
+
+void RouterBinding::Changed(bool shown, int uiId)
+{
+    // The toolkit deletes the last screen on its way out, when there may be nobody to tell.
+    if (IsStillConnected(m_display))
+    {
+        tizen_keyrouter_screen(m_router, shown ? 1 : 0, uiId);
+        FlushSoon(m_display);
+    }
 }
 
 bool RouterBinding::Grab(wl_surface* surface, const _KeyList& list)
@@ -106,6 +128,46 @@ bool RouterBinding::m_Release(const Holding& holding)
     }
     const std::optional<int> other = OtherStrengthOf(mode);
     return !other || !m_Holds({surface, name, *other});
+}
+
+void RouterBinding::AwaitFrame(std::function<void()> reached)
+{
+    m_AwaitNothing();
+    static const wl_callback_listener listener = {s_OnReached};
+    m_reached = std::move(reached);
+    m_frame = wl_display_sync(m_display);
+    wl_callback_add_listener(m_frame, &listener, this);
+    FlushSoon(m_display);
+}
+
+void RouterBinding::s_OnReached(void* data, wl_callback* callback, uint32_t)
+{
+    auto* self = static_cast<RouterBinding*>(data);
+    wl_callback_destroy(callback);
+    self->m_frame = nullptr;
+    // The keys that came with this are in the toolkit's queue of events, and a job is appended to it.
+    self->m_keysHandled = ecore_job_add(s_OnKeysHandled, self);
+}
+
+void RouterBinding::s_OnKeysHandled(void* data)
+{
+    auto* self = static_cast<RouterBinding*>(data);
+    self->m_keysHandled = nullptr;
+    self->m_reached();
+}
+
+void RouterBinding::m_AwaitNothing()
+{
+    if (m_frame != nullptr)
+    {
+        wl_callback_destroy(m_frame);
+        m_frame = nullptr;
+    }
+    if (m_keysHandled != nullptr)
+    {
+        ecore_job_del(m_keysHandled);
+        m_keysHandled = nullptr;
+    }
 }
 
 void RouterBinding::s_OnKey(void* data, tizen_keyrouter*, const char* name, uint32_t code)

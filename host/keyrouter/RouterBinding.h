@@ -6,15 +6,19 @@
  */
 #pragma once
 
+#include "KeyGate.h"
 #include "KeyNames.h"
+#include "OwnScreen.h"
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <set>
 #include <string>
 #include <tuple>
 
 struct tizen_keyrouter;
+struct wl_callback;
 struct wl_display;
 struct wl_event_queue;
 struct wl_registry;
@@ -24,7 +28,7 @@ struct _KeyList;
 namespace veskar
 {
 
-class RouterBinding
+class RouterBinding : private OwnScreen::Display
 {
 public:
     /** Throws std::runtime_error when the compositor does not answer. */
@@ -46,6 +50,13 @@ private:
     static void s_OnKey(void* self, tizen_keyrouter* router, const char* name, uint32_t code);
     static void s_OnGrabbed(void* self, tizen_keyrouter* router, const char* name, uint32_t mode, uint32_t result);
 
+    static void s_OnReached(void* self, wl_callback* callback, uint32_t serial);
+    static void s_OnKeysHandled(void* self);
+
+    void Changed(bool shown, int uiId) override;
+    void AwaitFrame(std::function<void()> reached) override;
+    void m_Tell(uint32_t code, bool taken);
+    void m_AwaitNothing();
     bool m_Holds(const Holding& holding) const { return m_held.count(holding) > 0; }
     bool m_Release(const Holding& holding);
 
@@ -58,9 +69,13 @@ private:
     std::unique_ptr<wl_event_queue, QueueDelete> m_queue;
     tizen_keyrouter* m_router = nullptr;
     KeyNames m_names;
+    KeyGate m_gate;
     std::set<Holding> m_held;
     std::deque<Holding> m_asked; // answers come in this order
     bool m_refused = false;
+    std::function<void()> m_reached;
+    wl_callback* m_frame = nullptr;     // until the compositor has the frame
+    Ecore_Job* m_keysHandled = nullptr; // after that, until the keys before it are handled
 };
 
 } // namespace veskar

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstring>
 #include <sys/socket.h>
+#include <sys/time.h>
 #include <sys/un.h>
 
 namespace veskar
@@ -33,6 +34,14 @@ FileDescriptor ConnectTo(const std::string& path)
 } // namespace
 
 RemoteClient::RemoteClient(const std::string& path) : m_socket(ConnectTo(path)) {}
+
+void RemoteClient::SetPatience(std::chrono::milliseconds patience)
+{
+    timeval time{};
+    time.tv_sec = patience.count() / 1000;
+    time.tv_usec = patience.count() % 1000 * 1000;
+    setsockopt(m_socket.Get(), SOL_SOCKET, SO_RCVTIMEO, &time, sizeof time);
+}
 
 std::vector<std::string> RemoteClient::Ask(const std::string& command)
 {
@@ -68,6 +77,10 @@ std::string RemoteClient::m_ReadLine()
     {
         char block[4096];
         const ssize_t count = recv(m_socket.Get(), block, sizeof block, 0);
+        if (count < 0 && errno == EAGAIN)
+        {
+            throw RemoteSilent("the compositor does not answer");
+        }
         if (count <= 0)
         {
             throw RemoteUnreachable("the compositor has gone");

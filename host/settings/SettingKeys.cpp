@@ -17,6 +17,8 @@ constexpr SettingKey KEYS[] = {
     {HIGH_CONTRAST_KEY, SettingType::Integer, "high contrast: 1 on, 0 off"},
     {VOICE_GUIDE_KEY, SettingType::Integer, "voice guide: 1 on, 0 off"},
     {NUMBER_PAD_SHOWN_KEY, SettingType::Integer, "1 while the number pad is on the screen"},
+    {KEY_GUARD_KEY, SettingType::Integer,
+     "milliseconds after a screen's first frame in which Return, Back and Exit reach nobody: 200 when unset, 0 never"},
     {"memory/ephotel/hotelmenu/hotelfactorymode", SettingType::Switch, "the hotel factory menu started the dialogue"},
     {"com.brelmon/featureconf/bt_profile_bt_smart_control", SettingType::Switch,
      "the set has a smart remote without digit keys, so a PIN may ask for the number pad"},

@@ -37,6 +37,7 @@ constexpr const char* ENLARGED_TEXT_KEY = "db/menu/system/accessibility/focuszoo
 constexpr const char* HIGH_CONTRAST_KEY = "db/menu/system/accessibility/highcontrast";
 constexpr const char* VOICE_GUIDE_KEY = "db/menu/system/accessibility/voiceguide";
 constexpr const char* NUMBER_PAD_SHOWN_KEY = "memory/function-osd/number_pad_show";
+constexpr const char* KEY_GUARD_KEY = "db/desk/key_guard";
 
 /** The orientation's value; every other is left-to-right. */
 constexpr int RIGHT_TO_LEFT = 1;

@@ -1,10 +1,12 @@
 // What the program's widgets are given when they are created: a list the height of its rows and a focus that walks them
-// one by one; a screen whole pictures, a size that the TV can show and buttons that lead on.
+// one by one; a screen whole pictures, a size that the TV can show, buttons that lead on, and no key
+// before it is seen.
 
 #include "ButtonFocus.h"
 #include "ListHeight.h"
 #include "RowFocus.h"
 #include "ScreenFit.h"
+#include "ScreenNews.h"
 #include "WholeFrames.h"
 
 // NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's.
@@ -32,6 +34,7 @@ extern "C"
             veskar::LiveWith<veskar::WholeFrames>(popup, parent);
             veskar::LiveWith<veskar::ScreenFit>(popup, parent, popup);
             veskar::LiveWith<veskar::ButtonFocus>(popup, popup);
+            veskar::LiveWith<veskar::ScreenNews>(popup, popup);
         }
         return popup;
     }

@@ -109,6 +109,29 @@ TEST_F(KeyRouter, SendsATopmostKeyToItsHolderOnlyWhileThatIsTheTopmostWindow)
     EXPECT_EQ(WhoHears("XF86More"), "upper");
 }
 
+TEST_F(KeyRouter, KeepsADigitThatAWindowHadForItselfFromTheOthersForAWhile)
+{
+    const auto now = std::chrono::steady_clock::now;
+    std::string soon;
+    std::string other;
+    auto released = now();
+    do // until the machine was fast enough
+    {
+        ASSERT_TRUE(m_upper->Grab("5", KEYROUTER_MODE_EXCLUSIVE));
+        ASSERT_TRUE(m_upper->Ungrab("5", KEYROUTER_MODE_EXCLUSIVE));
+        ASSERT_TRUE(WaitUntil([this] { return m_remote.Ask("grabs").empty(); }));
+        released = now();
+        other = WhoHears("6");
+        soon = WhoHears("5");
+    } while (now() - released > std::chrono::milliseconds(300));
+    EXPECT_EQ(soon, "");
+    EXPECT_EQ(other, "upper");
+    EXPECT_TRUE(m_lower->Grab("5", KEYROUTER_MODE_EXCLUSIVE));
+    EXPECT_EQ(WhoHears("5"), "lower");
+    EXPECT_TRUE(m_lower->Ungrab("5", KEYROUTER_MODE_EXCLUSIVE));
+    EXPECT_TRUE(WaitUntil([this] { return WhoHears("5") == "upper"; }));
+}
+
 TEST_F(KeyRouter, LetsAKeyUpWhereItWentDown)
 {
     m_remote.Ask("down 5");

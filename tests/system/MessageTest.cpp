@@ -117,7 +117,7 @@ TEST_F(Keys, NeedNoRouterForTheScreenToShowAndBeAnswered)
     const std::string log = Environment("XDG_RUNTIME_DIR") + "/no-router.log";
     const std::string script = "veskar-mw --ui-id 7 message --text Hello --button OK & "
                                "until grep -q 'Service complete!' $VESKAR_TV_LOG; do sleep 0.05; done; "
-                               "sleep 0.5; veskar-remote press Return; wait $!";
+                               "veskar-remote wait --still && veskar-remote press Return; wait $!";
     Process tv({"veskar-tv", "--no-keyrouter", "--log", log, "--", "sh", "-c", script});
     ExpectAnswer(tv, Answer(7, 255, 0, 1, 0));
     EXPECT_NE(RunCommand({"grep", "-c", "Failed to get key router id", log}), "0\n");

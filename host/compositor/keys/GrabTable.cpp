@@ -42,19 +42,37 @@ bool GrabTable::Add(wl_client* client, weston_surface* surface, const Key& key, 
     m_grabs.push_back({surface, client, &key, mode, nullptr});
     const auto added = std::prev(m_grabs.end());
     added->surfaceGone =
-        std::make_unique<Listener>(surface->destroy_signal, [this, added](void*) { m_grabs.erase(added); });
+        std::make_unique<Listener>(surface->destroy_signal, [this, added](void*)
+                                   { m_RemoveIf([added](const Grab& grab) { return &grab == &*added; }); });
     return true;
+}
+
+void GrabTable::m_RemoveIf(const std::function<bool(const Grab&)>& isMeant)
+{
+    std::list<Grab> ended;
+    for (auto grab = m_grabs.begin(); grab != m_grabs.end();)
+    {
+        const auto next = std::next(grab);
+        if (isMeant(*grab))
+        {
+            ended.splice(ended.end(), m_grabs, grab);
+        }
+        grab = next;
+    }
+    for (const Grab& grab : ended)
+    {
+        m_ended(*grab.key, grab.mode);
+    }
 }
 
 void GrabTable::Remove(weston_surface* surface, const Key& key, GrabMode mode)
 {
-    m_grabs.remove_if([&](const Grab& grab)
-                      { return grab.surface == surface && grab.key == &key && grab.mode == mode; });
+    m_RemoveIf([&](const Grab& grab) { return grab.surface == surface && grab.key == &key && grab.mode == mode; });
 }
 
 void GrabTable::RemoveClient(wl_client* client)
 {
-    m_grabs.remove_if([client](const Grab& grab) { return grab.client == client; });
+    m_RemoveIf([client](const Grab& grab) { return grab.client == client; });
 }
 
 bool GrabTable::Holds(weston_surface* surface, const Key& key, GrabMode mode) const

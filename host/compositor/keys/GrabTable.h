@@ -33,6 +33,12 @@ struct Grab
 class GrabTable
 {
 public:
+    /** Called when a grab has ended and no newer one of the same surface replaces it. */
+    using Ended = std::function<void(const Key& key, GrabMode mode)>;
+
+    GrabTable() = default;
+    explicit GrabTable(Ended ended) : m_ended(std::move(ended)) {}
+
     /**
      * Returns false when `mode` is Exclusive and another surface holds the key exclusively. A surface can have one
      * registration of a key and, at the same time, one grab of it in one of the other two modes. A new grab replaces an
@@ -57,7 +63,11 @@ public:
     const std::list<Grab>& All() const { return m_grabs; }
 
 private:
+    void m_RemoveIf(const std::function<bool(const Grab&)>& isMeant);
+
     std::list<Grab> m_grabs;
+    Ended m_ended = [](const Key&, GrabMode) {
+    };
 };
 
 } // namespace veskar

@@ -71,7 +71,23 @@ void OnUngrab(wl_client*, wl_resource* resource, wl_resource* surface, const cha
     }
 }
 
-const struct tizen_keyrouter_interface REQUESTS = {OnDestroy, OnGrab, OnUngrab};
+void OnHeard(wl_client* client, wl_resource* resource, uint32_t code, uint32_t taken)
+{
+    if (KeyRouter* router = RouterOf(resource))
+    {
+        router->Presses().Heard(client, code, taken != 0);
+    }
+}
+
+void OnScreen(wl_client*, wl_resource* resource, uint32_t drawn, int32_t uiId)
+{
+    if (KeyRouter* router = RouterOf(resource))
+    {
+        router->SetScreen(resource, drawn != 0 ? std::optional<int>(uiId) : std::nullopt);
+    }
+}
+
+const struct tizen_keyrouter_interface REQUESTS = {OnDestroy, OnGrab, OnUngrab, OnHeard, OnScreen};
 
 } // namespace
 
@@ -84,10 +100,29 @@ KeyRouter::KeyRouter(wl_display* display, GrabTable& grabs)
 KeyRouter::~KeyRouter()
 {
     wl_global_destroy(m_global);
-    for (wl_resource* resource : m_bound)
+    for (const auto& [resource, screen] : m_bound)
     {
         wl_resource_set_user_data(resource, nullptr);
     }
+}
+
+bool KeyRouter::IsBoundBy(const wl_client* client) const
+{
+    return std::any_of(m_bound.begin(), m_bound.end(),
+                       [client](const auto& bound) { return wl_resource_get_client(bound.first) == client; });
+}
+
+std::vector<KeyRouter::Screen> KeyRouter::Screens() const
+{
+    std::vector<Screen> screens;
+    for (const auto& [resource, uiId] : m_bound)
+    {
+        if (uiId)
+        {
+            screens.push_back({wl_resource_get_client(resource), *uiId});
+        }
+    }
+    return screens;
 }
 
 void KeyRouter::s_Bind(wl_client* client, void* self, uint32_t version, uint32_t id)
@@ -99,7 +134,7 @@ void KeyRouter::s_Bind(wl_client* client, void* self, uint32_t version, uint32_t
         return;
     }
     wl_resource_set_implementation(resource, &REQUESTS, self, s_Unbind);
-    static_cast<KeyRouter*>(self)->m_bound.push_back(resource);
+    static_cast<KeyRouter*>(self)->m_bound.emplace(resource, std::nullopt);
     for (const Key& key : AllKeys())
     {
         tizen_keyrouter_send_key(resource, key.name, key.code);
@@ -114,7 +149,8 @@ void KeyRouter::s_Unbind(wl_resource* resource)
         return;
     }
     router->m_grabs.RemoveClient(wl_resource_get_client(resource));
-    router->m_bound.erase(std::find(router->m_bound.begin(), router->m_bound.end(), resource));
+    router->m_bound.erase(resource);
+    router->m_presses.ClientGone(wl_resource_get_client(resource));
 }
 
 } // namespace veskar

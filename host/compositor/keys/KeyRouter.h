@@ -1,8 +1,11 @@
-/** The Wayland global through which clients ask for keys. */
+/** The Wayland global through which clients ask for keys, and tell what becomes of them. */
 #pragma once
 
+#include "AwaitedPresses.h"
 #include "GrabTable.h"
 
+#include <map>
+#include <optional>
 #include <vector>
 
 namespace veskar
@@ -11,6 +14,13 @@ namespace veskar
 class KeyRouter
 {
 public:
+    /** A client's screen that is on the display. */
+    struct Screen
+    {
+        wl_client* client;
+        int uiId;
+    };
+
     /** `grabs` must outlive this object. */
     KeyRouter(wl_display* display, GrabTable& grabs);
     ~KeyRouter();
@@ -19,6 +29,15 @@ public:
     KeyRouter& operator=(const KeyRouter&) = delete;
 
     GrabTable& Grabs() { return m_grabs; }
+    AwaitedPresses& Presses() { return m_presses; }
+
+    /** Whether the client says of each key whether it took it. */
+    bool IsBoundBy(const wl_client* client) const;
+
+    std::vector<Screen> Screens() const;
+
+    /** `uiId` is empty when the binding's client has no screen. */
+    void SetScreen(wl_resource* binding, std::optional<int> uiId) { m_bound[binding] = uiId; }
 
 private:
     static void s_Bind(wl_client* client, void* self, uint32_t version, uint32_t id);
@@ -26,7 +45,8 @@ private:
 
     GrabTable& m_grabs;
     wl_global* m_global;
-    std::vector<wl_resource*> m_bound;
+    AwaitedPresses m_presses;
+    std::map<wl_resource*, std::optional<int>> m_bound; // and the id of the client's screen
 };
 
 } // namespace veskar

@@ -21,8 +21,9 @@ void IgnoreCancel(weston_keyboard_grab*) {}
 
 } // namespace
 
-Routing::Routing(Seat& seat, const GrabTable& grabs, const WindowStack& windows)
-    : m_seat(seat), m_grabs(grabs), m_windows(windows), m_hook{{s_OnKey, IgnoreModifiers, IgnoreCancel}, this},
+Routing::Routing(Seat& seat, const GrabTable& grabs, const LateDigits& lateDigits, const WindowStack& windows)
+    : m_seat(seat), m_grabs(grabs), m_lateDigits(lateDigits),
+      m_windows(windows), m_hook{{s_OnKey, IgnoreModifiers, IgnoreCancel}, this},
       m_replaced(seat.Keyboard()->default_grab.interface)
 {
     m_seat.Keyboard()->default_grab.interface = &m_hook.handlers;
@@ -34,6 +35,12 @@ Routing::~Routing()
     {
         m_seat.Keyboard()->default_grab.interface = m_replaced;
     }
+}
+
+weston_surface* Routing::HeardBy(const Key& key) const
+{
+    const auto press = m_pressed.find(&key);
+    return press == m_pressed.end() ? nullptr : press->second.Get();
 }
 
 void Routing::s_OnKey(weston_keyboard_grab* grab, const timespec* time, uint32_t code, uint32_t state)
@@ -113,6 +120,10 @@ weston_surface* Routing::m_TargetOf(const Key& key) const
     if (topmost != nullptr && m_grabs.Holds(topmost, key, GrabMode::Topmost))
     {
         return topmost;
+    }
+    if (m_lateDigits.Holds(key, LateDigits::Now()))
+    {
+        return nullptr;
     }
     const auto registered = [&](weston_surface* window)
     {

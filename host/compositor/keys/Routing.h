@@ -3,6 +3,7 @@
  *
  *  - the surface that holds the key exclusively;
  *  - the topmost window, if it holds the key in mode Topmost;
+ *  - none, for a late digit;
  *  - the topmost window that registered the key (a window that is shown but not drawn yet counts as the lowest);
  *  - the window with the focus.
  *
@@ -11,6 +12,7 @@
 #pragma once
 
 #include "GrabTable.h"
+#include "LateDigits.h"
 #include "seat/Seat.h"
 #include "weston/SurfaceRef.h"
 #include "windows/WindowStack.h"
@@ -24,11 +26,14 @@ class Routing
 {
 public:
     /** All arguments must outlive this object. */
-    Routing(Seat& seat, const GrabTable& grabs, const WindowStack& windows);
+    Routing(Seat& seat, const GrabTable& grabs, const LateDigits& lateDigits, const WindowStack& windows);
     ~Routing();
 
     Routing(const Routing&) = delete;
     Routing& operator=(const Routing&) = delete;
+
+    /** The surface that got the press of a key that is down; null when none did. */
+    weston_surface* HeardBy(const Key& key) const;
 
 private:
     struct Hook
@@ -47,6 +52,7 @@ private:
 
     Seat& m_seat;
     const GrabTable& m_grabs;
+    const LateDigits& m_lateDigits;
     const WindowStack& m_windows;
     Hook m_hook{};
     const weston_keyboard_grab_interface* m_replaced = nullptr;

@@ -55,11 +55,81 @@ std::string ProgramName(pid_t pid)
     return name.empty() ? "?" : name;
 }
 
-std::string LineOf(const Grab& grab)
+/** Process id/program. */
+std::string NameOf(wl_client* client)
 {
     pid_t pid = 0;
-    wl_client_get_credentials(grab.client, &pid, nullptr, nullptr);
-    return std::string(grab.key->name) + " " + NameOf(grab.mode) + " " + std::to_string(pid) + "/" + ProgramName(pid);
+    wl_client_get_credentials(client, &pid, nullptr, nullptr);
+    return std::to_string(pid) + "/" + ProgramName(pid);
+}
+
+std::string LineOf(const Grab& grab)
+{
+    return std::string(grab.key->name) + " " + NameOf(grab.mode) + " " + NameOf(grab.client);
+}
+
+const char* NameOf(Reception reception)
+{
+    switch (reception)
+    {
+    case Reception::Nobody:
+        return "nobody";
+    case Reception::HeldBack:
+        return "held back";
+    case Reception::Taken:
+        return "taken";
+    }
+    return "unknown";
+}
+
+/** What becomes of a key that is down. A client without a binding to the router says nothing of it. */
+void AskWhoTakes(const Key& key, const Routing& routing, KeyRouter* router, const AwaitedPresses::Told& told)
+{
+    const weston_surface* surface = routing.HeardBy(key);
+    if (surface == nullptr || surface->resource == nullptr)
+    {
+        told(Reception::Nobody);
+        return;
+    }
+    wl_client* client = wl_resource_get_client(surface->resource);
+    if (router == nullptr || !router->IsBoundBy(client))
+    {
+        told(Reception::Taken);
+        return;
+    }
+    router->Presses().Await(client, key, told);
+}
+
+RemoteCommand Offer(const RemoteParts& parts)
+{
+    return [parts](const std::string& name, const RemoteAnswer& answer)
+    {
+        const Key* key = KeyByShortName(name);
+        if (key == nullptr)
+        {
+            answer({{}, "unknown key \"" + name + "\""});
+            return;
+        }
+        parts.seat.Inject(*key, WL_KEYBOARD_KEY_STATE_PRESSED);
+        AskWhoTakes(*key, parts.routing, parts.router,
+                    [answer](Reception reception) {
+                        answer({{NameOf(reception)}, ""});
+                    });
+        parts.seat.Inject(*key, WL_KEYBOARD_KEY_STATE_RELEASED);
+    };
+}
+
+RemoteCommand ListScreens(const KeyRouter* router)
+{
+    return [router](const std::string&, const RemoteAnswer& answer)
+    {
+        RemoteReply reply;
+        for (const KeyRouter::Screen& screen : router != nullptr ? router->Screens() : std::vector<KeyRouter::Screen>())
+        {
+            reply.lines.push_back(std::to_string(screen.uiId) + " " + NameOf(screen.client));
+        }
+        answer(reply);
+    };
 }
 
 RemoteCommand ListKeys()
@@ -103,8 +173,9 @@ RemoteCommand TakeShot(Screenshots& screenshots)
 
 } // namespace
 
-void SetRemoteCommands(RemoteSocket& socket, Seat& seat, const GrabTable& grabs, Screenshots& screenshots)
+void SetRemoteCommands(RemoteSocket& socket, const RemoteParts& parts)
 {
+    Seat& seat = parts.seat;
     const auto down = [&seat](const Key& key)
     {
         seat.Inject(key, WL_KEYBOARD_KEY_STATE_PRESSED);
@@ -122,8 +193,10 @@ void SetRemoteCommands(RemoteSocket& socket, Seat& seat, const GrabTable& grabs,
     socket.SetCommand("down", ForEachKey(down));
     socket.SetCommand("up", ForEachKey(up));
     socket.SetCommand("keys", ListKeys());
-    socket.SetCommand("grabs", ListGrabs(grabs));
-    socket.SetCommand("shot", TakeShot(screenshots));
+    socket.SetCommand("grabs", ListGrabs(parts.grabs));
+    socket.SetCommand("offer", Offer(parts));
+    socket.SetCommand("screens", ListScreens(parts.router));
+    socket.SetCommand("shot", TakeShot(parts.screenshots));
 }
 
 } // namespace veskar

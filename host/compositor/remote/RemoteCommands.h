@@ -3,19 +3,32 @@
  *
  *     press KEY…   each key down and up        keys    every key's platform name
  *     down KEY     press it                    grabs   for each grab: key, mode, process id/program
- *     up KEY       release it                  shot PATH   the screen as a PNG; answered when the file is complete
+ *     up KEY       release it                  screens for each screen that is drawn: its id, process id/program
+ *     offer KEY    down and up; answered when it is known who took it: "taken", "held back" or "nobody"
+ *     shot PATH    the screen as a PNG; answered when the file is complete
  */
 #pragma once
 
 #include "RemoteSocket.h"
 #include "keys/GrabTable.h"
+#include "keys/KeyRouter.h"
+#include "keys/Routing.h"
 #include "picture/Screenshot.h"
 #include "seat/Seat.h"
 
 namespace veskar
 {
 
-/** All arguments must outlive the socket. */
-void SetRemoteCommands(RemoteSocket& socket, Seat& seat, const GrabTable& grabs, Screenshots& screenshots);
+struct RemoteParts
+{
+    Seat& seat;
+    const GrabTable& grabs;
+    const Routing& routing;
+    Screenshots& screenshots;
+    KeyRouter* router; // null on a TV without one
+};
+
+/** All parts must outlive the socket. */
+void SetRemoteCommands(RemoteSocket& socket, const RemoteParts& parts);
 
 } // namespace veskar

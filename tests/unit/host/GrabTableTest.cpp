@@ -117,3 +117,24 @@ TEST_F(GrabTableTest, FindsTheHolderThatIsAccepted)
     EXPECT_EQ(m_grabs.Holder(m_back, GrabMode::Topmost, isSecond), nullptr);
     EXPECT_EQ(m_grabs.Holder(m_exit, GrabMode::Registered, isSecond), nullptr);
 }
+
+TEST_F(GrabTableTest, TellsOfEachGrabThatEndsAndOfNoneThatIsReplaced)
+{
+    std::vector<std::string> ended;
+    m_grabs =
+        GrabTable([&](const Key& key, GrabMode mode) { ended.push_back(std::string(key.name) + " " + NameOf(mode)); });
+    Window window;
+    Add(window, m_back, GrabMode::Topmost);
+    Add(window, m_back, GrabMode::Exclusive);
+    EXPECT_TRUE(ended.empty());
+    m_grabs.Remove(window.Surface(), m_back, GrabMode::Exclusive);
+    EXPECT_EQ(ended, (std::vector<std::string>{"XF86Back exclusive"}));
+    Add(window, m_exit, GrabMode::Registered);
+    m_grabs.RemoveClient(window.Client());
+    EXPECT_EQ(ended.back(), "XF86Exit registered");
+    {
+        Window gone;
+        Add(gone, m_back, GrabMode::Topmost);
+    }
+    EXPECT_EQ(ended.size(), 3U);
+}

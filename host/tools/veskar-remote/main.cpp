@@ -1,28 +1,32 @@
 /**
  * The remote control of a desk TV, from a command line.
  *
- * Exit status: 0 done, 1 the compositor refused (an unknown key, a file that cannot be written), 64 bad usage,
- * 69 no compositor.
+ * Exit status: 0 done, 1 the compositor refused (an unknown key, a file that cannot be written), 2 nobody took the key,
+ * or what was waited for did not come in time, 64 bad usage, 69 no compositor.
  */
 #include "RemoteClient.h"
 #include "RemoteSocketPath.h"
+#include "Waits.h"
 
 #include <CLI/CLI.hpp>
 #include <chrono>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <thread>
 
 namespace
 {
 
 constexpr int REFUSED = 1;
+constexpr int IN_VAIN = 2;
 constexpr int BAD_USAGE = 64;
 constexpr int NO_COMPOSITOR = 69;
 
 using Keys = std::vector<std::string>;
 
-void SendAll(veskar::RemoteClient& remote, const std::string& command, const Keys& keys, std::chrono::milliseconds gap)
+template <typename Send>
+void SendAll(const Keys& keys, std::chrono::milliseconds gap, Send send)
 {
     for (size_t i = 0; i < keys.size(); ++i)
     {
@@ -30,7 +34,7 @@ void SendAll(veskar::RemoteClient& remote, const std::string& command, const Key
         {
             std::this_thread::sleep_for(gap);
         }
-        remote.Ask(command + " " + keys[i]);
+        send(keys[i]);
     }
 }
 
@@ -60,8 +64,39 @@ struct Wanted
     std::string command;
     Keys keys;
     int gap = 20;
+    bool atOnce = false;
+    bool shown = false;
+    bool gone = false;
+    bool still = false;
+    std::optional<int> uiId;
+    double timeout = 10;
     std::string file;
 };
+
+void AddTimeout(CLI::App& command, Wanted& wanted)
+{
+    command.add_option("--timeout", wanted.timeout, "Seconds after which to give up, for each key")
+        ->capture_default_str()
+        ->check(CLI::Range(0.001, 86400.0));
+}
+
+void AddWait(CLI::App& app, Wanted& wanted)
+{
+    CLI::App* wait = app.add_subcommand("wait", "Wait for what is on the screen");
+    CLI::Option* shown = wait->add_flag("--shown", wanted.shown, "Until a screen has been drawn");
+    CLI::Option* gone = wait->add_flag("--gone", wanted.gone, "Until there is none")->excludes(shown);
+    wait->add_flag("--still", wanted.still, "Until nothing moves any more; after the one above if both are given");
+    wait->add_option("--ui-id", wanted.uiId, "Only the screen with this id counts");
+    AddTimeout(*wait, wanted);
+    wait->callback(
+        [shown, gone, &wanted]
+        {
+            if (shown->empty() && gone->empty() && !wanted.still)
+            {
+                throw CLI::ValidationError("wait", "--shown, --gone or --still is needed");
+            }
+        });
+}
 
 void AddCommands(CLI::App& app, Wanted& wanted)
 {
@@ -70,13 +105,41 @@ void AddCommands(CLI::App& app, Wanted& wanted)
     press->add_option("--gap", wanted.gap, "Milliseconds between two keys")
         ->capture_default_str()
         ->check(CLI::NonNegativeNumber);
+    press->add_flag("--at-once", wanted.atOnce, "Press each key once, whether or not anybody takes it");
+    AddTimeout(*press, wanted);
+    AddWait(app, wanted);
     app.add_subcommand("down", "Press a key and hold it")->add_option("KEY", wanted.keys)->required()->expected(1);
     app.add_subcommand("up", "Let a held key go")->add_option("KEY", wanted.keys)->required()->expected(1);
     app.add_subcommand("shot", "Save what is on the screen")->add_option("FILE.png", wanted.file)->required();
     app.add_subcommand("keys", "List every key's platform name");
     app.add_subcommand("grabs", "List who holds which key: key, mode, process id/program");
     app.require_subcommand(1);
-    app.footer("KEY is a platform name (XF86Back) or the part of it that one would type (back, play, 7).");
+    app.footer(
+        "KEY is a platform name (XF86Back) or the part of it that one would type (back, play, 7).\n"
+        "press waits until somebody takes the key: a screen takes Return, Back, Exit and digits only when it has\n"
+        "been seen.");
+}
+
+std::chrono::milliseconds Patience(const Wanted& wanted)
+{
+    return std::chrono::milliseconds(static_cast<long>(wanted.timeout * 1000));
+}
+
+void Wait(const Wanted& wanted, veskar::RemoteClient& remote)
+{
+    veskar::Waits waits(remote, Patience(wanted));
+    if (wanted.shown)
+    {
+        waits.Shown(wanted.uiId);
+    }
+    if (wanted.gone)
+    {
+        waits.Gone(wanted.uiId);
+    }
+    if (wanted.still)
+    {
+        waits.Still();
+    }
 }
 
 void Do(const Wanted& wanted, veskar::RemoteClient& remote)
@@ -85,9 +148,19 @@ void Do(const Wanted& wanted, veskar::RemoteClient& remote)
     {
         remote.Ask("shot " + WholePath(wanted.file));
     }
+    else if (wanted.command == "wait")
+    {
+        Wait(wanted, remote);
+    }
+    else if (wanted.command == "press" && !wanted.atOnce)
+    {
+        veskar::Waits waits(remote, Patience(wanted));
+        SendAll(wanted.keys, std::chrono::milliseconds(wanted.gap), [&](const std::string& key) { waits.Press(key); });
+    }
     else if (!wanted.keys.empty())
     {
-        SendAll(remote, wanted.command, wanted.keys, std::chrono::milliseconds(wanted.gap));
+        SendAll(wanted.keys, std::chrono::milliseconds(wanted.gap),
+                [&](const std::string& key) { remote.Ask(wanted.command + " " + key); });
     }
     else
     {
@@ -126,6 +199,11 @@ int main(int argc, char* argv[])
     {
         std::cerr << "veskar-remote: " << refusal.what() << "\n";
         return REFUSED;
+    }
+    catch (const veskar::InVain& trouble)
+    {
+        std::cerr << "veskar-remote: " << trouble.what() << "\n";
+        return IN_VAIN;
     }
     catch (const veskar::RemoteUnreachable& trouble)
     {
