@@ -71,6 +71,7 @@ int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& c
     }
     m_bus = std::make_unique<BusWatch>(m_connection.get());
     m_names = std::make_unique<BusNames>(m_connection.get());
+    m_padSetting = std::make_unique<PadSetting>(*m_names);
     m_outgoing = std::make_unique<OutgoingCalls>();
     m_freed = std::make_unique<FreedMemory>();
     m_queue = std::make_unique<LifecycleQueue>([this](LifecycleEvent& event) { m_Deliver(event); });
@@ -84,6 +85,7 @@ int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& c
     m_queue.reset();
     m_freed.reset();
     m_outgoing.reset();
+    m_padSetting.reset();
     m_names.reset();
     m_bus.reset();
     m_connection.reset();

@@ -16,6 +16,7 @@
 #include "LifecycleQueue.h"
 #include "OutgoingCalls.h"
 #include "OwnName.h"
+#include "PadSetting.h"
 
 /** The objects behind the platform's handles. */
 struct app_event_handler
@@ -78,6 +79,7 @@ private:
     BusConnection m_connection;
     std::unique_ptr<BusWatch> m_bus;
     std::unique_ptr<BusNames> m_names;
+    std::unique_ptr<PadSetting> m_padSetting;
     std::unique_ptr<OutgoingCalls> m_outgoing;
     std::unique_ptr<FreedMemory> m_freed;
     std::unique_ptr<LifecycleQueue> m_queue;

@@ -47,6 +47,24 @@ void BusNames::s_OnNames(void* data, const Eldbus_Message* reply, Eldbus_Pending
     {
         question->names.insert(name);
     }
+    if (question == &question->self->m_owned)
+    {
+        question->self->m_TellAbsence();
+    }
+}
+
+void BusNames::OnAbsence(const std::string& name, std::function<void()> absent)
+{
+    m_watched = name;
+    m_absent = std::move(absent);
+}
+
+void BusNames::m_TellAbsence() const
+{
+    if (m_absent && !HasOwner(m_watched))
+    {
+        m_absent();
+    }
 }
 
 void BusNames::s_OnOwnerChanged(void* data, const Eldbus_Message* message)
@@ -66,6 +84,7 @@ void BusNames::s_OnOwnerChanged(void* data, const Eldbus_Message* message)
     else
     {
         owned.erase(name);
+        static_cast<BusNames*>(data)->m_TellAbsence();
     }
 }
 

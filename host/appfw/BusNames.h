@@ -1,6 +1,7 @@
 /** Which names are on the bus, as last reported. Queries never wait for the bus daemon. */
 #pragma once
 
+#include <functional>
 #include <set>
 #include <string>
 
@@ -27,23 +28,33 @@ public:
     /** True when a message to the name reaches somebody: the name has an owner, or the bus can start one. */
     bool IsReachable(const std::string& name) const { return HasOwner(name) || m_activatable.names.count(name) != 0; }
 
+    /**
+     * Calls `absent` whenever the name is seen to have no owner: when the list comes, and when its owner goes. One name
+     * at a time; null ends it.
+     */
+    void OnAbsence(const std::string& name, std::function<void()> absent);
+
 private:
     /** Names that are asked for; `pending` until the answer has come. */
     struct Question
     {
-        std::set<std::string> names;
+        BusNames* self;
+        std::set<std::string> names{};
         Eldbus_Pending* pending = nullptr;
     };
 
     void m_Ask(const char* method, Question& question);
+    void m_TellAbsence() const;
 
     static void s_OnNames(void* data, const Eldbus_Message* reply, Eldbus_Pending* pending);
     static void s_OnOwnerChanged(void* data, const Eldbus_Message* message);
 
     Eldbus_Connection* m_connection;
     Eldbus_Signal_Handler* m_ownerChanges;
-    Question m_owned;
-    Question m_activatable;
+    std::string m_watched;
+    std::function<void()> m_absent;
+    Question m_owned{this};
+    Question m_activatable{this};
 };
 
 } // namespace veskar

@@ -3,6 +3,8 @@
 #include "Log.h"
 #include "RemoteClient.h"
 #include "RemoteSocketPath.h"
+#include "SettingKeys.h"
+#include "SettingsStore.h"
 
 #include <Ecore_Input.h>
 #include <exception>
@@ -11,26 +13,39 @@
 namespace veskar
 {
 
-NumberPad::NumberPad(bool withBackSpace, ShownSetting& setting, std::function<void()> unwanted)
-    : m_setting(setting), m_unwanted(std::move(unwanted)), m_keys(withBackSpace),
-      m_window(
-          m_keys, [this] { m_Appeared(); }, m_unwanted),
+namespace
+{
+
+/** Tells the TV whether the pad is on the screen. Should this process be killed, the framework takes it back. */
+void SetShown(bool shown)
+{
+    if (const auto error = WriteSetting(NUMBER_PAD_SHOWN_KEY, shown ? "1" : "0"))
+    {
+        NUMPAD_ERROR("%s cannot be set: %s", NUMBER_PAD_SHOWN_KEY, error.message().c_str());
+    }
+}
+
+} // namespace
+
+NumberPad::NumberPad(bool withBackSpace, PadWindow& window, std::function<void()> unwanted)
+    : m_unwanted(std::move(unwanted)), m_keys(withBackSpace), m_window(window),
       m_keyDown(ecore_event_handler_add(ECORE_EVENT_KEY_DOWN, s_OnKeyDown, this)),
       m_keyUp(ecore_event_handler_add(ECORE_EVENT_KEY_UP, s_OnKeyUp, this))
 {
+    m_window.Show(m_keys, [this] { m_Appeared(); });
 }
 
 NumberPad::~NumberPad()
 {
-    evas_object_hide(m_window.Window());
+    m_window.Hide();
     m_heldKeys.reset();
-    m_setting.Set(false);
+    SetShown(false);
 }
 
 void NumberPad::m_Appeared()
 {
     m_heldKeys.emplace(m_window.Window());
-    m_setting.Set(true);
+    SetShown(true);
 }
 
 void NumberPad::m_KeyDown(std::string_view key)

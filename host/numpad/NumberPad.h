@@ -5,7 +5,6 @@
 #include "HeldKeys.h"
 #include "KeyGrid.h"
 #include "PadWindow.h"
-#include "ShownSetting.h"
 
 #include <Ecore.h>
 #include <functional>
@@ -21,10 +20,10 @@ class NumberPad
 {
 public:
     /**
-     * `setting` must outlive the pad. `unwanted` is called, from one of the toolkit's callbacks, when the viewer or the
-     * compositor closes the pad.
+     * `window` must outlive the pad. `unwanted` is called, from one of the toolkit's callbacks, when the viewer closes
+     * the pad.
      */
-    NumberPad(bool withBackSpace, ShownSetting& setting, std::function<void()> unwanted);
+    NumberPad(bool withBackSpace, PadWindow& window, std::function<void()> unwanted);
     ~NumberPad();
 
     NumberPad(const NumberPad&) = delete;
@@ -41,10 +40,9 @@ private:
     void m_Move(Direction direction);
     void m_TypeCurrent();
 
-    ShownSetting& m_setting;
     std::function<void()> m_unwanted;
     KeyGrid m_keys;
-    PadWindow m_window;
+    PadWindow& m_window;
     std::optional<HeldKeys> m_heldKeys; // once the window is on the screen
     Handler m_keyDown;
     Handler m_keyUp;

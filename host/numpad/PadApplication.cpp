@@ -15,6 +15,7 @@ constexpr double IDLE_SECONDS = 1;
 
 void PadApplication::Create()
 {
+    m_window.emplace([this] { m_HideSoon(); });
     m_EndSoon();
 }
 
@@ -23,7 +24,7 @@ void PadApplication::Show(bool withBackSpace)
     m_idle.reset();
     if (!m_pad)
     {
-        m_pad.emplace(withBackSpace, m_setting, [this] { m_HideSoon(); });
+        m_pad.emplace(withBackSpace, *m_window, [this] { m_HideSoon(); });
     }
 }
 

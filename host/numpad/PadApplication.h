@@ -3,7 +3,7 @@
 
 #include "FreeWith.h"
 #include "NumberPad.h"
-#include "ShownSetting.h"
+#include "PadWindow.h"
 
 #include <Ecore.h>
 #include <memory>
@@ -12,7 +12,8 @@
 namespace veskar
 {
 
-/** Construct it before the toolkit is initialised; call the rest on the main thread while it is. */
+/** Call everything on the main thread, while the toolkit is initialised; it may be constructed and destroyed outside.
+ */
 class PadApplication
 {
 public:
@@ -21,7 +22,7 @@ public:
     PadApplication(const PadApplication&) = delete;
     PadApplication& operator=(const PadApplication&) = delete;
 
-    /** The process ends soon after this unless the pad is shown. */
+    /** Comes first. The process ends soon after this unless the pad is shown. */
     void Create();
 
     /** Does nothing when the pad is shown already. */
@@ -30,7 +31,7 @@ public:
     /** Hides the pad. The process ends soon after this unless the pad is shown. */
     void Hide();
 
-    /** Releases everything that belongs to the toolkit. */
+    /** Hides the pad, and releases what the toolkit does not release itself. */
     void Terminate();
 
 private:
@@ -39,7 +40,7 @@ private:
     static void s_HideNow(void* data);
     static Eina_Bool s_OnIdle(void* data);
 
-    ShownSetting m_setting;
+    std::optional<PadWindow> m_window;
     std::optional<NumberPad> m_pad;
     std::unique_ptr<Ecore_Timer, FreeWith<ecore_timer_del>> m_idle;
     std::unique_ptr<Ecore_Job, FreeWith<ecore_job_del>> m_hiding;

@@ -40,20 +40,27 @@ Evas_Object* AddTable(Evas_Object* parent)
 
 } // namespace
 
-PadWindow::PadWindow(const KeyGrid& keys, std::function<void()> appeared, std::function<void()> closed)
-    : m_appeared(std::move(appeared)), m_closed(std::move(closed)), m_window(CreateWindow())
+PadWindow::PadWindow(std::function<void()> alone) : m_alone(std::move(alone)), m_window(CreateWindow())
 {
+    evas_object_smart_callback_add(Window(), "unfocused", s_OnUnfocused, this);
+}
+
+void PadWindow::Show(const KeyGrid& keys, std::function<void()> appeared)
+{
+    m_appeared = std::move(appeared);
     m_AddPanel(keys);
     SetCurrent(keys.Current());
-    evas_object_smart_callback_add(Window(), "delete,request", s_OnClose, this);
     evas_event_callback_add(evas_object_evas_get(Window()), EVAS_CALLBACK_RENDER_POST, s_OnDrawn, this);
     evas_object_show(Window());
 }
 
-PadWindow::~PadWindow()
+void PadWindow::Hide()
 {
-    // The toolkit may draw once more before it deletes the window.
     evas_event_callback_del_full(evas_object_evas_get(Window()), EVAS_CALLBACK_RENDER_POST, s_OnDrawn, this);
+    evas_object_hide(Window());
+    m_check.reset();
+    m_keys.clear();
+    m_panel.reset();
 }
 
 void PadWindow::m_AddPanel(const KeyGrid& keys)
@@ -66,6 +73,8 @@ void PadWindow::m_AddPanel(const KeyGrid& keys)
     FillParent(screen);
     elm_win_resize_object_add(Window(), screen);
     evas_object_show(screen);
+    m_panel.reset(screen);
+    m_current = 0;
 
     Evas_Object* table = AddTable(screen);
     for (const KeyGrid::Place& place : keys.Places())
@@ -79,7 +88,7 @@ void PadWindow::m_AddPanel(const KeyGrid& keys)
 Evas_Object* PadWindow::m_AddKey(const char* key)
 {
     const bool isDigit = std::strlen(key) == 1;
-    Evas_Object* object = elm_layout_add(Window());
+    Evas_Object* object = elm_layout_add(m_panel.get());
     elm_layout_theme_set(object, "numpad", "key", isDigit ? "default" : key);
     if (isDigit)
     {
@@ -101,18 +110,28 @@ void PadWindow::s_OnDrawn(void* data, Evas* canvas, void*)
 {
     auto* self = static_cast<PadWindow*>(data);
     evas_event_callback_del_full(canvas, EVAS_CALLBACK_RENDER_POST, s_OnDrawn, self);
-    ecore_wl2_sync(); // the compositor has the picture after this, and may have closed the window
-    if (!self->m_isClosed)
+    ecore_wl2_sync(); // the compositor has the picture after this
+    self->m_appeared();
+}
+
+void PadWindow::s_OnUnfocused(void* data, Evas_Object*, void*)
+{
+    auto* self = static_cast<PadWindow*>(data);
+    // A window that appears gets the focus, loses it to the screen below and is told of it again, in one go.
+    if (self->m_panel && !self->m_check)
     {
-        self->m_appeared();
+        self->m_check.reset(ecore_job_add(s_CheckFocus, self));
     }
 }
 
-void PadWindow::s_OnClose(void* data, Evas_Object*, void*)
+void PadWindow::s_CheckFocus(void* data)
 {
     auto* self = static_cast<PadWindow*>(data);
-    self->m_isClosed = true;
-    self->m_closed();
+    static_cast<void>(self->m_check.release()); // the toolkit deletes it after this
+    if (!elm_win_focus_get(self->Window()))
+    {
+        self->m_alone();
+    }
 }
 
 } // namespace veskar

@@ -19,11 +19,6 @@ protected:
         RunCommand(Words{"veskar-remote", "press", "--at-once", "--gap", "0"} + keys);
     }
 
-    static void WaitForScreen(int uiId)
-    {
-        RunCommand({"veskar-remote", "wait", "--shown", "--ui-id", std::to_string(uiId), "--timeout", "20"});
-    }
-
     static Process Pin(int uiId, const std::string& title)
     {
         return Process({"veskar-mw", "--ui-id", std::to_string(uiId), "pin", "--title", title});
@@ -67,7 +62,7 @@ TEST_F(KeyGuard, LeavesTheRestOfAPinOutOfThePinThatReplacesIt)
 TEST_F(KeyGuard, LetsAKeyThatIsHeldGoWithItsScreen)
 {
     Process progress = Send({"--ui-id", "1", "progress", "--percent", "5"});
-    RunCommand({"veskar-remote", "wait", "--shown"});
+    WaitForScreen(1);
     SetDelay(0); // so that nothing else holds it back
     RunCommand({"veskar-remote", "down", "Return"});
     Process message = SendMessage(2, 255, {"--button", "OK"});

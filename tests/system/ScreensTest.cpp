@@ -36,15 +36,6 @@ long ResidentMemory(unsigned pid)
     return pages * 4 / 1024;
 }
 
-/** Whether the number pad is shown. */
-constexpr const char* PAD_SHOWN = "memory/function-osd/number_pad_show";
-
-bool NumberPadIs(const std::string& value)
-{
-    const Words get{"veskar-setting", "get", PAD_SHOWN};
-    return WaitUntil([&] { return RunCommand(get) == value + "\n"; });
-}
-
 } // namespace
 
 class Screens : public TvTest
@@ -62,8 +53,8 @@ protected:
         SCOPED_TRACE(kind);
         const Picture before = Shot();
         Process request = SendKind(kind, values);
-        // A viewer presses a key when he sees the screen.
-        EXPECT_TRUE(WaitUntil([&] { return Shot() != before; })) << "nothing is shown";
+        WaitForScreen(7);
+        EXPECT_TRUE(Shot() != before) << "nothing is shown";
         Press(keys);
         ExpectAnswer(request, answer);
     }

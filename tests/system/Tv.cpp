@@ -11,6 +11,9 @@ using veskar::Applications::INTERFACE;
 namespace
 {
 
+/** The tool gives up a little before the test does. */
+const std::string WAIT = std::to_string(PATIENCE.count() - 1);
+
 std::string ReadFile(const std::string& path, std::streamoff from = 0)
 {
     std::ifstream file(path, std::ios::binary);
@@ -44,7 +47,12 @@ Process TvTest::SendMessage(int uiId, int sourceId, const Words& more)
 
 void TvTest::Press(const Words& keys)
 {
-    RunCommand(Words{"veskar-remote", "press"} + keys);
+    RunCommand(Words{"veskar-remote", "press", "--timeout", WAIT} + keys);
+}
+
+void TvTest::WaitForScreen(int uiId)
+{
+    RunCommand({"veskar-remote", "wait", "--shown", "--timeout", WAIT, "--ui-id", std::to_string(uiId)});
 }
 
 std::map<std::string, std::string> TvTest::Grabs(const std::string& program)
@@ -63,6 +71,12 @@ std::map<std::string, std::string> TvTest::Grabs(const std::string& program)
     return grabs;
 }
 
+bool TvTest::NumberPadIs(const std::string& value)
+{
+    const Words get{"veskar-setting", "get", PAD_SHOWN};
+    return WaitUntil([&] { return RunCommand(get) == value + "\n"; });
+}
+
 Picture TvTest::Shot()
 {
     const std::string path = Environment("XDG_RUNTIME_DIR") + "/shot.png";
@@ -72,27 +86,8 @@ Picture TvTest::Shot()
 
 Picture TvTest::StillShot()
 {
-    // Longer than a frame takes, and longer than any pause within a motion. On a busy machine a frame may take longer,
-    // but then taking a picture does too.
-    constexpr std::chrono::milliseconds STILL{300};
-    constexpr int PICTURES = 6;
-    int same = 0;
-    Picture last = Shot();
-    auto since = std::chrono::steady_clock::now();
-    const auto isStill = [&]
-    {
-        Picture next = Shot();
-        if (next != last)
-        {
-            last = std::move(next);
-            since = std::chrono::steady_clock::now();
-            same = 0;
-        }
-        ++same;
-        return same >= PICTURES && std::chrono::steady_clock::now() - since >= STILL;
-    };
-    EXPECT_TRUE(WaitUntil(isStill)) << "the screen does not come to rest";
-    return last;
+    RunCommand({"veskar-remote", "wait", "--still", "--timeout", WAIT});
+    return Shot();
 }
 
 Picture TvTest::ChangedShot(const Picture& before)

@@ -45,10 +45,18 @@ protected:
     /** `Send` with a message that has these ids; more arguments may follow. */
     Process SendMessage(int uiId, int sourceId, const Words& more = {});
 
+    /** Each key when somebody takes it. */
     void Press(const Words& keys);
+
+    /** Until the screen with this id has been drawn. */
+    static void WaitForScreen(int uiId);
 
     /** The keys that a program (by default the application) holds at the compositor: key and mode. */
     std::map<std::string, std::string> Grabs(const std::string& program = "");
+
+    /** Waits until the setting that tells whether the number pad is shown has this value. */
+    static bool NumberPadIs(const std::string& value);
+    static constexpr const char* PAD_SHOWN = "memory/function-osd/number_pad_show";
 
     Picture Shot();
     /** The picture once nothing moves any more. */

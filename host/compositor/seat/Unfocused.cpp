@@ -32,6 +32,13 @@ void TellOfFocus(weston_keyboard* keyboard, weston_surface* surface)
                      { wl_keyboard_send_enter(resource, serial, surface->resource, &noKeys); });
 }
 
+void TellOfLostFocus(weston_keyboard* keyboard, weston_surface* surface)
+{
+    ToEachKeyboardOf(surface, keyboard,
+                     [&](wl_resource* resource, uint32_t serial)
+                     { wl_keyboard_send_leave(resource, serial, surface->resource); });
+}
+
 void SendUnfocused(weston_keyboard* keyboard, const timespec* time, const Key& key, wl_keyboard_key_state state,
                    weston_surface* surface)
 {

@@ -9,6 +9,7 @@ namespace veskar
 
 /** Sends the surface's client a focus event. The toolkit drops every key for a window that never got one. */
 void TellOfFocus(weston_keyboard* keyboard, weston_surface* surface);
+void TellOfLostFocus(weston_keyboard* keyboard, weston_surface* surface);
 
 void SendUnfocused(weston_keyboard* keyboard, const timespec* time, const Key& key, wl_keyboard_key_state state,
                    weston_surface* surface);

@@ -30,13 +30,14 @@ void Overlays::m_StayOver(weston_surface* screen)
 {
     m_screenCommitted.reset();
     m_screenDestroyed.reset();
-    if (!IsOverlay(m_overlay.Get()))
+    if (!IsOverlay(m_overlay.Get()) || m_seat.Keyboard() == nullptr)
     {
         return;
     }
     if (screen == nullptr)
     {
-        weston_desktop_surface_close(weston_surface_get_desktop_surface(m_overlay.Get()));
+        // Not a request to close: the toolkit frees its half of the window when it gets one, and then crashes.
+        TellOfLostFocus(m_seat.Keyboard(), m_overlay.Get());
         return;
     }
     // A client hides a window by a commit without a picture. The library has no other signal for that.

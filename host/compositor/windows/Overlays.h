@@ -1,8 +1,8 @@
 /**
  * Windows that lie over a screen and serve it, such as the number pad.
  *
- * An overlay does not get the keyboard focus, so keys that it does not grab go to the screen below. It is asked to
- * close when no screen is left below it, for whatever reason.
+ * An overlay does not get the keyboard focus, so keys that it does not grab go to the screen below; but it is told that
+ * it has the focus. When no screen is left below it, for whatever reason, it is told that it has lost it, and hides.
  */
 #pragma once
 
