@@ -19,6 +19,8 @@ public:
     class Display
     {
     public:
+        virtual ~Display() = default;
+
         /** `shown` is false while there is no screen, and until its first frame can be seen. */
         virtual void Changed(bool shown, int uiId) = 0;
 
@@ -27,9 +29,6 @@ public:
          * before has been handled. Not at all when a newer call of this has replaced it.
          */
         virtual void AwaitFrame(std::function<void()> reached) = 0;
-
-    protected:
-        ~Display() = default;
     };
 
     /** Never destroyed. */

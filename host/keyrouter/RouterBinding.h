@@ -33,7 +33,7 @@ class RouterBinding : private OwnScreen::Display
 public:
     /** Throws std::runtime_error when the compositor does not answer. */
     RouterBinding(wl_display* display, wl_registry* registry, uint32_t globalName);
-    ~RouterBinding();
+    ~RouterBinding() override;
 
     RouterBinding(const RouterBinding&) = delete;
     RouterBinding& operator=(const RouterBinding&) = delete;
