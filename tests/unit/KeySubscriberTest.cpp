@@ -56,6 +56,11 @@ TEST_F(KeySubscriberTest, SingleKeysAreTakenExclusivelyOneByOne)
     EXPECT_THAT(Do(&KeySubscriber::UnlockExitKey), ElementsAre("release XF86Exit:4"));
     EXPECT_THAT(Do(&KeySubscriber::LockChannelChangeKeys), SizeIs(80)); // some names are in it twice
     EXPECT_THAT(tv.heldKeys, AllOf(SizeIs(72), Each(Pair(StartsWith("XF86"), 4))));
+    for (const char* key : {"RaiseChannel", "LowerChannel", "PreviousChannel", "ChannelList", "ChannelGuide", "Home",
+                            "SysMenu", "Search", "TV", "Hdmi", "PanelUp", "PanelDown", "Netflix", "Amazon", "Apps"})
+    {
+        EXPECT_EQ(tv.heldKeys.count({std::string("XF86") + key, 4}), 1U) << key << " leads away from the screen";
+    }
     EXPECT_THAT(Do(&KeySubscriber::UnlockChannelChangeKeys), AllOf(SizeIs(80), Each(StartsWith("release XF86"))));
     EXPECT_THAT(tv.heldKeys, IsEmpty());
     EXPECT_THAT(tv.Log(DLOG_WARN), IsEmpty());

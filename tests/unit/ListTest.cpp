@@ -311,6 +311,19 @@ TEST_F(ImageListPopupTest, AnIndexPastThePicturesIsAnErrorLine)
     EXPECT_TRUE(tv.Logged(DLOG_INFO, "KEY_UP/DOWN pressed. Current index update to 2"));
 }
 
+TEST_F(ImageListPopupTest, UpFromTheButtonsShowsTheLastRowsPicture)
+{
+    for (const bool header : {false, true})
+    {
+        Texts rows(header ? 1 : 0, "head");
+        rows.insert(rows.end(), {"a", "b", "c"});
+        Show("", header, rows, true, Texts{first, first, second}, 4, 4);
+        evas_object_smart_callback_call(list->Widget(), "unfocused", nullptr);
+        Press(list->t_popup, "Right");
+        EXPECT_THAT(After({"Up"}), ElementsAre(second));
+    }
+}
+
 TEST_F(ImageListPopupTest, AWidePictureIsBroughtDownForAllThatFollow)
 {
     Show("", false, {"a", "b"}, true, Texts{first, second}, 1280, 721);

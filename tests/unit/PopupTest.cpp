@@ -94,6 +94,25 @@ TEST_F(PinEntryTest, MoreOpensTheNumberPadWhichGoesWithTheScreen)
     EXPECT_THAT(answers, ElementsAre("key", "key", "key", "pin 5678", "key"));
 }
 
+// Where the screen keeps its digits is private; an explicit instantiation may name it.
+const char* DigitsOf(const VESKAR_APP::PinEntry& entry);
+template <auto digits>
+struct Open
+{
+    friend const char* DigitsOf(const VESKAR_APP::PinEntry& entry) { return (entry.*digits).data(); }
+};
+template struct Open<&VESKAR_APP::PinEntry::m_digits>;
+
+TEST_F(PinEntryTest, NoDigitIsLeftInTheMemoryOfAHiddenScreen)
+{
+    Show();
+    Type({"1", "2", "3", "BackSpace"});
+    const char* digits = DigitsOf(*entry); // the memory is kept for the next digits
+    EXPECT_EQ(std::string(digits, 3), std::string("12\0", 3));
+    entry->Hide();
+    EXPECT_EQ(std::string(digits, 3), std::string(3, '\0'));
+}
+
 TEST_F(PinEntryTest, WithoutItsFieldTheScreenIsStillShown)
 {
     tv.failing = {"ea_pin_add"};
