@@ -1,12 +1,5 @@
 #include "SizeHints.h"
 
-// The toolkit's object interface is no valid C++ as a whole.
-extern "C"
-{
-    void efl_gfx_hint_size_min_set(Eo* object, Eina_Size2D size);
-    Eina_Size2D efl_gfx_hint_size_min_get(const Eo* object);
-}
-
 namespace veskar
 {
 

@@ -68,6 +68,27 @@ bool IsBlank(const Frame& frame, int from, int to)
     return std::all_of(frame.begin(), frame.end(), isPlain);
 }
 
+/** The heights of the lines of text at the left of the box, each between rows of pixels of one colour. */
+std::vector<int> LineHeights(const Frame& frame, const Box& box)
+{
+    std::vector<int> heights;
+    bool inLine = false;
+    for (int y = box.y; y < box.Bottom(); ++y)
+    {
+        const bool drawn = !IsBlank({frame[y]}, box.x, box.x + box.width / 2);
+        if (drawn && !inLine)
+        {
+            heights.push_back(0);
+        }
+        inLine = drawn;
+        if (drawn)
+        {
+            ++heights.back();
+        }
+    }
+    return heights;
+}
+
 constexpr const char* LONG = "A text that takes more than one line of the sheet, so that it is broken into several of "
                              "them, and then some more of it, until there is no doubt about that.";
 
@@ -235,6 +256,41 @@ TEST_F(ToolkitTest, ALongTextIsAsHighAsItsLinesUpToAPage)
     EXPECT_EQ(page, 235);
 }
 
+TEST_F(ToolkitTest, AWordWiderThanItsPageIsBrokenAndNotCutOff)
+{
+    std::string sentence; // Thai has no blanks between its words
+    while (sentence.size() < 400)
+    {
+        sentence += "\u0e20\u0e32\u0e29\u0e32\u0e44\u0e17\u0e22";
+    }
+    const auto heightOf = [this](const std::string& text)
+    {
+        manager->ShowMessage(1, 255, "T", "", "", text, {"OK"}, false);
+        Picture();
+        return BoxOf(Find("elm_scroller")).height;
+    };
+    const int height = heightOf(sentence);
+    EXPECT_GT(heightOf(sentence + sentence), height);
+}
+
+TEST_F(ToolkitTest, EveryLineOnAPageIsWhole)
+{
+    std::string text;
+    for (int line = 0; line < 100; ++line)
+    {
+        text += "HHHH\n";
+    }
+    manager->ShowMessage(1, 255, "T", "", "", text, {"OK"}, false);
+    for (int page = 0; page < 3; ++page)
+    {
+        const Frame frame = Picture();
+        const std::vector<int> heights = LineHeights(frame, BoxOf(Find("elm_scroller")));
+        EXPECT_GT(heights.size(), 5U);
+        EXPECT_THAT(heights, testing::Each(heights.front())) << "page " << page;
+        Key("Down");
+    }
+}
+
 TEST_F(ToolkitTest, RowsBesideAnImageKeepTheirRoomInThePanel)
 {
     manager->ShowMultipleImageList(1, 255, "Delete Kavro Operator Profile", "", "", {"a", "b", "c"}, "L", false, {"OK"},
@@ -253,7 +309,16 @@ TEST_F(ToolkitTest, AHiddenButtonStaysHiddenAndNoKeyLeadsThere)
     Key("Down");
     Key("Down");
     Picture();
-    EXPECT_NE(elm_object_focused_object_get(tv.window), Find("elm_button", 0));
+    EXPECT_EQ(elm_object_focused_object_get(tv.window), Find("elm_button", 1));
+}
+
+TEST_F(ToolkitTest, UpFromTheFirstRowStaysThere)
+{
+    manager->ShowList(7, 255, "T", "", "", {"a", "b"}, "L", false, {"OK"}, true);
+    Picture();
+    Key("Up");
+    Key("Return");
+    EXPECT_THAT(tv.Did("answer"), ElementsAre("answer 7 255 0 0 1 \"\""));
 }
 
 TEST_F(ToolkitTest, RowsAreWalkedOneByOneAsFastAsKeysCome)

@@ -16,7 +16,6 @@
 #include <system_info.h>
 #include <ui_orientation.h>
 #include <vconf.h>
-#include <voice_guide.h>
 
 namespace
 {
@@ -87,7 +86,8 @@ int __dlog_print(log_id_t /*id*/, int priority, const char* /*tag*/, const char*
     const int length = std::vsnprintf(line, sizeof line, format, arguments);
     va_end(arguments);
     const std::lock_guard<std::mutex> lock(Tv::logMutex);
-    tv.log.push_back({priority, std::strstr(line, ") > ") + 4});
+    const char* text = std::strstr(line, ") > "); // behind the place in the source, which the desk's own lines lack
+    tv.log.push_back({priority, text == nullptr ? line : text + 4});
     return length;
 }
 
@@ -212,11 +212,6 @@ char* vconf_get_str(const char* key)
     return Read(tv.texts, key, &value) == 0 ? strdup(value.c_str()) : nullptr;
 }
 
-void elm_access_force_say(const char* text)
-{
-    Did("say", text);
-}
-
 // The key router, which records who holds which key.
 
 int KeyRouter_Initialize(wl_display*, wl_registry*, wl_seat*, unsigned int id)
@@ -304,31 +299,9 @@ int KeyRouter_UnSet_KeyList(wl_surface*, const _KeyList* list)
     return ForEach("release", list, Release);
 }
 
-// The toolkit assistant; its text page is in a file of its own, so that a test can use the real one.
+// The toolkit assistant's start. Its widgets and its voice are in Assistant.cpp, so that a test can use the real ones.
 
 void ea_init(void)
 {
     Did("ea", "init");
-}
-
-Evas_Object* ea_pin_add(Evas_Object* parent, int length, Ea_Pin_Entered_Cb callback, void*)
-{
-    if (tv.Fails("ea_pin_add"))
-    {
-        return nullptr;
-    }
-    Did("pin", std::to_string(length));
-    Evas_Object* pin = elm_button_add(parent);
-    evas_object_data_set(pin, "entered", reinterpret_cast<void*>(callback));
-    return pin;
-}
-
-void ea_pin_reset(Ea_Pin*)
-{
-    Did("pin", "reset");
-}
-
-int ea_pin_get_text(const Ea_Pin*, char* buffer, int size)
-{
-    return static_cast<int>(eina_strlcpy(buffer, tv.texts["pin"].c_str(), static_cast<std::size_t>(size)));
 }
