@@ -27,23 +27,13 @@ struct KeySubscriberTest : ScreenTest
 TEST_F(KeySubscriberTest, ConnectsToTheRouterThatTheCompositorAdvertises)
 {
     EXPECT_THAT(tv.deeds, ElementsAre("router 42"));
-    EXPECT_TRUE(tv.Logged(DLOG_INFO, "Found KeyRouter object"));
-
-    const std::pair<std::function<void()>, const char*> faults[] = {
-        {[] { tv.failing = {"KeyRouter_Initialize"}; }, "Failed to initialise KeyRouter interface"},
-        {[] {
-             tv.globals = {{"tizen_keyrouter2", 1, 1, nullptr}};
-         },
-         "Failed to get key router id"},
-        {[] { tv.hasWaylandDisplay = false; }, "Failed to get display and register Grab Keys"},
-    };
-    for (const auto& [change, warning] : faults)
-    {
-        tv.Forget();
-        change();
-        const KeySubscriber warned(window);
-        EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre(warning));
-    }
+    tv.Forget();
+    tv.globals = {{"tizen_keyrouter2", 1, 1, nullptr}};
+    const KeySubscriber withoutRouter(window);
+    tv.hasWaylandDisplay = false;
+    const KeySubscriber withoutDisplay(window);
+    EXPECT_THAT(tv.deeds, IsEmpty());
+    EXPECT_THAT(tv.Log(DLOG_WARN), SizeIs(2));
 }
 
 TEST_F(KeySubscriberTest, SingleKeysAreTakenExclusivelyOneByOne)
@@ -77,20 +67,8 @@ TEST_F(KeySubscriberTest, AListReleasesItsEarlierRegistrationFirst)
     EXPECT_THAT(Do(&KeySubscriber::UnlockPVRKeys), ElementsAre("release " + pvr));
     EXPECT_THAT(tv.heldKeys, IsEmpty());
 
-    for (const auto lock : {&KeySubscriber::LockNavigationKeys, &KeySubscriber::LockPVRKeys})
-    {
-        tv.failing = {"KeyRouter_Set_KeyList"};
-        Do(lock);
-        EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre("Failed to set Key List"));
-        tv.failing = {"KeyRouter_UnSet_KeyList"};
-        EXPECT_EQ(Do(lock).size(), 1U);
-        EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre("Unable to clear keylist"));
-    }
-    for (const auto unlock : {&KeySubscriber::UnlockNavigationKeys, &KeySubscriber::UnlockPVRKeys})
-    {
-        Do(unlock);
-        EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre("Failed to unset Key List"));
-    }
+    tv.failing = {"KeyRouter_UnSet_KeyList"};
+    EXPECT_EQ(Do(&KeySubscriber::LockNavigationKeys).size(), 1U);
 }
 
 TEST_F(KeySubscriberTest, AKeyHeldBySomebodyElseIsTakenTopmostWithoutAWarning)
@@ -107,7 +85,6 @@ TEST_F(KeySubscriberTest, AKeyHeldBySomebodyElseIsTakenTopmostWithoutAWarning)
     EXPECT_THAT(tv.Log(DLOG_WARN), IsEmpty());
     tv.failing = {"KeyRouter_UnSet_KeyList"};
     EXPECT_THAT(Do(&KeySubscriber::UnlockExitKey), ElementsAre("release XF86Exit:4", "release XF86Exit:2"));
-    EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre("Failed to unregister to ungrab keys"));
 }
 
 TEST_F(KeySubscriberTest, WithoutADisplayNavigationKeysAreNotTakenButGivenBack)
@@ -115,7 +92,6 @@ TEST_F(KeySubscriberTest, WithoutADisplayNavigationKeysAreNotTakenButGivenBack)
     tv.hasWaylandDisplay = false;
     keys = std::make_unique<KeySubscriber>(window);
     EXPECT_THAT(Do(&KeySubscriber::LockNavigationKeys), IsEmpty());
-    EXPECT_THAT(tv.Log(DLOG_WARN), ElementsAre("Display not set"));
     EXPECT_EQ(Do(&KeySubscriber::UnlockNavigationKeys).size(), 1U);
 }
 

@@ -106,6 +106,12 @@ struct ToolkitTest : ShownTest
         EXPECT_TRUE(manager->ShowProgress(uiId, 255, "Title", text, button, 42));
         return Picture();
     }
+    int PageHeight(const std::string& text)
+    {
+        manager->ShowMessage(1, 255, "T", "", "", text, {"OK"}, false);
+        Picture();
+        return BoxOf(Find("elm_scroller")).height;
+    }
     Evas_Object* Find(const std::string& type, std::size_t index = 0)
     {
         return WidgetsOnScreen(tv.window, type).at(index);
@@ -242,15 +248,9 @@ TEST_F(ToolkitTest, DownFromAButtonNeverLeadsUpIntoTheList)
 
 TEST_F(ToolkitTest, ALongTextIsAsHighAsItsLinesUpToAPage)
 {
-    const auto heightOf = [this](const std::string& text)
-    {
-        manager->ShowMessage(1, 255, "T", "", "", text, {"OK"}, false);
-        Picture();
-        return BoxOf(Find("elm_scroller")).height;
-    };
-    const int twoLines = heightOf(std::string(301, '.') + "\n2");
-    const int fourLines = heightOf(std::string(301, '.') + "\n2\n3\n4");
-    const int page = heightOf(std::string(301, '\n'));
+    const int twoLines = PageHeight(std::string(301, '.') + "\n2");
+    const int fourLines = PageHeight(std::string(301, '.') + "\n2\n3\n4");
+    const int page = PageHeight(std::string(301, '\n'));
     EXPECT_GT(fourLines, twoLines);
     EXPECT_LT(fourLines, page);
     EXPECT_EQ(page, 235);
@@ -263,14 +263,8 @@ TEST_F(ToolkitTest, AWordWiderThanItsPageIsBrokenAndNotCutOff)
     {
         sentence += "\u0e20\u0e32\u0e29\u0e32\u0e44\u0e17\u0e22";
     }
-    const auto heightOf = [this](const std::string& text)
-    {
-        manager->ShowMessage(1, 255, "T", "", "", text, {"OK"}, false);
-        Picture();
-        return BoxOf(Find("elm_scroller")).height;
-    };
-    const int height = heightOf(sentence);
-    EXPECT_GT(heightOf(sentence + sentence), height);
+    const int height = PageHeight(sentence);
+    EXPECT_GT(PageHeight(sentence + sentence), height);
 }
 
 TEST_F(ToolkitTest, EveryLineOnAPageIsWhole)
