@@ -182,4 +182,26 @@ TEST_F(ServiceProcessorTest, AMenuPositionStopsTheMenuAndReachesTheController)
     EXPECT_THAT(tv.deeds, IsEmpty());
 }
 
+// The reader of bytes serves no request yet. It is private; an explicit instantiation may name it.
+bool ReadBytes(VESKAR_APP::ServiceProcessor& processor, app_control_h request, std::vector<Byte>& bytes);
+template <auto reader>
+struct Open
+{
+    friend bool ReadBytes(VESKAR_APP::ServiceProcessor& processor, app_control_h request, std::vector<Byte>& bytes)
+    {
+        return (processor.*reader)(request, "bytes", bytes);
+    }
+};
+template struct Open<&VESKAR_APP::ServiceProcessor::m_GetDataArray>;
+
+TEST_F(ServiceProcessorTest, BytesAreTheFirstOnesOfAListsTexts)
+{
+    std::vector<Byte> bytes;
+    app_control_s request{"", {{"bytes", Texts{"A", "", "zoo"}}}};
+    EXPECT_TRUE(ReadBytes(processor, &request, bytes));
+    EXPECT_THAT(bytes, ElementsAre(0x41, 0, 0x7a));
+    app_control_s empty;
+    EXPECT_FALSE(ReadBytes(processor, &empty, bytes));
+}
+
 } // namespace
