@@ -166,7 +166,7 @@ TEST_F(WindowManagerTest, AScreenWithoutAnIdOrWithTheIdleSourceIsNeverAnswered)
 TEST_F(WindowManagerTest, ACloseNeedsTheIdAndAnswersTheMiddlewareAlone)
 {
     Show(7, 255);
-    EXPECT_THAT(Do([this] { manager->Close(5, 255); }), IsEmpty());
+    EXPECT_THAT(Do([this] { EXPECT_FALSE(manager->Close(5, 255)); }), IsEmpty());
     EXPECT_TRUE(evas_object_visible_get(Popup()));
 
     EXPECT_EQ(Do([this] { manager->Close(7, 253); }), RELEASED);
@@ -289,6 +289,8 @@ TEST_F(WindowManagerTest, WithoutAWindowOrAControllerNothingIsShownAndNothingBre
     tv.failing = {"elm_win_add"};
     manager = std::make_unique<WindowManager>([] {}, [] {});
     EXPECT_FALSE(Show(7, 255));
+    EXPECT_FALSE(manager->ShowPinManager(7, 255, "T", "", "", 4, ""));
+    EXPECT_FALSE(manager->ShowList(7, 255, "T", "", "", {"a"}, "L", false, {}, true));
     manager->Pause();
     manager->Resume();
     EXPECT_THAT(tv.Did("answer"), IsEmpty());
