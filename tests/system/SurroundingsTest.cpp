@@ -71,9 +71,10 @@ TEST_F(Surroundings, NoDaemonOfADesktopRunsBesideTheScreens)
     Process request = SendMessage(7, 255);
     StillShot();
     const std::string inThisTv = "VESKAR_TV_DIR=" + Environment("VESKAR_TV_DIR");
-    const std::string daemons = RunCommand(
-        {"sh", "-c", "grep -lszxF \"$0\" /proc/[0-9]*/environ | while read -r f; do cat \"${f%environ}comm\" || :; done",
-         inThisTv});
+    const std::string daemons =
+        RunCommand({"sh", "-c",
+                    "grep -lszxF \"$0\" /proc/[0-9]*/environ | while read -r f; do cat \"${f%environ}comm\" || :; done",
+                    inThisTv});
     EXPECT_NE(daemons.find("veskar-app\n"), std::string::npos);
     EXPECT_EQ(daemons.find("efreetd"), std::string::npos) << daemons;
 }
