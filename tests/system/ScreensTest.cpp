@@ -220,6 +220,18 @@ TEST_F(Screens, PinStaysWhenTheNumberPadGoesAndDoesWithoutWhereThereIsNone)
     EXPECT_TRUE(NumberPadIs("0"));
 }
 
+TEST_F(Screens, NumberPadGoesWithTheProcessOfItsScreen)
+{
+    const Process request = SendKind("pin", {"--title", "PIN"});
+    StillShot();
+    Press({"More"});
+    ASSERT_TRUE(NumberPadIs("1"));
+    EXPECT_FALSE(Grabs("veskar-numpad").empty());
+    kill(static_cast<pid_t>(ApplicationPid()), SIGKILL);
+    EXPECT_TRUE(NumberPadIs("0"));
+    EXPECT_TRUE(WaitUntil([this] { return Grabs("veskar-numpad").empty(); }));
+}
+
 TEST_F(Screens, ProgressUpdatesInPlaceAndAnswersItsButtonAlone)
 {
     Process request = SendKind("progress", {"--title", "Scan", "--percent", "0", "--button", "Cancel"});
