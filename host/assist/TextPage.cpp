@@ -1,5 +1,6 @@
 #include "CString.h"
 #include "ea.h"
+#include "toolkit/Numbers.h"
 #include "toolkit/SizeHints.h"
 #include "toolkit/ThemeSizes.h"
 
@@ -201,7 +202,7 @@ TextPage::~TextPage()
 
 void TextPage::SetText(const char* markup)
 {
-    evas_object_textblock_text_markup_set(m_text, WithoutTabs(markup).c_str());
+    evas_object_textblock_text_markup_set(m_text, veskar::WithNumbersTogether(WithoutTabs(markup)).c_str());
     m_current = 0;
     m_heightIsSet = false;
     m_Update();

@@ -1,8 +1,10 @@
-// What the theme's labels cannot find out on their own: that there is nothing to read between the tags of their markup,
-// and that they stand in the panel at the side, where lines are shorter. Lines may be counted right after a text or a
-// style was set, so both are passed on immediately.
+// Numbers in texts stay together. The rest is what the theme's labels cannot find out on their own: that there is
+// nothing to read between the tags of their markup, and that they stand in the panel at the side, where lines are
+// shorter. Lines may be counted right after a text or a style was set, so both are passed on immediately.
 
 #include "CString.h"
+#include "Numbers.h"
+#include "TextFit.h"
 #include "Widgets.h"
 
 namespace
@@ -47,7 +49,12 @@ extern "C"
 
     void __wrap_elm_object_part_text_set(Evas_Object* object, const char* part, const char* text)
     {
-        __real_elm_object_part_text_set(object, part, text);
+        if (veskar::Is(object, "elm_label"))
+        {
+            veskar::UndoTextFit(elm_layout_edje_get(object));
+        }
+        const std::string shown = text != nullptr ? veskar::WithNumbersTogether(text) : "";
+        __real_elm_object_part_text_set(object, part, text != nullptr ? shown.c_str() : nullptr);
         InformTheme(object);
     }
 

@@ -7,6 +7,7 @@
 #include "RowFocus.h"
 #include "ScreenFit.h"
 #include "ScreenNews.h"
+#include "TextFit.h"
 #include "WholeFrames.h"
 
 // NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's.
@@ -33,6 +34,7 @@ extern "C"
         {
             veskar::LiveWith<veskar::WholeFrames>(popup, parent);
             veskar::LiveWith<veskar::ScreenFit>(popup, parent, popup);
+            veskar::LiveWith<veskar::TextFit>(popup, popup);
             veskar::LiveWith<veskar::ButtonFocus>(popup, popup);
             veskar::LiveWith<veskar::ScreenNews>(popup, popup);
         }

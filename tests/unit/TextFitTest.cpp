@@ -1,0 +1,98 @@
+// Where the lines of titles, messages and buttons are broken.
+
+#include "Shown.h"
+
+#include "toolkit/Numbers.h"
+
+#include <algorithm>
+
+namespace
+{
+
+using testing::SizeIs;
+
+using Widths = std::vector<int>;
+
+struct TextFitTest : ShownTest
+{
+    void Show(const std::string& title, const std::string& text, const std::string& button)
+    {
+        ASSERT_TRUE(manager->ShowMessage(1, 255, title, "", "", text, {button}, false));
+        TakeKeyboard();
+        Watch();
+    }
+    /** The widths of the lines that a theme's part shows. */
+    Widths Lines(const char* part, const std::string& inside)
+    {
+        Widths widths;
+        const Evas_Object* text = edje_object_part_object_get(Layout(part, inside), part);
+        int width = 0;
+        while (text != nullptr && evas_object_textblock_line_number_geometry_get(text, static_cast<int>(widths.size()),
+                                                                                 nullptr, nullptr, &width, nullptr))
+        {
+            widths.push_back(width);
+        }
+        return widths;
+    }
+    Evas_Object* Layout(const char* part, const std::string& inside)
+    {
+        const auto layouts = WidgetsOnScreen(tv.window, "edje");
+        const auto found =
+            std::find_if(layouts.begin(), layouts.end(),
+                         [&](Evas_Object* layout)
+                         {
+                             const char* text = edje_object_part_text_get(layout, part);
+                             return text != nullptr && std::string(text).find(inside) != std::string::npos;
+                         });
+        return found != layouts.end() ? *found : nullptr;
+    }
+};
+
+void ExpectBalanced(const Widths& lines, std::size_t count)
+{
+    ASSERT_THAT(lines, SizeIs(count));
+    const auto [shortest, longest] = std::minmax_element(lines.begin(), lines.end());
+    EXPECT_GE(3 * *shortest, 2 * *longest) << testing::PrintToString(lines);
+}
+
+TEST_F(TextFitTest, NoSingleWordStandsOnTheLastLine)
+{
+    Show("The subscription to the Sport package of Northern Lights TV has expired today",
+         "Your subscription to the Sport package expired on the day before yesterday. Please renew it soon.",
+         "Remind me of the end tomorrow");
+    ExpectBalanced(Lines("title", "subscription"), 2);
+    ExpectBalanced(Lines("text", "Your"), 3);
+    ExpectBalanced(Lines("text", "Remind"), 2);
+
+    Show("T", "One line", "OK");
+    EXPECT_THAT(Lines("text", "One line"), SizeIs(1));
+}
+
+TEST_F(TextFitTest, LettersOfAButtonShrinkBeforeAWordIsBroken)
+{
+    Show("T", "Text", "Berechtigungsverlängerung");
+    EXPECT_THAT(Lines("text", "Berechtigung"), SizeIs(1));
+
+    // What is too long at the least size keeps its own.
+    Show("T", "Text", std::string(60, 'm'));
+    const Widths broken = Lines("text", "mmm");
+    ASSERT_THAT(broken, SizeIs(testing::Gt(1U)));
+    Show("T", "Text", std::string(10, 'm'));
+    EXPECT_GT(broken.front(), Lines("text", "mmm").front());
+}
+
+TEST_F(TextFitTest, NumbersStayOnOneLine)
+{
+    using veskar::WithNumbersTogether;
+    EXPECT_EQ(WithNumbersTogether("Call 0800 / 123 456 now"), "Call 0800\u00A0/\u00A0123\u00A0456 now");
+    EXPECT_EQ(WithNumbersTogether("14 March 2026. 5 days, 1 - x"), "14 March 2026. 5 days, 1 - x");
+    EXPECT_EQ(WithNumbersTogether("<align 0 0>1 – 2<b>3 4"), "<align 0 0>1\u00A0–\u00A02<b>3\u00A04");
+    EXPECT_EQ(WithNumbersTogether("1 2 <open 3 4"), "1\u00A02 <open 3 4");
+    const std::string endless = "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15";
+    EXPECT_EQ(WithNumbersTogether(endless), endless);
+
+    Show("T", "0800 123 456", "OK");
+    EXPECT_THAT(Lines("text", "0800\u00A0123\u00A0456"), SizeIs(1));
+}
+
+} // namespace
