@@ -54,8 +54,8 @@ private:
         try
         {
             m_socket.emplace(wl_display_get_event_loop(m_compositor->wl_display), RemoteSocketPath());
-            SetRemoteCommands(*m_socket,
-                              {m_seat, m_grabs, m_routing, m_screenshots, m_keyRouter ? &*m_keyRouter : nullptr});
+            SetRemoteCommands(*m_socket, {m_seat, m_grabs, m_routing, m_screenshots, m_backdrop,
+                                          m_keyRouter ? &*m_keyRouter : nullptr});
         }
         catch (const std::exception& error)
         {

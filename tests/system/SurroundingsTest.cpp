@@ -173,3 +173,20 @@ TEST_F(Surroundings, ACommandInATvFindsABusThatWasSlowToListen)
     Process tv({"env", "PATH=" + folder + ":" + Environment("PATH"), "veskar-tv", "--", "veskar-mw", "sequence"});
     EXPECT_EQ(tv.Status(), 0);
 }
+
+TEST_F(Surroundings, AnyPictureCanBeTheProgrammeBehind)
+{
+    const Picture evening = Shot();
+    const std::string file = Environment("XDG_RUNTIME_DIR") + "/evening.png";
+    RunCommand({"veskar-remote", "shot", file});
+    RunCommand({"veskar-remote", "backdrop", "snow"});
+    const Picture snow = Shot();
+    EXPECT_NE(snow, evening);
+
+    Process noPicture({"veskar-remote", "backdrop", "/dev/null"});
+    EXPECT_EQ(noPicture.Status(), 1);
+    EXPECT_EQ(Shot(), snow);
+
+    RunCommand({"veskar-remote", "backdrop", file});
+    EXPECT_EQ(Shot(), evening);
+}

@@ -1,7 +1,8 @@
 #include "Backdrop.h"
 
-#include "Landscape.h"
 #include "weston/Outputs.h"
+
+#include <utility>
 
 namespace veskar
 {
@@ -19,8 +20,9 @@ void SetRegion(pixman_region32_t& region, int width, int height)
 
 Backdrop::Backdrop(weston_compositor* compositor, std::function<void()> shown)
     : m_compositor(compositor), m_shown(std::move(shown)),
-      m_pictures(compositor->wl_display, DrawLandscape,
-                 [this](wl_resource* buffer, int width, int height) { m_Show(buffer, width, height); }),
+      m_pictures(
+          compositor->wl_display, [this](int width, int height) { return m_Draw(width, height); },
+          [this](wl_resource* buffer, int width, int height) { m_Show(buffer, width, height); }),
       m_outputCreated(compositor->output_created_signal, [this](void*) { m_Redraw(); }),
       m_outputResized(compositor->output_resized_signal, [this](void*) { m_Redraw(); })
 {
@@ -34,6 +36,27 @@ Backdrop::~Backdrop()
 {
     m_Clear();
     weston_layer_fini(&m_layer);
+}
+
+void Backdrop::Choose(const std::string& name, const Done& done)
+{
+    const bool isLandscape = name == "evening" || name == "snow";
+    Photograph photograph;
+    const std::string error = isLandscape ? "" : photograph.Read(name);
+    if (!error.empty())
+    {
+        done(error);
+        return;
+    }
+    m_photograph = std::move(photograph);
+    m_daylight = name == "snow" ? Daylight::snow : Daylight::evening;
+    m_waiting.push_back(done);
+    m_Redraw();
+}
+
+std::vector<uint32_t> Backdrop::m_Draw(int width, int height) const
+{
+    return m_photograph ? m_photograph.Filling(width, height) : DrawLandscape(width, height, m_daylight);
 }
 
 void Backdrop::m_Redraw()
@@ -60,6 +83,10 @@ void Backdrop::m_Show(wl_resource* buffer, int width, int height)
     weston_surface_damage(m_surface);
     weston_compositor_schedule_repaint(m_compositor);
     m_shown();
+    for (const Done& done : std::exchange(m_waiting, {}))
+    {
+        done("");
+    }
 }
 
 void Backdrop::m_Clear()

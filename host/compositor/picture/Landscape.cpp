@@ -31,13 +31,22 @@ constexpr Colour Mix(Colour from, Colour to, float share)
     return from * (1 - share) + to * share;
 }
 
-constexpr Colour NIGHT{22, 30, 66};
-constexpr Colour DUSK{92, 66, 122};
-constexpr Colour AFTERGLOW{236, 128, 92};
-constexpr Colour GOLD{255, 205, 130};
-constexpr Colour SUN{255, 244, 214};
-constexpr Colour FAR_HILL{124, 84, 118};
-constexpr Colour NEAR_HILL{20, 22, 40};
+struct Palette
+{
+    Colour zenith;
+    Colour sky;
+    Colour horizon;
+    Colour glow;
+    Colour sun;
+    Colour farHill;
+    Colour nearHill;
+    float stars;
+};
+
+constexpr Palette EVENING{{22, 30, 66},    {92, 66, 122},  {236, 128, 92}, {255, 205, 130},
+                          {255, 244, 214}, {124, 84, 118}, {20, 22, 40},   1};
+constexpr Palette SNOW{{196, 220, 246}, {222, 236, 250}, {248, 250, 253}, {255, 254, 248},
+                       {255, 255, 255}, {226, 234, 245}, {250, 252, 255}, 0};
 
 // Positions and sizes, as fractions of the picture's height.
 constexpr float WATERLINE = 0.70F;
@@ -87,7 +96,7 @@ float RidgeAt(float x, int range)
 class Scene
 {
 public:
-    Scene(int width, int height) : m_height(static_cast<float>(height))
+    Scene(int width, int height, const Palette& palette) : m_palette(palette), m_height(static_cast<float>(height))
     {
         for (int range = 0; range < RANGES; ++range)
         {
@@ -106,32 +115,34 @@ public:
         {
             if (y > m_ridges[range][static_cast<size_t>(column)])
             {
-                return Hill(range, y - m_ridges[range][static_cast<size_t>(column)]);
+                return m_Hill(range, y - m_ridges[range][static_cast<size_t>(column)]);
             }
         }
         return m_Sky(column, y);
     }
 
 private:
-    static Colour Hill(int range, float depth)
+    Colour m_Hill(int range, float depth) const
     {
         const float nearness = static_cast<float>(range) / (RANGES - 1);
-        const Colour body = Mix(FAR_HILL, NEAR_HILL, std::pow(nearness, 0.7F));
+        const Colour body = Mix(m_palette.farHill, m_palette.nearHill, std::pow(nearness, 0.7F));
         // Mist lies in the valleys before the next range.
-        return Mix(body, Mix(AFTERGLOW, body, nearness), 0.55F * Smooth(0.0F, 0.16F, depth));
+        return Mix(body, Mix(m_palette.horizon, body, nearness), 0.55F * Smooth(0.0F, 0.16F, depth));
     }
 
     Colour m_Sky(int column, float y) const
     {
         const float x = static_cast<float>(column) / m_height;
         const float level = y / WATERLINE;
-        Colour colour = Mix(NIGHT, DUSK, Smooth(0.0F, 0.62F, level));
-        colour = Mix(colour, AFTERGLOW, Smooth(0.42F, 0.92F, level));
+        Colour colour = Mix(m_palette.zenith, m_palette.sky, Smooth(0.0F, 0.62F, level));
+        colour = Mix(colour, m_palette.horizon, Smooth(0.42F, 0.92F, level));
         const float distance = std::hypot(x - SUN_X, y - SUN_Y);
-        colour = Mix(colour, GOLD, 0.85F * std::exp(-distance * 4.2F));
-        colour = Mix(colour, Mix(GOLD, AFTERGLOW, 0.35F), 0.55F * Cloud(x, y) * Smooth(0.15F, 0.7F, level));
-        colour = Mix(colour, SUN, 1 - Smooth(SUN_RADIUS - 0.0015F, SUN_RADIUS + 0.0015F, distance));
-        return colour + Colour{255, 255, 255} * (m_Star(column, y) * (1 - Smooth(0.05F, 0.5F, level)));
+        colour = Mix(colour, m_palette.glow, 0.85F * std::exp(-distance * 4.2F));
+        colour = Mix(colour, Mix(m_palette.glow, m_palette.horizon, 0.35F),
+                     0.55F * Cloud(x, y) * Smooth(0.15F, 0.7F, level));
+        colour = Mix(colour, m_palette.sun, 1 - Smooth(SUN_RADIUS - 0.0015F, SUN_RADIUS + 0.0015F, distance));
+        const float star = m_palette.stars * m_Star(column, y) * (1 - Smooth(0.05F, 0.5F, level));
+        return colour + Colour{255, 255, 255} * star;
     }
 
     static float Cloud(float x, float y)
@@ -158,12 +169,13 @@ private:
         return 0.8F * std::exp(-(dx * dx + dy * dy) / (size * size));
     }
 
+    const Palette& m_palette;
     float m_height;
     std::vector<float> m_ridges[RANGES];
 };
 
 /** The lake mirrors the scene, darker towards the viewer and broken by ripples that grow with nearness. */
-Colour Water(const Scene& scene, int column, int row, int width, int height)
+Colour Water(const Scene& scene, const Palette& palette, int column, int row, int width, int height)
 {
     const float y = static_cast<float>(row) / static_cast<float>(height);
     const float depth = (y - WATERLINE) / (1 - WATERLINE);
@@ -172,7 +184,8 @@ Colour Water(const Scene& scene, int column, int row, int width, int height)
     const float mirrored = WATERLINE - (y - WATERLINE) * 1.05F + wave * 0.035F * (0.15F + depth);
     const int shifted = column + static_cast<int>(wave * 26 * depth * static_cast<float>(height) / 1080);
     const Colour seen = scene.At(std::clamp(shifted, 0, width - 1), std::clamp(mirrored, 0.0F, WATERLINE - 0.002F));
-    return Mix(seen, NIGHT, 0.22F + 0.45F * depth) + GOLD * (0.05F * std::max(0.0F, wave) * (1 - depth));
+    return Mix(seen, palette.zenith, 0.22F + 0.45F * depth) +
+           palette.glow * (0.05F * std::max(0.0F, wave) * (1 - depth));
 }
 
 uint32_t Packed(Colour colour, float dither)
@@ -186,9 +199,10 @@ uint32_t Packed(Colour colour, float dither)
 
 } // namespace
 
-std::vector<uint32_t> DrawLandscape(int width, int height)
+std::vector<uint32_t> DrawLandscape(int width, int height, Daylight daylight)
 {
-    const Scene scene(width, height);
+    const Palette& palette = daylight == Daylight::snow ? SNOW : EVENING;
+    const Scene scene(width, height, palette);
     std::vector<uint32_t> pixels;
     pixels.reserve(static_cast<size_t>(width) * static_cast<size_t>(height));
     for (int row = 0; row < height; ++row)
@@ -196,7 +210,8 @@ std::vector<uint32_t> DrawLandscape(int width, int height)
         const float y = static_cast<float>(row) / static_cast<float>(height);
         for (int column = 0; column < width; ++column)
         {
-            const Colour colour = y < WATERLINE ? scene.At(column, y) : Water(scene, column, row, width, height);
+            const Colour colour =
+                y < WATERLINE ? scene.At(column, y) : Water(scene, palette, column, row, width, height);
             // Dithered, because long gradients would show bands.
             pixels.push_back(Packed(colour, NoiseAt(column, row)));
         }

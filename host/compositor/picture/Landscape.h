@@ -1,4 +1,4 @@
-/** An evening by a lake: the TV programme of a desk TV. Drawn, not stored, so that it fits every size. */
+/** A lake: the TV programme of a desk TV. Drawn, not stored, so that it fits every size. */
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,15 @@
 namespace veskar
 {
 
+enum class Daylight
+{
+    /** A dark film. */
+    evening,
+    /** Snow at noon: as bright as a programme gets. */
+    snow
+};
+
 /** Rows from the top, 0x00RRGGBB. The same size gives the same picture. */
-std::vector<uint32_t> DrawLandscape(int width, int height);
+std::vector<uint32_t> DrawLandscape(int width, int height, Daylight daylight);
 
 } // namespace veskar

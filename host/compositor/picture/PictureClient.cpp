@@ -92,6 +92,7 @@ void PictureClient::Request(int width, int height)
 {
     m_width = width;
     m_height = height;
+    m_isOutdated = m_making != nullptr;
     if (m_shm != nullptr && m_making == nullptr)
     {
         m_MakeBuffer();
@@ -156,8 +157,9 @@ void PictureClient::s_OnBufferMade(void* data, wl_callback*, uint32_t)
         wl_buffer_destroy(self->m_shown.release());
     }
     self->m_shown = std::move(self->m_making);
-    if (width != self->m_width || height != self->m_height)
+    if (self->m_isOutdated)
     {
+        self->m_isOutdated = false;
         self->m_MakeBuffer();
     }
 }

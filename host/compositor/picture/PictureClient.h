@@ -36,7 +36,7 @@ public:
     PictureClient(const PictureClient&) = delete;
     PictureClient& operator=(const PictureClient&) = delete;
 
-    /** `ready` is called later, from the event loop. A new request replaces one that is not ready yet. */
+    /** `ready` is called later, from the event loop. One that comes meanwhile is drawn after that. */
     void Request(int width, int height);
 
 private:
@@ -68,6 +68,7 @@ private:
     EventSource m_source;
     int m_width = 0;
     int m_height = 0;
+    bool m_isOutdated = false; // requested again while one is being made
 };
 
 } // namespace veskar

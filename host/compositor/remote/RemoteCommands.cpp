@@ -171,6 +171,14 @@ RemoteCommand TakeShot(Screenshots& screenshots)
     };
 }
 
+RemoteCommand ChooseBackdrop(Backdrop& backdrop)
+{
+    return [&backdrop](const std::string& name, const RemoteAnswer& answer)
+    {
+        backdrop.Choose(name, [answer](const std::string& error) { answer({{}, error}); });
+    };
+}
+
 } // namespace
 
 void SetRemoteCommands(RemoteSocket& socket, const RemoteParts& parts)
@@ -197,6 +205,7 @@ void SetRemoteCommands(RemoteSocket& socket, const RemoteParts& parts)
     socket.SetCommand("offer", Offer(parts));
     socket.SetCommand("screens", ListScreens(parts.router));
     socket.SetCommand("shot", TakeShot(parts.screenshots));
+    socket.SetCommand("backdrop", ChooseBackdrop(parts.backdrop));
 }
 
 } // namespace veskar

@@ -5,6 +5,7 @@
  *     down KEY     press it                    grabs   for each grab: key, mode, process id/program
  *     up KEY       release it                  screens for each screen that is drawn: its id, process id/program
  *     offer KEY    down and up; answered when it is known who took it: "taken", "held back" or "nobody"
+ *     backdrop evening|snow|PATH  the programme behind the windows; answered when it is on the screen
  *     shot PATH    the screen as a PNG; answered when the file is complete
  */
 #pragma once
@@ -13,6 +14,7 @@
 #include "keys/GrabTable.h"
 #include "keys/KeyRouter.h"
 #include "keys/Routing.h"
+#include "picture/Backdrop.h"
 #include "picture/Screenshot.h"
 #include "seat/Seat.h"
 
@@ -25,6 +27,7 @@ struct RemoteParts
     const GrabTable& grabs;
     const Routing& routing;
     Screenshots& screenshots;
+    Backdrop& backdrop;
     KeyRouter* router; // null on a TV without one
 };
 

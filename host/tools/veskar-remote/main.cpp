@@ -111,6 +111,9 @@ void AddCommands(CLI::App& app, Wanted& wanted)
     app.add_subcommand("down", "Press a key and hold it")->add_option("KEY", wanted.keys)->required()->expected(1);
     app.add_subcommand("up", "Let a held key go")->add_option("KEY", wanted.keys)->required()->expected(1);
     app.add_subcommand("shot", "Save what is on the screen")->add_option("FILE.png", wanted.file)->required();
+    app.add_subcommand("backdrop", "Choose the programme behind the screens")
+        ->add_option("PICTURE", wanted.file, "evening, snow, or a picture's file")
+        ->required();
     app.add_subcommand("keys", "List every key's platform name");
     app.add_subcommand("grabs", "List who holds which key: key, mode, process id/program");
     app.require_subcommand(1);
@@ -147,6 +150,11 @@ void Do(const Wanted& wanted, veskar::RemoteClient& remote)
     if (wanted.command == "shot")
     {
         remote.Ask("shot " + WholePath(wanted.file));
+    }
+    else if (wanted.command == "backdrop")
+    {
+        const bool isDrawn = wanted.file == "evening" || wanted.file == "snow";
+        remote.Ask("backdrop " + (isDrawn ? wanted.file : WholePath(wanted.file)));
     }
     else if (wanted.command == "wait")
     {
