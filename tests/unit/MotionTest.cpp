@@ -93,7 +93,7 @@ TEST_F(MotionTest, AnEventChangesThePictureOnce)
         Watch();
         for (const std::string& key : keys)
         {
-            Key(key.c_str());
+            Key(key);
             Watch();
             EXPECT_EQ(frames.size(), 1U) << key;
         }

@@ -92,8 +92,13 @@ Eina_Bool ShownTest::s_IsStill(void* data)
     return ECORE_CALLBACK_CANCEL;
 }
 
-void ShownTest::Key(const char* key)
+void ShownTest::Key(const std::string& key)
 {
-    evas_event_feed_key_down(canvas, key, key, "", "", 0, nullptr);
-    evas_event_feed_key_up(canvas, key, key, "", "", 0, nullptr);
+    evas_event_feed_key_down(canvas, key.c_str(), key.c_str(), "", "", 0, nullptr);
+    evas_event_feed_key_up(canvas, key.c_str(), key.c_str(), "", "", 0, nullptr);
+}
+
+void ShownTest::Keys(const Texts& keys)
+{
+    std::for_each(keys.begin(), keys.end(), [this](const std::string& key) { Key(key); });
 }

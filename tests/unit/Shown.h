@@ -23,7 +23,8 @@ struct ShownTest : TvTest
     /** Collects the frames from now on until nothing moves any more. */
     void Watch();
 
-    void Key(const char* key);
+    void Key(const std::string& key);
+    void Keys(const Texts& keys);
 
     static constexpr int WIDTH = 960;
     static constexpr int HEIGHT = 540;
