@@ -133,6 +133,8 @@ TEST_F(ProgressPopupTest, ShowsAPercentageThatIsUpdatedInPlace)
     EXPECT_TRUE(evas_object_visible_get(popup.t_buttons[0]));
     EXPECT_EQ(TextOf(popup.t_buttons[0]), "Stop");
     EXPECT_EQ(LabelTexts(popup.t_popup).size(), 1U); // no bottom line
+    Press(popup.t_popup, "XF86Back");
+    EXPECT_THAT(answers, IsEmpty());
 }
 
 using LoadingPopupTest = ScreenTest;
@@ -176,6 +178,7 @@ TEST_F(ImagePopupTest, TheRequestSizesTheImageAlsoWhenItDoesNotLoad)
         EXPECT_EQ(width, pixels);
         EXPECT_EQ(height, pixels + 1);
         EXPECT_THAT(tv.Did("say"), ElementsAre("say T, S, , B, "));
+        EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Loading the image file has failed :/no/such.png"));
         Press(popup.t_popup, "XF86Back");
     }
     EXPECT_EQ(answers, Texts(3, "back"));

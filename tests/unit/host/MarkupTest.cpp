@@ -39,6 +39,7 @@ TEST(Markup, PutsNoMarkOnABlankAtWhichALineMayEnd)
 {
     EXPECT_EQ(LaidOut("a \u0301b"), "a\u00A0\u0301b");
     EXPECT_EQ(LaidOut("a\u3000\u200Db"), "a\u00A0\u200Db");
+    EXPECT_EQ(LaidOut("\u0663 \u20DD \u2003\u1680"), "\u0663\u00A0\u20DD \u2003\u1680");
     EXPECT_EQ(LaidOut("e\u0301 b"), "e\u0301 b") << "a mark on a letter, before a blank";
 }
 
