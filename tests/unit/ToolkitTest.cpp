@@ -287,6 +287,16 @@ TEST_F(ToolkitTest, AHiddenButtonStaysHiddenAndNoKeyLeadsThere)
     EXPECT_EQ(elm_object_focused_object_get(tv.window), Find("elm_button", 1));
 }
 
+TEST_F(ToolkitTest, NoButtonHasTheFocusWhileTheFirstOneIsHidden)
+{
+    manager->ShowMessage(1, 255, "T", "", "", "Text", {"", "No", "Later"}, false);
+    Picture();
+    Keys({"Return"});
+    EXPECT_THAT(tv.Did("answer"), ElementsAre());
+    Keys({"Right", "Return"});
+    EXPECT_THAT(tv.Did("answer"), ElementsAre("answer 1 255 0 2 0 \"\""));
+}
+
 TEST_F(ToolkitTest, UpFromTheFirstRowStaysThere)
 {
     manager->ShowList(7, 255, "T", "", "", {"a", "b"}, "L", false, {"OK"}, true);
