@@ -20,7 +20,11 @@ namespace veskar
 namespace
 {
 
+// What requests for a screen have, whoever handles them.
 constexpr const char* UI_ID_KEY = "ui_param_ui_id";
+constexpr const char* SOURCE_ID_KEY = "ui_param_source_id";
+constexpr const char* KIND_KEY = "signal_tvservice_key";
+constexpr const char* TITLE_KEY = "ui_param_title";
 
 /** True for an id whose name for a leaving process is not too long either. */
 bool CanRunAs(const std::string& id)
@@ -28,12 +32,19 @@ bool CanRunAs(const std::string& id)
     return IsApplicationId(id.c_str()) && IsApplicationId(Applications::LeavingNameOf(id).c_str());
 }
 
-/** 0 in a request for no screen. */
-int UiIdOf(const app_control_s& request)
+/** Empty in a request without this text. */
+std::string TextOf(const app_control_s& request, const char* key)
 {
-    const auto found = request.data.find(UI_ID_KEY);
+    const auto found = request.data.find(key);
     const auto* text = found == request.data.end() ? nullptr : std::get_if<std::string>(&found->second);
-    return text == nullptr ? 0 : std::atoi(text->c_str());
+    return text == nullptr ? "" : *text;
+}
+
+/** Numbers are read as the application reads them. */
+OwnScreen::Request ScreenOf(const app_control_s& request)
+{
+    return {std::atoi(TextOf(request, UI_ID_KEY).c_str()), std::atoi(TextOf(request, SOURCE_ID_KEY).c_str()),
+            TextOf(request, KIND_KEY), TextOf(request, TITLE_KEY)};
 }
 
 } // namespace
@@ -78,9 +89,11 @@ int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& c
     // Before the name is requested: a process that the bus started gets its first request before that answer.
     m_object = std::make_unique<ApplicationObject>(
         m_connection.get(), m_id, [this](LifecycleEvent event) { m_queue->AddCall(std::move(event)); });
+    m_screen = std::make_unique<ScreenObject>(m_connection.get(), m_id);
 
     const int result = m_RunOwner(argc, argv);
 
+    m_screen.reset();
     m_object.reset();
     m_queue.reset();
     m_freed.reset();
@@ -178,7 +191,7 @@ void Application::m_Tell(const LifecycleEvent& event)
     case LifecycleKind::Request:
         if (m_callbacks.app_control != nullptr)
         {
-            OwnScreen::Instance().NoteRequest(UiIdOf(*event.request));
+            OwnScreen::Instance().NoteRequest(ScreenOf(*event.request));
             m_callbacks.app_control(event.request.get(), m_userData);
         }
         break;

@@ -17,6 +17,7 @@
 #include "OutgoingCalls.h"
 #include "OwnName.h"
 #include "PadSetting.h"
+#include "ScreenObject.h"
 
 /** The objects behind the platform's handles. */
 struct app_event_handler
@@ -84,6 +85,7 @@ private:
     std::unique_ptr<FreedMemory> m_freed;
     std::unique_ptr<LifecycleQueue> m_queue;
     std::unique_ptr<ApplicationObject> m_object;
+    std::unique_ptr<ScreenObject> m_screen;
 };
 
 } // namespace veskar

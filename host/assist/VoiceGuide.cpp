@@ -3,6 +3,7 @@
 #include "CString.h"
 #include "Log.h"
 #include "Mode.h"
+#include "OwnScreen.h"
 #include "SettingKeys.h"
 #include "Speech.h"
 #include "SpokenText.h"
@@ -64,6 +65,7 @@ void VoiceGuide::SpeakScreen(const char* text)
 {
     m_spoken = {};
     m_viewerMoved = false;
+    OwnScreen::Instance().NoteText(SpokenText(text));
     Speak(text, Turn::AtOnce);
 }
 

@@ -31,6 +31,13 @@ inline constexpr const char* TERMINATE = "Terminate";
 /** The error for each call that reached a process that cannot run here. The text says why. */
 inline constexpr const char* CANNOT_RUN_ERROR = "org.tizen.Application1.Error.CannotRun";
 
+/** What an application tells of the screen that the viewer sees; see host/appfw/ScreenObject.h. */
+inline constexpr const char* SCREEN_INTERFACE = "org.tizen.Screen1";
+inline constexpr const char* SHOWN = "Shown";
+inline constexpr const char* CLOSED = "Closed";
+inline constexpr const char* TEXT = "Text";
+inline constexpr const char* UI_ID = "UiId";
+
 /** Owned by a process of that id on its way out: under it, the next process asks for the calls that this one holds. */
 inline std::string LeavingNameOf(const std::string& id)
 {

@@ -1,5 +1,7 @@
 #include "OwnScreen.h"
 
+#include <utility>
+
 namespace veskar
 {
 
@@ -14,11 +16,21 @@ KeyGuard::Time OwnScreen::Now()
     return std::chrono::duration_cast<KeyGuard::Time>(std::chrono::steady_clock::now().time_since_epoch());
 }
 
+void OwnScreen::NoteRequest(Request request)
+{
+    m_requested = std::move(request);
+    if (m_requested.uiId == m_current.uiId && m_requested.sourceId == m_current.sourceId)
+    {
+        m_current = m_requested;
+    }
+}
+
 void OwnScreen::Comes()
 {
     ++m_screen;
     m_keys.ScreenComes();
-    m_Set(false, m_requested);
+    m_Set(false);
+    m_current = m_requested;
 }
 
 void OwnScreen::IsDrawn()
@@ -36,7 +48,7 @@ void OwnScreen::m_Reached(int screen)
     if (screen == m_screen)
     {
         m_keys.ScreenIsDrawn(Now());
-        m_Set(true, m_uiId);
+        m_Set(true);
     }
 }
 
@@ -44,22 +56,36 @@ void OwnScreen::Goes()
 {
     ++m_screen;
     m_keys.ScreenGoes();
-    m_Set(false, 0);
+    m_Set(false);
+    m_current = {};
+}
+
+std::set<std::string> OwnScreen::HeldKeys() const
+{
+    return m_display != nullptr ? m_display->HeldKeys() : std::set<std::string>();
 }
 
 void OwnScreen::SetDisplay(Display* display)
 {
     m_display = display;
-    m_Set(m_shown, m_uiId);
+    m_TellDisplay();
 }
 
-void OwnScreen::m_Set(bool shown, int uiId)
+void OwnScreen::m_Set(bool shown)
 {
-    m_shown = shown;
-    m_uiId = uiId;
+    const bool changed = std::exchange(m_shown, shown) != shown;
+    m_TellDisplay();
+    if (changed && m_audience != nullptr)
+    {
+        shown ? m_audience->Shown(m_current) : m_audience->Closed(m_current);
+    }
+}
+
+void OwnScreen::m_TellDisplay()
+{
     if (m_display != nullptr)
     {
-        m_display->Changed(shown, uiId);
+        m_display->Changed(m_shown, m_shown ? m_current.uiId : 0);
     }
 }
 

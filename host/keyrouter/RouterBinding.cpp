@@ -85,6 +85,16 @@ void RouterBinding::Changed(bool shown, int uiId)
     }
 }
 
+std::set<std::string> RouterBinding::HeldKeys() const
+{
+    std::set<std::string> names;
+    for (const auto& [surface, name, mode] : m_held)
+    {
+        names.insert(name);
+    }
+    return names;
+}
+
 bool RouterBinding::Grab(wl_surface* surface, const _KeyList& list)
 {
     m_refused = false;

@@ -55,6 +55,7 @@ private:
 
     void Changed(bool shown, int uiId) override;
     void AwaitFrame(std::function<void()> reached) override;
+    std::set<std::string> HeldKeys() const override;
     void m_Tell(uint32_t code, bool taken);
     void m_AwaitNothing();
     bool m_Holds(const Holding& holding) const { return m_held.count(holding) > 0; }

@@ -190,3 +190,54 @@ TEST_F(Surroundings, AnyPictureCanBeTheProgrammeBehind)
     RunCommand({"veskar-remote", "backdrop", file});
     EXPECT_EQ(Shot(), evening);
 }
+
+TEST_F(Surroundings, WhoWatchesTheBusHearsOfEachScreen)
+{
+    Words heard;
+    const auto note = [&heard](sdbus::Message& signal)
+    {
+        int uiId = 0;
+        std::uint8_t sourceId = 0;
+        std::string kind;
+        std::string title;
+        signal >> uiId >> sourceId;
+        const bool isShown = signal.getMemberName() == veskar::Applications::SHOWN;
+        if (isShown)
+        {
+            signal >> kind >> title;
+        }
+        heard.push_back((isShown ? "shown " : "closed ") + std::to_string(uiId) + " " + std::to_string(sourceId) + " " +
+                        kind + " " + title);
+    };
+    const auto match =
+        m_bus->addMatch(std::string("type='signal',interface='") + veskar::Applications::SCREEN_INTERFACE + "'", note);
+
+    Process message = Send({"message", "--ui-id", "7", "--title", "A & B"});
+    RunCommand({"veskar-remote", "wait", "--text", "A & B", "--ui-id", "7"});
+    Process noSuchText({"veskar-remote", "wait", "--text", "^B", "--timeout", "0.1"});
+    EXPECT_EQ(noSuchText.Status(), 2);
+
+    Process pin = Send({"pin", "--ui-id", "8", "--source-id", "5", "--title", "PIN"});
+    RunCommand({"veskar-remote", "wait", "--text", "PIN", "--ui-id", "8"});
+    Press({"9", "8", "7"});
+    const auto application =
+        sdbus::createProxy(*m_bus, veskar::Applications::DIALOGUES, veskar::PathOf(veskar::Applications::DIALOGUES));
+    const auto property = [&](const std::string& name)
+    {
+        return application->getProperty(name).onInterface(veskar::Applications::SCREEN_INTERFACE);
+    };
+    EXPECT_EQ(property(veskar::Applications::TEXT).get<std::string>().find_first_of("987"), std::string::npos);
+    EXPECT_THAT(property("HeldKeys").get<Words>(), testing::Contains("XF86Exit"));
+    Press({"6"});
+
+    const Words expected{"shown 7 255 ui_type_message A & B", "closed 7 255  ", "shown 8 5 ui_type_pin_entry PIN",
+                         "closed 8 5  "};
+    const auto allHeard = [&]
+    {
+        while (m_bus->processPendingRequest())
+        {
+        }
+        return heard == expected;
+    };
+    EXPECT_TRUE(WaitUntil(allHeard)) << testing::PrintToString(heard);
+}

@@ -1,5 +1,6 @@
 #include "Waits.h"
 
+#include "ScreenText.h"
 #include "TemporaryFolder.h"
 
 #include <algorithm>
@@ -71,6 +72,25 @@ void Waits::Press(const std::string& key)
 void Waits::Shown(std::optional<int> uiId)
 {
     m_Until("no " + Named(uiId), [&] { return m_IsShown(uiId); });
+}
+
+void Waits::Text(const std::regex& pattern, std::optional<int> uiId)
+{
+    ScreenText screen;
+    std::optional<std::string> text;
+    const auto says = [&]
+    {
+        text = screen.Now();
+        return text && std::regex_search(*text, pattern) && m_IsShown(uiId);
+    };
+    try
+    {
+        m_Until("no " + Named(uiId) + " that says this", says);
+    }
+    catch (const InVain& trouble)
+    {
+        throw InVain(trouble.what() + (text ? "; what was said last is \"" + *text + "\"" : std::string()));
+    }
 }
 
 void Waits::Gone(std::optional<int> uiId)

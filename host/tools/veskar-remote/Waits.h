@@ -5,6 +5,7 @@
 
 #include <chrono>
 #include <optional>
+#include <regex>
 #include <stdexcept>
 #include <string>
 
@@ -29,6 +30,12 @@ public:
 
     /** Until a screen has been drawn; with an id, that one. */
     void Shown(std::optional<int> uiId);
+
+    /**
+     * Until a screen, with an id that one, has been drawn and `pattern` is found in what the voice guide was handed
+     * for it. Throws NoBus beside the others.
+     */
+    void Text(const std::regex& pattern, std::optional<int> uiId);
 
     /** Until there is no screen; with an id, not that one. */
     void Gone(std::optional<int> uiId);

@@ -2,10 +2,11 @@
  * The remote control of a desk TV, from a command line.
  *
  * Exit status: 0 done, 1 the compositor refused (an unknown key, a file that cannot be written), 2 nobody took the key,
- * or what was waited for did not come in time, 64 bad usage, 69 no compositor.
+ * or what was waited for did not come in time, 64 bad usage, 69 no compositor or no bus.
  */
 #include "RemoteClient.h"
 #include "RemoteSocketPath.h"
+#include "ScreenText.h"
 #include "Waits.h"
 
 #include <CLI/CLI.hpp>
@@ -13,6 +14,7 @@
 #include <filesystem>
 #include <iostream>
 #include <optional>
+#include <regex>
 #include <thread>
 
 namespace
@@ -68,10 +70,23 @@ struct Wanted
     bool shown = false;
     bool gone = false;
     bool still = false;
+    std::optional<std::regex> text;
     std::optional<int> uiId;
     double timeout = 10;
     std::string file;
 };
+
+std::regex Pattern(const std::string& text)
+{
+    try
+    {
+        return std::regex(text);
+    }
+    catch (const std::regex_error& error)
+    {
+        throw CLI::ValidationError("--text", "\"" + text + "\": " + error.what());
+    }
+}
 
 void AddTimeout(CLI::App& command, Wanted& wanted)
 {
@@ -84,16 +99,21 @@ void AddWait(CLI::App& app, Wanted& wanted)
 {
     CLI::App* wait = app.add_subcommand("wait", "Wait for what is on the screen");
     CLI::Option* shown = wait->add_flag("--shown", wanted.shown, "Until a screen has been drawn");
-    CLI::Option* gone = wait->add_flag("--gone", wanted.gone, "Until there is none")->excludes(shown);
+    CLI::Option* text = wait->add_option_function<std::string>(
+                                "--text", [&wanted](const std::string& pattern) { wanted.text = Pattern(pattern); },
+                                "Until a screen has been drawn for which the voice guide was handed a text with this "
+                                "regular expression in it")
+                            ->excludes(shown);
+    CLI::Option* gone = wait->add_flag("--gone", wanted.gone, "Until there is none")->excludes(shown)->excludes(text);
     wait->add_flag("--still", wanted.still, "Until nothing moves any more; after the one above if both are given");
     wait->add_option("--ui-id", wanted.uiId, "Only the screen with this id counts");
     AddTimeout(*wait, wanted);
     wait->callback(
-        [shown, gone, &wanted]
+        [shown, text, gone, &wanted]
         {
-            if (shown->empty() && gone->empty() && !wanted.still)
+            if (shown->empty() && text->empty() && gone->empty() && !wanted.still)
             {
-                throw CLI::ValidationError("wait", "--shown, --gone or --still is needed");
+                throw CLI::ValidationError("wait", "--shown, --text, --gone or --still is needed");
             }
         });
 }
@@ -134,6 +154,10 @@ void Wait(const Wanted& wanted, veskar::RemoteClient& remote)
     if (wanted.shown)
     {
         waits.Shown(wanted.uiId);
+    }
+    if (wanted.text)
+    {
+        waits.Text(*wanted.text, wanted.uiId);
     }
     if (wanted.gone)
     {
@@ -214,6 +238,11 @@ int main(int argc, char* argv[])
         return IN_VAIN;
     }
     catch (const veskar::RemoteUnreachable& trouble)
+    {
+        std::cerr << "veskar-remote: " << trouble.what() << "\n";
+        return NO_COMPOSITOR;
+    }
+    catch (const veskar::NoBus& trouble)
     {
         std::cerr << "veskar-remote: " << trouble.what() << "\n";
         return NO_COMPOSITOR;
