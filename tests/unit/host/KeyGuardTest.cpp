@@ -1,13 +1,10 @@
 /** Which keys the desk holds back, and for how long. */
 #include "keyguard/KeyGuard.h"
-#include "compositor/keys/LateDigits.h"
 
 #include <gtest/gtest.h>
 
 using namespace std::chrono_literals;
-using veskar::KeyByName;
 using veskar::KeyGuard;
-using veskar::LateDigits;
 
 namespace
 {
@@ -106,17 +103,4 @@ TEST_F(KeyGuardTest, RepeatsNoKeyWhosePressItHeldBack)
     EXPECT_FALSE(Repeat("Return", 2000ms));
     EXPECT_FALSE(m_guard.LetsRelease(CODE));
     EXPECT_TRUE(Press("Return", 3000ms));
-}
-
-TEST(LateDigitsTest, AreHeldForHalfASecondAndOtherKeysNever)
-{
-    const veskar::Key& five = *KeyByName("5");
-    LateDigits late;
-    EXPECT_FALSE(late.Holds(five, 0ms));
-    late.Released(five, 1000ms);
-    EXPECT_TRUE(late.Holds(five, 1499ms));
-    EXPECT_FALSE(late.Holds(five, 1500ms));
-    EXPECT_FALSE(late.Holds(*KeyByName("6"), 1000ms));
-    late.Released(*KeyByName("XF86Exit"), 1000ms);
-    EXPECT_FALSE(late.Holds(*KeyByName("XF86Exit"), 1000ms));
 }
