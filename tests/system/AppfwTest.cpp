@@ -55,12 +55,6 @@ protected:
     }
 };
 
-TEST_F(Appfw, TheRequestThatStartsTheProcessComesBetweenCreateAndResume)
-{
-    EXPECT_EQ(SendRaw(Request("first")), "");
-    ExpectTold({"create", "request first", "resume"});
-}
-
 TEST_F(Appfw, EachHideAndShowIsToldBeforeTheNextRequestAndAWindowThatComesBackAtOnceStays)
 {
     SendRaw(Request("start"));
@@ -85,15 +79,6 @@ TEST_F(Appfw, TheTvPausesResumesAndEndsItAndNothingIsToldAfterTerminate)
     Call("Terminate");
     EXPECT_TRUE(WaitForApplicationEnd());
     ExpectTold({"create", "request start", "resume", "pause", "resume", "terminate"});
-}
-
-TEST_F(Appfw, ASignalEndsItThroughTerminate)
-{
-    SendRaw(Request("start"));
-    ExpectTold({"create", "request start", "resume"});
-    kill(static_cast<pid_t>(ApplicationPid()), SIGTERM);
-    EXPECT_TRUE(WaitForApplicationEnd());
-    ExpectTold({"create", "request start", "resume", "terminate"});
 }
 
 TEST_F(Appfw, WhatIsNoStringOrTooLargeIsRefusedByItsKeyAndNeverSeen)

@@ -55,7 +55,7 @@ Process::Process(const Words& command) : m_pid(-1), m_output(memfd_create("outpu
     arguments.push_back(nullptr);
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_adddup2(&actions, m_output, STDOUT_FILENO);
+    posix_spawn_file_actions_adddup2(&actions, m_output.Get(), STDOUT_FILENO);
     const int error = posix_spawnp(&m_pid, arguments[0], &actions, nullptr, arguments.data(), environ);
     posix_spawn_file_actions_destroy(&actions);
     if (error != 0)
@@ -65,7 +65,7 @@ Process::Process(const Words& command) : m_pid(-1), m_output(memfd_create("outpu
 }
 
 Process::Process(Process&& other) noexcept
-    : m_pid(std::exchange(other.m_pid, -1)), m_output(std::exchange(other.m_output, -1)), m_status(other.m_status)
+    : m_pid(std::exchange(other.m_pid, -1)), m_output(std::move(other.m_output)), m_status(other.m_status)
 {
 }
 
@@ -75,10 +75,6 @@ Process::~Process()
     {
         kill(m_pid, SIGKILL);
         waitpid(m_pid, nullptr, 0);
-    }
-    if (m_output >= 0)
-    {
-        close(m_output);
     }
 }
 
@@ -99,8 +95,8 @@ int Process::Status(std::chrono::milliseconds limit)
 
 std::string Process::Output() const
 {
-    std::string text(static_cast<std::size_t>(lseek(m_output, 0, SEEK_END)), '\0');
-    const ssize_t size = pread(m_output, text.data(), text.size(), 0);
+    std::string text(static_cast<std::size_t>(lseek(m_output.Get(), 0, SEEK_END)), '\0');
+    const ssize_t size = pread(m_output.Get(), text.data(), text.size(), 0);
     text.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
     return text;
 }

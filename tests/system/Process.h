@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FileDescriptor.h"
+
 #include <chrono>
 #include <functional>
 #include <string>
@@ -46,7 +48,7 @@ public:
 
 private:
     pid_t m_pid;
-    int m_output;
+    veskar::FileDescriptor m_output;
     int m_status = -1;
 };
 

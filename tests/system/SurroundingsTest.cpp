@@ -147,18 +147,6 @@ TEST_F(Surroundings, ATvIsPutWhereThereIsRoomAndAScreenThatWouldNotFitIsRefused)
     EXPECT_EQ(application.Status(), 0);
 }
 
-TEST_F(Surroundings, ACompositorWithoutAKeyRouterIsToldOnceAndFailedGrabsFillNoLog)
-{
-    Process grabbing = SendMessage(7, 255);
-    EXPECT_EQ(CountInLog("no key router"), 0);
-
-    const std::string log = Environment("XDG_RUNTIME_DIR") + "/no-router.log";
-    RunCommand({"veskar-tv", "--no-keyrouter", "--log", log, "--", "sh", "-c",
-                "for screen in message list pin; do veskar-mw --no-wait $screen || exit; done"});
-    EXPECT_EQ(RunCommand({"grep", "-c", "no key router", log}), "1\n");
-    EXPECT_LT(std::stoi(RunCommand({"grep", "-c", "VESKAR-APP W", log})), 60);
-}
-
 TEST_F(Surroundings, ACommandInATvFindsABusThatWasSlowToListen)
 {
     const std::string folder = Environment("XDG_RUNTIME_DIR");

@@ -21,6 +21,20 @@ std::string ReadFile(const std::string& path, std::streamoff from = 0)
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
+/** The error that a call on the bus ends with, or nothing. */
+std::string ErrorOf(const std::function<void()>& call)
+{
+    try
+    {
+        call();
+        return "";
+    }
+    catch (const sdbus::Error& error)
+    {
+        return error.getName() + ": " + error.getMessage();
+    }
+}
+
 } // namespace
 
 TvTest::TvTest() : m_bus(sdbus::createSessionBusConnection()), m_logFile(Environment("VESKAR_TV_LOG")) {}
@@ -81,7 +95,7 @@ Picture TvTest::Shot()
 {
     const std::string path = Environment("XDG_RUNTIME_DIR") + "/shot.png";
     RunCommand({"veskar-remote", "shot", path});
-    return {ReadFile(path)};
+    return std::hash<std::string>()(ReadFile(path));
 }
 
 Picture TvTest::StillShot()
@@ -100,17 +114,15 @@ unsigned TvTest::ApplicationPid(const std::string& application)
 {
     auto bus = sdbus::createProxy(*m_bus, "org.freedesktop.DBus", "/org/freedesktop/DBus");
     unsigned pid = 0;
-    try
-    {
-        bus->callMethod("GetConnectionUnixProcessID")
-            .onInterface("org.freedesktop.DBus")
-            .withArguments(application)
-            .storeResultsTo(pid);
-    }
-    catch (const sdbus::Error&)
-    {
-        // The name has no owner.
-    }
+    // An error says that the name has no owner.
+    ErrorOf(
+        [&]
+        {
+            bus->callMethod("GetConnectionUnixProcessID")
+                .onInterface("org.freedesktop.DBus")
+                .withArguments(application)
+                .storeResultsTo(pid);
+        });
     return pid;
 }
 
@@ -120,14 +132,7 @@ void TvTest::EndApplication()
     {
         return;
     }
-    try
-    {
-        Call("Terminate");
-    }
-    catch (const sdbus::Error&)
-    {
-        // It has ended in the meantime.
-    }
+    ErrorOf([this] { Call("Terminate"); }); // it may have ended in the meantime
     ASSERT_TRUE(WaitForApplicationEnd());
 }
 
@@ -165,16 +170,8 @@ int TvTest::CountInLog(const std::string& text) const
 
 std::string TvTest::SendRaw(const std::map<std::string, sdbus::Variant>& values, const std::string& application)
 {
-    try
-    {
-        auto target = sdbus::createProxy(*m_bus, application, veskar::PathOf(application));
-        target->callMethod("AppControl").onInterface(INTERFACE).withArguments(values);
-        return "";
-    }
-    catch (const sdbus::Error& error)
-    {
-        return error.getName() + ": " + error.getMessage();
-    }
+    auto target = sdbus::createProxy(*m_bus, application, veskar::PathOf(application));
+    return ErrorOf([&] { target->callMethod("AppControl").onInterface(INTERFACE).withArguments(values); });
 }
 
 std::string Answer(int uiId, int sourceId, int kind, int button, int item, const std::string& data)

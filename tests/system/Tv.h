@@ -11,20 +11,8 @@
 #include <gmock/gmock.h>
 #include <sdbus-c++/sdbus-c++.h>
 
-/** Images of the screen are compared byte by byte: the compositor's pictures are exact. */
-struct Picture
-{
-    std::string png;
-
-    bool operator==(const Picture& other) const { return png == other.png; }
-    bool operator!=(const Picture& other) const { return png != other.png; }
-};
-
-/** All that a failed comparison prints of a picture. */
-inline std::ostream& operator<<(std::ostream& stream, const Picture& picture)
-{
-    return stream << "a picture of " << picture.png.size() << " bytes";
-}
+/** The screen's pixels as a number: the compositor's pictures are exact, and a test only asks whether two are alike. */
+using Picture = std::size_t;
 
 /**
  * The started TV in which these tests run, used as a person would: requests through the middleware's tool, keys and

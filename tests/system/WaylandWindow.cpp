@@ -1,5 +1,7 @@
 #include "WaylandWindow.h"
 
+#include "FileDescriptor.h"
+#include "FreeWith.h"
 #include "KeyTable.h"
 #include "RouterBinding.h"
 #include "xdg-shell-client-protocol.h"
@@ -22,19 +24,8 @@ constexpr uint32_t HALF_TRANSPARENT = 0x80404080;
 
 } // namespace
 
-/** Destroys a proxy, or disconnects. */
-template <auto Destroy>
-struct Destroyer
-{
-    template <typename T>
-    void operator()(T* object) const
-    {
-        Destroy(object);
-    }
-};
-
 template <typename T, auto Destroy>
-using Owned = std::unique_ptr<T, Destroyer<Destroy>>;
+using Owned = std::unique_ptr<T, veskar::FreeWith<Destroy>>;
 
 struct WaylandGlobals
 {
@@ -103,16 +94,13 @@ wl_buffer* MakeBuffer(wl_shm* shm)
 {
     const std::vector<uint32_t> pixels(size_t{WIDTH} * HEIGHT, HALF_TRANSPARENT);
     const auto size = static_cast<int>(pixels.size() * sizeof(uint32_t));
-    const int fd = memfd_create("window", MFD_CLOEXEC);
-    if (fd < 0 || write(fd, pixels.data(), static_cast<size_t>(size)) != size)
+    const veskar::FileDescriptor file(memfd_create("window", MFD_CLOEXEC));
+    if (!file || write(file.Get(), pixels.data(), static_cast<size_t>(size)) != size)
     {
         throw std::runtime_error("no memory for a window");
     }
-    wl_shm_pool* pool = wl_shm_create_pool(shm, fd, size);
-    wl_buffer* buffer = wl_shm_pool_create_buffer(pool, 0, WIDTH, HEIGHT, WIDTH * 4, WL_SHM_FORMAT_ARGB8888);
-    wl_shm_pool_destroy(pool);
-    close(fd);
-    return buffer;
+    const Owned<wl_shm_pool, wl_shm_pool_destroy> pool(wl_shm_create_pool(shm, file.Get(), size));
+    return wl_shm_pool_create_buffer(pool.get(), 0, WIDTH, HEIGHT, WIDTH * 4, WL_SHM_FORMAT_ARGB8888);
 }
 
 _KeyList ListOf(const char* key, int mode)
@@ -189,6 +177,12 @@ void WaylandWindow::Show()
 bool WaylandWindow::Grab(const char* key, int mode)
 {
     return m_router->Grab(m_globals->surface.get(), ListOf(key, mode));
+}
+
+bool WaylandWindow::GrabAgain(const char* key, int mode)
+{
+    veskar::RouterBinding another(m_globals->display.get(), m_globals->registry.get(), m_globals->routerName);
+    return another.Grab(m_globals->surface.get(), ListOf(key, mode));
 }
 
 bool WaylandWindow::Ungrab(const char* key, int mode)
