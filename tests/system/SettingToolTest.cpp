@@ -34,14 +34,19 @@ TEST(Settings, WhatTheToolSetsIsReadByThePlatform)
     const std::unique_ptr<char, void (*)(void*)> language(vconf_get_str("db/menu_widget/language"), free);
     EXPECT_STREQ(language.get(), "el");
     EXPECT_EQ(RunCommand({"veskar-setting", "get", FLAG}), "1\n");
+    RunCommand({"veskar-setting", "set", FLAG, "off"});
+    EXPECT_EQ(RunCommand({"veskar-setting", "get", FLAG}), "0\n");
 }
 
 TEST(Settings, TheToolRefusesWhatNothingReadsAndValuesOfAnotherType)
 {
     EXPECT_EQ(Process({"veskar-setting", "set", "db/nobody", "1"}).Status(), 64);
     EXPECT_EQ(Process({"veskar-setting", "set", "db/nobody", "1", "--force"}).Status(), 0);
-    EXPECT_EQ(Process({"veskar-setting", "set", NUMBER, "large"}).Status(), 64);
-    EXPECT_EQ(Process({"veskar-setting", "set", FLAG, "2"}).Status(), 64);
+    for (const auto& [key, value] : {std::pair(NUMBER, "large"), std::pair(NUMBER, "+5"), std::pair(FLAG, "2"),
+                                     std::pair("db/menu_widget/language", "a\nb")})
+    {
+        EXPECT_EQ(Process({"veskar-setting", "set", key, value}).Status(), 64) << value;
+    }
     EXPECT_EQ(Process({"veskar-setting", "get", "memory/nobody", "--force"}).Status(), 1);
     for (const char* key : {NUMBER, FLAG, "db/menu_widget/language", "memory/ephotel/hotelmenu/hotelfactorymode"})
     {

@@ -185,27 +185,23 @@ TEST_F(BaseDisplayTest, UpToThreeButtonsReportTheirNumberFromOne)
     EXPECT_THAT(answers, IsEmpty());
 }
 
-TEST_F(BaseDisplayTest, AnEmptyLabelHidesItsButtonUntilItHasALabelAgain)
+TEST_F(BaseDisplayTest, AnEmptyLabelHidesItsButtonAndOnlyTheFirstLabelIsGivenTheFocus)
 {
     Show({"", "No"});
     EXPECT_FALSE(evas_object_visible_get(display->t_buttons[0]));
     EXPECT_TRUE(evas_object_visible_get(display->t_buttons[1]));
+    display->t_UpdateButtonLabels({"", "No"});
+    EXPECT_THAT(display->t_buttons, testing::Not(testing::Contains(Focused(window))));
     display->t_UpdateButtonLabels({"Yes", ""});
     EXPECT_TRUE(evas_object_visible_get(display->t_buttons[0]));
     EXPECT_FALSE(evas_object_visible_get(display->t_buttons[1]));
-}
-
-TEST_F(BaseDisplayTest, OnlyTheFirstLabelIsGivenTheFocusAndMoreThanThreeShowNone)
-{
-    Show({"", "No"});
-    display->t_UpdateButtonLabels({"", "No"});
-    EXPECT_THAT(Focused(window),
-                testing::AllOf(testing::Ne(display->t_buttons[0]), testing::Ne(display->t_buttons[1])));
-    display->t_UpdateButtonLabels({"Yes", "No"});
     EXPECT_EQ(Focused(window), display->t_buttons[0]);
     display->t_UpdateButtonLabels({"Other"});
     EXPECT_EQ(TextOf(display->t_buttons[0]), "Yes");
+}
 
+TEST_F(BaseDisplayTest, OfMoreThanThreeLabelsNoneIsShown)
+{
     Show({"1", "2", "3", "4"});
     EXPECT_EQ(elm_object_part_content_get(display->t_popup, "button3"), display->t_buttons[2]);
     EXPECT_EQ(TextOf(display->t_buttons[0]), "");
@@ -248,8 +244,8 @@ TEST_F(BaseDisplayTest, TheNumberPadIsAskedForWhereItExistsAndIsNotAlreadyAsWant
     for (const int value : {0, 2})
     {
         tv.numbers[SHOWN] = value;
-        EXPECT_THAT(ask("show"), ElementsAre("launch org.tizen.function-osd type=number_zip cmd=show tts=skip"));
-        EXPECT_THAT(ask("numbers"), ElementsAre("launch org.tizen.function-osd type=number cmd=show tts=skip"));
+        EXPECT_THAT(ask("show"), ElementsAre("launch org.tizen.function-osd cmd=show tts=skip type=number_zip"));
+        EXPECT_THAT(ask("numbers"), ElementsAre("launch org.tizen.function-osd cmd=show tts=skip type=number"));
         EXPECT_THAT(ask("hide"), IsEmpty());
     }
     tv.numbers[SHOWN] = 1;

@@ -67,7 +67,7 @@ TEST_F(PinEntryTest, MoreOpensTheNumberPadWhichGoesWithTheScreen)
     tv.numbers["memory/function-osd/number_pad_show"] = 0;
     Show();
     Type({"1", "2", "XF86More"});
-    EXPECT_THAT(tv.Did("launch"), ElementsAre("launch org.tizen.function-osd type=number_zip cmd=show tts=skip"));
+    EXPECT_THAT(tv.Did("launch"), ElementsAre("launch org.tizen.function-osd cmd=show tts=skip type=number_zip"));
     tv.numbers["memory/function-osd/number_pad_show"] = 1;
     Evas_Object* field = Field();
     EXPECT_TRUE(entry->Hide());

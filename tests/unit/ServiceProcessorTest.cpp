@@ -36,7 +36,7 @@ struct ServiceProcessorTest : TvTest
     StrictMock<WindowManagerMock> screens;
     VESKAR_APP::ServiceProcessor processor{screens};
 
-    using Values = std::vector<std::pair<std::string, Value>>;
+    using Values = std::map<std::string, app_control_s::Value>;
 
     bool Handle(const Values& values)
     {
@@ -46,10 +46,10 @@ struct ServiceProcessorTest : TvTest
     }
     void Ask(const char* uiType, Values displayKeys, const char* uiId = "7", const char* sourceId = "254")
     {
-        displayKeys.insert(displayKeys.end(), {{"signal_type_key", "signal_tvservice"},
-                                               {"signal_tvservice_key", uiType},
-                                               {"ui_param_ui_id", uiId},
-                                               {"ui_param_source_id", sourceId}});
+        displayKeys.insert({{"signal_type_key", "signal_tvservice"},
+                            {"signal_tvservice_key", uiType},
+                            {"ui_param_ui_id", uiId},
+                            {"ui_param_source_id", sourceId}});
         EXPECT_TRUE(Handle(displayKeys));
     }
     const Values everyKey{{"ui_param_title", "T"},
@@ -123,14 +123,15 @@ TEST_F(ServiceProcessorTest, AMissingKeyLeavesItsDefaultAndAnErrorLine)
 TEST_F(ServiceProcessorTest, AScreenNeedsItsRoutingKeysAndAnUnknownKindIsNoError)
 {
     Values values{{"signal_type_key", "signal_tvservice"}};
-    const Values routingKeys{{"signal_tvservice_key", "ui_type_Message"}, {"ui_param_ui_id", "7"}};
-    const char* missing[] = {"SIGNAL_TVSERVICE_KEY missing", "UI_PARAM_UI_ID missing", "UI_PARAM_SOURCE_ID missing"};
-    for (std::size_t known = 0; known < std::size(missing); ++known)
+    const std::pair<const char*, const char*> missing[] = {{"SIGNAL_TVSERVICE_KEY missing", "signal_tvservice_key"},
+                                                           {"UI_PARAM_UI_ID missing", "ui_param_ui_id"},
+                                                           {"UI_PARAM_SOURCE_ID missing", "ui_param_source_id"}};
+    for (const auto& [line, key] : missing)
     {
         EXPECT_TRUE(Handle(values));
-        EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("app_control_get_extra_data returned error -126", missing[known]));
+        EXPECT_THAT(tv.Log(DLOG_ERROR), ElementsAre("app_control_get_extra_data returned error -126", line));
         EXPECT_THAT(tv.Log(DLOG_INFO), IsEmpty()); // not "complete" either
-        values.push_back(routingKeys[known % routingKeys.size()]);
+        values[key] = "7";
     }
     Ask("ui_type_Message", {});
     EXPECT_THAT(tv.Log(DLOG_INFO), ElementsAre("complete"));

@@ -16,15 +16,11 @@ using VESKAR_APP::WindowManager;
 constexpr const char* CLOSED_7 = "answer 7 255 2 0 0 \"\"";
 const Texts RELEASED{"release navigation", "release channel", "release exit", "release number", "release PVR"};
 
-/** The lists one after the other. */
-Texts Joined(std::initializer_list<Texts> lists)
+/** The deeds of both. */
+Texts operator+(Texts first, const Texts& second)
 {
-    Texts joined;
-    for (const Texts& list : lists)
-    {
-        joined.insert(joined.end(), list.begin(), list.end());
-    }
-    return joined;
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
 }
 
 struct WindowManagerTest : TvTest
@@ -64,11 +60,11 @@ TEST_F(WindowManagerTest, AScreenIsBuiltBeforeKeysAndWindowAreTakenAndTheOldOneG
 {
     const Texts built{"say T, S, text, B, "};
     EXPECT_THAT(Do([this] { Show(7, 255); }),
-                Joined({built, RELEASED, {"release navigation", "grab navigation", "activate", "restore"}}));
+                (built + RELEASED + Texts{"release navigation", "grab navigation", "activate", "restore"}));
     EXPECT_TRUE(evas_object_visible_get(tv.window) && evas_object_visible_get(Popup()));
-    const Texts closed = Joined({{"iconify", CLOSED_7}, RELEASED});
+    const Texts closed = Texts{"iconify", CLOSED_7} + RELEASED;
     EXPECT_THAT(Do([this] { Show(8, 254); }),
-                Joined({closed, built, RELEASED, {"grab channel", "activate", "restore"}}));
+                (closed + built + RELEASED + Texts{"grab channel", "activate", "restore"}));
     EXPECT_TRUE(evas_object_visible_get(tv.window) && evas_object_visible_get(Popup()));
 }
 
@@ -144,7 +140,7 @@ TEST_F(WindowManagerTest, EachAnswerCarriesTheScreensIdsAndEndsIt)
         tv.Forget();
         answer(*manager);
         const Texts hidden(sent.find(" 3 2 ") == std::string::npos ? 0 : 1, "iconify");
-        EXPECT_EQ(tv.DeedsByKeyGroup(), Joined({hidden, {sent}, RELEASED}));
+        EXPECT_EQ(tv.DeedsByKeyGroup(), hidden + Texts{sent} + RELEASED);
         EXPECT_FALSE(evas_object_visible_get(Popup())); // hidden, not deleted
         ExpectIdle();
 
@@ -174,7 +170,7 @@ TEST_F(WindowManagerTest, ACloseNeedsTheIdAndAnswersTheMiddlewareAlone)
     for (const int id : {7, 0})
     {
         Show(7, 255);
-        EXPECT_EQ(Do([&] { manager->Close(id, 254); }), Joined({{CLOSED_7}, RELEASED}));
+        EXPECT_EQ(Do([&] { manager->Close(id, 254); }), Texts{CLOSED_7} + RELEASED);
         ExpectIdle();
     }
 }
@@ -227,7 +223,7 @@ TEST_F(WindowManagerTest, AScreenThatCannotBeBuiltStillClosesTheOldOne)
     {
         Show(7, 255);
         EXPECT_EQ(Do([&] { EXPECT_FALSE(Present(*manager, std::make_unique<Faulty>(*manager, creates))); }),
-                  Joined({{"iconify", CLOSED_7}, RELEASED}));
+                  (Texts{"iconify", CLOSED_7} + RELEASED));
         EXPECT_TRUE(tv.Logged(DLOG_INFO, "Start visible timer"));
         EXPECT_EQ(Popup(), nullptr);
         ExpectIdle();
@@ -238,7 +234,7 @@ TEST_F(WindowManagerTest, PauseAnswersAndArmsTheIdleClockWhichAScreenStops)
 {
     EXPECT_THAT(Do([this] { manager->Resume(); }), ElementsAre("activate"));
     Show(7, 255);
-    EXPECT_EQ(Do([this] { manager->Pause(); }), Joined({{"iconify", CLOSED_7}, RELEASED}));
+    EXPECT_EQ(Do([this] { manager->Pause(); }), (Texts{"iconify", CLOSED_7} + RELEASED));
     EXPECT_TRUE(tv.Logged(DLOG_DEBUG, "milliseconds:2000"));
     EXPECT_THAT(Do([this] { manager->Resume(); }), ElementsAre("activate", "release navigation", "grab navigation"));
 
@@ -299,9 +295,9 @@ TEST_F(WindowManagerTest, WithoutAWindowOrAControllerNothingIsShownAndNothingBre
 TEST_F(WindowManagerTest, TheDestructorGivesTheKeysBackWithoutAnAnswer)
 {
     Show(7, 255);
-    EXPECT_EQ(Do([this] { manager.reset(); }), Joined({RELEASED,
-                                                       {"release exit", "release channel", "release navigation",
-                                                        "release number", "release PVR", "router finalized"}}));
+    EXPECT_EQ(Do([this] { manager.reset(); }),
+              (RELEASED + Texts{"release exit", "release channel", "release navigation", "release number",
+                                "release PVR", "router finalized"}));
     EXPECT_THAT(tv.heldKeys, IsEmpty());
 }
 
@@ -314,11 +310,8 @@ TEST_F(WindowManagerTest, TheTestCasesRunFrom0To22AndAnswerNobody)
         EXPECT_EQ(tv.Logged(DLOG_INFO, "Start visible timer"), id != 4) << id;
         tv.Forget();
     }
-    for (const int id : {23, -5})
-    {
-        EXPECT_FALSE(manager->Test(id));
-        EXPECT_THAT(tv.deeds, IsEmpty());
-    }
+    EXPECT_FALSE(manager->Test(23) || manager->Test(-5));
+    EXPECT_THAT(tv.deeds, IsEmpty());
     EXPECT_THAT(Do([this] { manager->ExitKey(); }), ElementsAre("iconify"));
 }
 

@@ -35,14 +35,6 @@ std::string Walk(bool withBackSpace, const std::string& arrows)
 
 } // namespace
 
-TEST(KeyGrid, BeginsOnTheOneAndHasABackSpaceWhereThatIsAskedFor)
-{
-    const KeyGrid grid(false);
-    EXPECT_STREQ(grid.Places()[grid.Current()].key, "1");
-    EXPECT_EQ(grid.Places().size(), 10U);
-    EXPECT_EQ(KeyGrid(true).Places().size(), 11U);
-}
-
 TEST(KeyGrid, MovesOneKeyAndStaysAtEachEdge)
 {
     EXPECT_EQ(Walk(false, "^<>>>vvv"), "1123369"

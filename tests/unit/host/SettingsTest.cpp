@@ -94,18 +94,3 @@ TEST_F(Settings, AKeyNeverLeavesItsFolder)
     }
     EXPECT_EQ(vconf_get_str("db/menu"), nullptr) << "a folder is no value";
 }
-
-TEST_F(Settings, AValueIsBroughtIntoTheFormInWhichItsTypeIsKept)
-{
-    const auto kept = [](SettingType type, std::string value)
-    {
-        return NormaliseSetting(type, value) ? value : "refused, " + value;
-    };
-    EXPECT_EQ(kept(SettingType::Switch, "yes"), "1");
-    EXPECT_EQ(kept(SettingType::Switch, "off"), "0");
-    EXPECT_EQ(kept(SettingType::Switch, "2"), "refused, 2");
-    EXPECT_EQ(kept(SettingType::Integer, "-5"), "-5");
-    EXPECT_EQ(kept(SettingType::Integer, "+5"), "refused, +5");
-    EXPECT_EQ(kept(SettingType::Text, "el GR"), "el GR");
-    EXPECT_EQ(kept(SettingType::Text, "a\nb"), "refused, a\nb");
-}

@@ -12,26 +12,14 @@
 #include <utility>
 #include <vector>
 
+#include "appfw/AppControl.h"
+
 #include <Elementary.h>
 #include <app.h>
 #include <dlog.h>
 #include <ecore_wayland.h>
 
 using Texts = std::vector<std::string>;
-
-/** A request's value: one text, or a list of them. */
-struct Value : Texts
-{
-    Value(const char* text) : Texts{text} {}
-    Value(Texts texts) : Texts(std::move(texts)) {}
-};
-
-/** A request, which a test may also make itself. */
-struct app_control_s
-{
-    std::string appId;
-    std::vector<std::pair<std::string, Value>> values;
-};
 
 struct LogLine
 {
