@@ -179,12 +179,6 @@ bool WaylandWindow::Grab(const char* key, int mode)
     return m_router->Grab(m_globals->surface.get(), ListOf(key, mode));
 }
 
-bool WaylandWindow::GrabAgain(const char* key, int mode)
-{
-    veskar::RouterBinding another(m_globals->display.get(), m_globals->registry.get(), m_globals->routerName);
-    return another.Grab(m_globals->surface.get(), ListOf(key, mode));
-}
-
 bool WaylandWindow::Ungrab(const char* key, int mode)
 {
     const bool released = m_router->Ungrab(m_globals->surface.get(), ListOf(key, mode));

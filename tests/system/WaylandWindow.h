@@ -33,8 +33,6 @@ public:
 
     /** With the key router's client library. */
     bool Grab(const char* key, int mode);
-    /** Asks the compositor even for what it has granted, which the client library does not; ends all grabs. */
-    bool GrabAgain(const char* key, int mode);
     bool Ungrab(const char* key, int mode);
     /** Ends the client library's binding; the window stays. */
     void Unbind();
