@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include <locale.h>
+
 #include "SettingsStore.h"
 
 namespace veskar
@@ -18,7 +20,8 @@ constexpr SettingKey KEYS[] = {
     {VOICE_GUIDE_KEY, SettingType::Integer, "voice guide: 1 on, 0 off"},
     {NUMBER_PAD_SHOWN_KEY, SettingType::Integer, "1 while the number pad is on the screen"},
     {KEY_GUARD_KEY, SettingType::Integer,
-     "milliseconds after a screen's first frame in which Return, Back and Exit reach nobody: 200 when unset, 0 never"},
+     "milliseconds after a screen's first frame in which Return, Back and Exit reach nobody: 200 when unset, 0 never",
+     0, 10'000},
     {"memory/ephotel/hotelmenu/hotelfactorymode", SettingType::Switch, "the hotel factory menu started the dialogue"},
     {"com.brelmon/featureconf/bt_profile_bt_smart_control", SettingType::Switch,
      "the set has a smart remote without digit keys, so a PIN may ask for the number pad"},
@@ -42,6 +45,17 @@ bool NormaliseSwitch(std::string& value)
         return false;
     }
     value = yes ? "1" : "0";
+    return true;
+}
+
+bool IsInstalledLocale(const std::string& name)
+{
+    const locale_t locale = newlocale(LC_CTYPE_MASK, name.c_str(), nullptr);
+    if (locale == nullptr)
+    {
+        return false;
+    }
+    freelocale(locale);
     return true;
 }
 
@@ -83,6 +97,17 @@ bool NormaliseSetting(SettingType type, std::string& value)
     default:
         return value.find_first_of("\n\r") == std::string::npos;
     }
+}
+
+std::string FaultOf(const SettingKey& key, const std::string& value)
+{
+    if (key.key == std::string_view(LANGUAGE_KEY))
+    {
+        return value.empty() || IsInstalledLocale(value) ? "" : "there is no locale \"" + value + "\" (locale -a)";
+    }
+    const auto number = key.type == SettingType::Integer ? ParseWholeNumber(value) : std::nullopt;
+    const bool isIn = !number || (key.least <= *number && *number <= key.most);
+    return isIn ? "" : "it is from " + std::to_string(key.least) + " to " + std::to_string(key.most);
 }
 
 } // namespace veskar

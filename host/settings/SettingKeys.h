@@ -20,6 +20,9 @@ struct SettingKey
     const char* key;
     SettingType type;
     const char* meaning;
+    /** Of a number: those that anything reads. */
+    int least = 0;
+    int most = 1;
 };
 
 /** Iterable: `for (const SettingKey& known : KnownSettings())`. */
@@ -54,5 +57,8 @@ const char* TypeName(SettingType type);
  * `value` unchanged when it is not of the type.
  */
 bool NormaliseSetting(SettingType type, std::string& value);
+
+/** What is wrong with a value that is of the key's type, or an empty text: a number or a language that nothing has. */
+std::string FaultOf(const SettingKey& key, const std::string& value);
 
 } // namespace veskar

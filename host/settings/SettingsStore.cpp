@@ -216,4 +216,15 @@ std::error_code WriteSetting(std::string_view key, std::string_view value)
     return error ? error : file.MoveTo(*path);
 }
 
+std::error_code RemoveSetting(std::string_view key)
+{
+    const auto path = SettingFile(key);
+    std::error_code error = path ? std::error_code() : std::make_error_code(std::errc::invalid_argument);
+    if (path)
+    {
+        fs::remove(*path, error);
+    }
+    return error;
+}
+
 } // namespace veskar

@@ -49,4 +49,7 @@ std::optional<int> ReadWholeNumber(std::string_view key);
  */
 std::error_code WriteSetting(std::string_view key, std::string_view value);
 
+/** No error when it was not set. */
+std::error_code RemoveSetting(std::string_view key);
+
 } // namespace veskar

@@ -64,6 +64,16 @@ int Get(const Arguments& arguments)
     return EX_OK;
 }
 
+int StatusOf(const std::error_code& error, const Arguments& arguments)
+{
+    if (!error)
+    {
+        return EX_OK;
+    }
+    fprintf(stderr, "veskar-setting: %s: %s\n", veskar::SettingFile(arguments.key)->c_str(), error.message().c_str());
+    return EX_CANTCREAT;
+}
+
 int Set(const Arguments& arguments)
 {
     if (!MayUse(arguments))
@@ -79,13 +89,18 @@ int Set(const Arguments& arguments)
                 arguments.value.c_str());
         return EX_USAGE;
     }
-    if (const auto error = veskar::WriteSetting(arguments.key, value))
+    const std::string fault = known != nullptr && !arguments.force ? veskar::FaultOf(*known, value) : "";
+    if (!fault.empty())
     {
-        fprintf(stderr, "veskar-setting: %s: %s\n", veskar::SettingFile(arguments.key)->c_str(),
-                error.message().c_str());
-        return EX_CANTCREAT;
+        fprintf(stderr, "veskar-setting: \"%s\": %s; --force takes any other\n", arguments.key.c_str(), fault.c_str());
+        return EX_USAGE;
     }
-    return EX_OK;
+    return StatusOf(veskar::WriteSetting(arguments.key, value), arguments);
+}
+
+int Unset(const Arguments& arguments)
+{
+    return MayUse(arguments) ? StatusOf(veskar::RemoveSetting(arguments.key), arguments) : EX_USAGE;
 }
 
 int List()
@@ -102,7 +117,7 @@ CLI::App* AddKeyCommand(CLI::App& program, Arguments& arguments, const char* nam
 {
     auto* command = program.add_subcommand(name, description);
     command->add_option("KEY", arguments.key, "the setting or flag")->required();
-    command->add_flag("--force", arguments.force, "take a key that nothing reads, too");
+    command->add_flag("--force", arguments.force, "take a key or a value that nothing reads, too");
     return command;
 }
 
@@ -112,11 +127,13 @@ int main(int argc, char** argv)
 {
     CLI::App program("The settings and feature flags of the desk TV. A language or direction that is set reaches the "
                      "running application at once; everything else is read when it is needed.");
+    program.set_version_flag("--version", VESKAR_VERSION);
     program.require_subcommand(1);
     Arguments arguments;
     const auto* get = AddKeyCommand(program, arguments, "get", "print a value; status 1 when it is not set");
     auto* set = AddKeyCommand(program, arguments, "set", "keep a value");
     set->add_option("VALUE", arguments.value, "a text, a whole number, or on and off")->required();
+    const auto* unset = AddKeyCommand(program, arguments, "unset", "forget a value");
     program.add_subcommand("list", "every key, its value and what it does");
     try
     {
@@ -129,6 +146,10 @@ int main(int argc, char** argv)
     if (set->parsed())
     {
         return Set(arguments);
+    }
+    if (unset->parsed())
+    {
+        return Unset(arguments);
     }
     return get->parsed() ? Get(arguments) : List();
 }

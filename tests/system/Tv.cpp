@@ -190,5 +190,7 @@ void ExpectAnswer(Process& request, const std::string& answer)
         return answer.find(result) != std::string::npos;
     };
     EXPECT_EQ(request.Status(), tells("\"answered\"") ? 0 : tells("\"back\"") ? 1 : 2);
-    EXPECT_EQ(request.Output(), answer);
+    // Texts of the request may follow, in the same line.
+    const std::string numbers = answer.substr(0, answer.find('}'));
+    EXPECT_THAT(request.Output(), testing::AllOf(testing::StartsWith(numbers), testing::EndsWith("}\n")));
 }

@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 
+#include "Nearest.h"
 #include "Report.h"
 #include "ScreenKinds.h"
 
@@ -19,7 +20,7 @@ constexpr auto DESCRIPTION = "Plays the middleware: asks the application for a s
 
 constexpr auto FOOTER =
     R"(A text may be anything, also empty or with a "-" in front: --title="" or --title "-x". An answer is one line of JSON on
-standard output.
+standard output; beside the numbers "label" and "row" repeat the texts of the button and the row.
 
 Exit status:
   0   answered; or taken by the application, where no answer comes (close, sequence, --no-wait, a screen or
@@ -226,11 +227,55 @@ Texts Arguments(const CLI::App& app, int argc, char** argv)
     return arguments;
 }
 
+Texts KindsOf(const CLI::App& app)
+{
+    Texts kinds;
+    for (const CLI::App* kind : app.get_subcommands([](const CLI::App*) { return true; }))
+    {
+        kinds.push_back(kind->get_name());
+    }
+    return kinds;
+}
+
+Texts OptionsOf(const CLI::App& kind)
+{
+    Texts options;
+    for (const CLI::App* app : {&kind, kind.get_parent()})
+    {
+        for (const CLI::Option* option :
+             app->get_options([](const CLI::Option* each) { return each->nonpositional(); }))
+        {
+            options.push_back("--" + option->get_lnames().front());
+        }
+    }
+    return options;
+}
+
+/** The library only repeats a word that it does not know. */
+int ComplainOfUsage(const CLI::App& app, const CLI::ParseError& error)
+{
+    const Texts left = app.remaining(true);
+    const auto kinds = app.get_subcommands();
+    const auto unknown =
+        std::find_if(left.begin(), left.end(),
+                     [&kinds](const std::string& word) { return (word.rfind("--", 0) == 0) != kinds.empty(); });
+    if (unknown == left.end())
+    {
+        return app.exit(error) == 0 ? 0 : ExitStatus::BAD_USAGE;
+    }
+    const Texts known = kinds.empty() ? KindsOf(app) : OptionsOf(*kinds.front());
+    const std::string command = kinds.empty() ? "veskar-mw" : "veskar-mw " + kinds.front()->get_name();
+    std::cerr << "veskar-mw: there is no " << (kinds.empty() ? "kind" : "option") << " \"" << *unknown << "\""
+              << Suggestion(*unknown, known) << "; " << command << " --help names them all\n";
+    return ExitStatus::BAD_USAGE;
+}
+
 } // namespace
 
 std::variant<Command, int> ParseCommandLine(int argc, char** argv)
 {
     CLI::App app{DESCRIPTION, "veskar-mw"};
+    app.set_version_flag("--version", VESKAR_VERSION);
     app.require_subcommand(1);
     // So that the general options may also follow the kind.
     app.fallthrough();
@@ -247,7 +292,7 @@ std::variant<Command, int> ParseCommandLine(int argc, char** argv)
     }
     catch (const CLI::ParseError& error)
     {
-        return app.exit(error) == 0 ? 0 : ExitStatus::BAD_USAGE;
+        return ComplainOfUsage(app, error);
     }
 
     const std::string kind = app.get_subcommands().front()->get_name();

@@ -31,15 +31,30 @@ Result ResultOf(int kind)
     }
 }
 
+/** The text with this number, from 1. One byte carries it, so it says nothing of a longer list. */
+void AddText(Json& json, const char* name, const Texts& texts, std::uint8_t number)
+{
+    constexpr std::size_t MOST = 255;
+    if (number > 0 && number <= texts.size() && texts.size() <= MOST)
+    {
+        json[name] = texts[number - 1];
+    }
+}
+
 } // namespace
 
-std::string ToJson(const ScreenAnswer& answer)
+std::string ToJson(const ScreenAnswer& answer, const Request& request)
 {
-    return Json{{"uiId", answer.uiId},     {"sourceId", answer.sourceId},
-                {"kind", answer.kind},     {"result", ResultOf(answer.kind).name},
-                {"button", answer.button}, {"item", answer.item},
-                {"data", answer.data}}
-        .dump();
+    Json json{{"uiId", answer.uiId},     {"sourceId", answer.sourceId},
+              {"kind", answer.kind},     {"result", ResultOf(answer.kind).name},
+              {"button", answer.button}, {"item", answer.item},
+              {"data", answer.data}};
+    if (answer.kind == Controller::Answered)
+    {
+        AddText(json, "label", request.List("ui_param_buttons"), answer.button);
+        AddText(json, "row", request.Rows(), answer.item);
+    }
+    return json.dump();
 }
 
 std::string TaskToJson(const std::string& task, const std::string& action)

@@ -1,6 +1,8 @@
 /** The result of veskar-mw: JSON lines on standard output, and the exit status. */
 #pragma once
 
+#include "Request.h"
+
 #include <cstdint>
 #include <string>
 
@@ -31,8 +33,11 @@ struct ScreenAnswer
     std::string data;
 };
 
-/** Each is one line of JSON, without its line end. */
-std::string ToJson(const ScreenAnswer& answer);
+/**
+ * Each is one line of JSON, without its line end. An answer has "label" and "row" too where the request gave the button
+ * or the row a text and the number is that of one only.
+ */
+std::string ToJson(const ScreenAnswer& answer, const Request& request);
 std::string TaskToJson(const std::string& task, const std::string& action);
 std::string MenuPositionToJson(int position);
 

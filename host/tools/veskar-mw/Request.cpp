@@ -21,6 +21,8 @@ constexpr auto CLOSE_TYPE = "ui_type_close";
 constexpr auto UI_ID = "ui_param_ui_id";
 constexpr auto SOURCE_ID = "ui_param_source_id";
 constexpr auto MENU_POSITION = "menu_pos_key";
+constexpr auto ENTRIES = "ui_param_entries";
+constexpr auto HEADER = "ui_param_header";
 
 } // namespace
 
@@ -119,6 +121,21 @@ Texts Request::List(const std::string& key) const
     const auto found = m_values.find(key);
     const Texts* list = found == m_values.end() ? nullptr : std::get_if<Texts>(&found->second);
     return list != nullptr ? *list : Texts{};
+}
+
+bool Request::HasHeader() const
+{
+    return Number(HEADER) != 0 && !List(ENTRIES).empty();
+}
+
+Texts Request::Rows() const
+{
+    Texts rows = List(ENTRIES);
+    if (HasHeader())
+    {
+        rows.erase(rows.begin());
+    }
+    return rows;
 }
 
 int Request::Number(const std::string& key) const

@@ -40,6 +40,9 @@ public:
     const std::string* Text(const std::string& key) const;
     /** Empty where the key is missing or has a text. */
     Texts List(const std::string& key) const;
+    /** The entries of a list without its header. */
+    Texts Rows() const;
+    bool HasHeader() const;
     /** As the application reads it: 0 where the key is missing or its text is no number. */
     int Number(const std::string& key) const;
 

@@ -1,5 +1,8 @@
 #include "Warnings.h"
 
+#include "Nearest.h"
+#include "ScreenKinds.h"
+
 #include <algorithm>
 
 namespace veskar
@@ -10,16 +13,6 @@ constexpr int NOBODYS_UI_ID = 0;
 constexpr int NOBODYS_SOURCE_ID = 100;
 constexpr int LAST_MODULE_SOURCE_ID = 253;
 constexpr std::size_t LAST_ROW_IN_A_BYTE = 255;
-
-bool HasHeader(const Request& request)
-{
-    return request.Number("ui_param_header") != 0 && !request.List("ui_param_entries").empty();
-}
-
-std::size_t Rows(const Request& request)
-{
-    return request.List("ui_param_entries").size() - (HasHeader(request) ? 1 : 0);
-}
 
 std::size_t Columns(const Request& request)
 {
@@ -41,7 +34,21 @@ bool AnswersRowByNumber(const Request& request)
 
 bool ShowsHeader(const Request& request)
 {
-    return HasHeader(request) && (request.AsksFor("ui_type_list") || AnswersRowByNumber(request));
+    return request.HasHeader() && (request.AsksFor("ui_type_list") || AnswersRowByNumber(request));
+}
+
+/** Every key that a request may have, whatever its kind. */
+Texts KnownKeys()
+{
+    Texts keys{"signal_type_key", "signal_tvservice_key", "ui_param_ui_id", "ui_param_source_id", "menu_pos_key"};
+    for (const ScreenKind& kind : ScreenKinds())
+    {
+        for (const Field& field : kind.fields)
+        {
+            keys.push_back(field.key);
+        }
+    }
+    return keys;
 }
 
 } // namespace
@@ -54,6 +61,14 @@ Texts Warnings(const Request& request, bool waits)
         warnings.emplace_back(
             "a close with a source id of 0 to 253 sends no answer: who waits for the screen's answer waits in vain");
     }
+    const Texts known = KnownKeys();
+    for (const auto& [key, value] : request.Values())
+    {
+        if (std::find(known.begin(), known.end(), key) == known.end())
+        {
+            warnings.push_back("no kind reads \"" + key + "\"" + Suggestion(key, known));
+        }
+    }
     if (request.IsOfUnknownKind())
     {
         warnings.emplace_back("no screen is of this kind: the request is sent, and no answer waited for");
@@ -63,7 +78,7 @@ Texts Warnings(const Request& request, bool waits)
         warnings.emplace_back("a screen with ui id 0 or source id 100 is answered by no key and not when it is "
                               "replaced, but only by a close with source id 254 or 255");
     }
-    if (AnswersRowByNumber(request) && Rows(request) > LAST_ROW_IN_A_BYTE)
+    if (AnswersRowByNumber(request) && request.Rows().size() > LAST_ROW_IN_A_BYTE)
     {
         warnings.emplace_back("one byte carries the number of a row: row 256 is answered as 0, row 257 as 1");
     }

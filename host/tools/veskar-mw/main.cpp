@@ -41,7 +41,7 @@ int OpenMenu(DeskConnection& desk, const Request& request)
 int Ask(DeskConnection& desk, const Request& request)
 {
     const ScreenAnswer answer = desk.Ask(request);
-    PrintLine(ToJson(answer));
+    PrintLine(ToJson(answer, request));
     return StatusOf(answer);
 }
 

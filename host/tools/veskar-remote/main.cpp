@@ -7,11 +7,13 @@
 #include "RemoteClient.h"
 #include "RemoteSocketPath.h"
 #include "ScreenText.h"
+#include "TemporaryFolder.h"
 #include "Waits.h"
 
 #include <CLI/CLI.hpp>
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <optional>
 #include <regex>
@@ -76,6 +78,13 @@ struct Wanted
     std::string file;
 };
 
+/** The picture is a PNG, whatever its name. */
+std::string CheckPngName(const std::string& file)
+{
+    return file == "-" || std::filesystem::path(file).extension() == ".png" ? ""
+                                                                            : "\"" + file + "\" does not end in .png";
+}
+
 std::regex Pattern(const std::string& text)
 {
     try
@@ -130,7 +139,10 @@ void AddCommands(CLI::App& app, Wanted& wanted)
     AddWait(app, wanted);
     app.add_subcommand("down", "Press a key and hold it")->add_option("KEY", wanted.keys)->required()->expected(1);
     app.add_subcommand("up", "Let a held key go")->add_option("KEY", wanted.keys)->required()->expected(1);
-    app.add_subcommand("shot", "Save what is on the screen")->add_option("FILE.png", wanted.file)->required();
+    app.add_subcommand("shot", "Save what is on the screen; - is standard output")
+        ->add_option("FILE.png", wanted.file)
+        ->required()
+        ->check(CheckPngName);
     app.add_subcommand("backdrop", "Choose the programme behind the screens")
         ->add_option("PICTURE", wanted.file, "evening, snow, or a picture's file")
         ->required();
@@ -169,11 +181,24 @@ void Wait(const Wanted& wanted, veskar::RemoteClient& remote)
     }
 }
 
+void Shoot(const std::string& file, veskar::RemoteClient& remote)
+{
+    if (file != "-")
+    {
+        remote.Ask("shot " + WholePath(file));
+        return;
+    }
+    const veskar::TemporaryFolder folder;
+    const std::string path = folder.Path() + "/screen.png";
+    remote.Ask("shot " + path);
+    std::cout << std::ifstream(path, std::ios::binary).rdbuf();
+}
+
 void Do(const Wanted& wanted, veskar::RemoteClient& remote)
 {
     if (wanted.command == "shot")
     {
-        remote.Ask("shot " + WholePath(wanted.file));
+        Shoot(wanted.file, remote);
     }
     else if (wanted.command == "backdrop")
     {
@@ -202,7 +227,8 @@ void Do(const Wanted& wanted, veskar::RemoteClient& remote)
 
 int Run(int argc, char* argv[])
 {
-    CLI::App app{"The remote control of a desk TV"};
+    CLI::App app{"The remote control of a desk TV", "veskar-remote"};
+    app.set_version_flag("--version", VESKAR_VERSION);
     Wanted wanted;
     AddCommands(app, wanted);
     try

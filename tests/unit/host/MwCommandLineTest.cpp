@@ -1,5 +1,6 @@
 /** What `veskar-mw` makes of its command line, without a bus. */
 #include "CommandLine.h"
+#include "Report.h"
 #include "Warnings.h"
 
 #include <cstdio>
@@ -13,8 +14,10 @@
 
 using namespace veskar;
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 namespace
 {
@@ -95,6 +98,34 @@ TEST(MwCommandLine, OnlyARequestForAScreenIsAnswered)
     EXPECT_FALSE(Parsed({"raw", "signal_type_key=signal_tvservice", "signal_tvservice_key=x", "ui_param_ui_id=1",
                          "ui_param_source_id=255"})
                      .request.AsksForScreen());
+}
+
+TEST(MwCommandLine, AWordThatIsNearlyKnownIsNamed)
+{
+    const auto said = [](std::vector<const char*> words)
+    {
+        words.insert(words.begin(), "veskar-mw");
+        testing::internal::CaptureStderr();
+        const auto result = ParseCommandLine(static_cast<int>(words.size()), const_cast<char**>(words.data()));
+        EXPECT_EQ(std::get<int>(result), 64);
+        return testing::internal::GetCapturedStderr();
+    };
+    EXPECT_THAT(said({"mesage"}), HasSubstr("did you mean \"message\"?"));
+    EXPECT_THAT(said({"pin", "--titel=x"}), HasSubstr("did you mean \"--title\"?"));
+    EXPECT_THAT(said({"whatever"}), Not(HasSubstr("did you mean")));
+    EXPECT_THAT(WarningsFor({"raw", "ui_param_tilte=x"}, false),
+                ElementsAre(HasSubstr("did you mean \"ui_param_title\"?")));
+}
+
+TEST(MwReport, AnAnswerRepeatsTheTextsOfItsNumbers)
+{
+    const Request request =
+        Parsed({"select", "--header", "--entry", "Name", "--entry", "News", "--button", "Yes", "--button", "No"})
+            .request;
+    EXPECT_THAT(ToJson({7, 255, 0, 2, 0, ""}, request), EndsWith(R"("data":"","label":"No"})"));
+    EXPECT_THAT(ToJson({7, 255, 0, 0, 1, ""}, request), EndsWith(R"("data":"","row":"News"})"));
+    EXPECT_THAT(ToJson({7, 255, 0, 3, 2, ""}, request), EndsWith(R"("data":""})")) << "there are none";
+    EXPECT_THAT(ToJson({7, 255, 2, 1, 1, ""}, request), EndsWith(R"("data":""})")) << "closed without an answer";
 }
 
 TEST(MwWarnings, TellOfAnAnswerThatNobodySends)
