@@ -23,7 +23,7 @@ TEST_F(Lifecycle, TheProcessEndsByItselfAfterAnAnswerAndTheNextRequestStartsANew
     ExpectAnswer(second, Answer(8, 255, 0, 1, 0));
 }
 
-TEST_F(Lifecycle, AProcessThatDiesWithAScreenShownIsToldAtOnceAndTheNextRequestStartsAnother)
+TEST_F(Lifecycle, AProcessThatDiesWithAScreenShownIsToldAtOnce)
 {
     constexpr std::chrono::seconds AT_ONCE{2};
     Process request = SendMessage(7, 254, {"--button", "OK"});
@@ -34,10 +34,6 @@ TEST_F(Lifecycle, AProcessThatDiesWithAScreenShownIsToldAtOnceAndTheNextRequestS
     EXPECT_EQ(request.Status(AT_ONCE), 69);
     EXPECT_EQ(request.Output(), "");
     EXPECT_EQ(CountInLog("ended without an answer, for which 1 waited"), 1);
-
-    Process next = SendMessage(7, 254, {"--button", "OK"});
-    Press({"Return"});
-    ExpectAnswer(next, Answer(7, 254, 0, 1, 0));
 }
 
 TEST_F(Lifecycle, ASecondInstanceDrawsNothingAndSaysSo)

@@ -95,18 +95,12 @@ TEST_F(Surroundings, WithoutACompositorTheSenderIsToldAtOnceAndNoProcessStays)
     EXPECT_EQ(request.Output(), "");
     EXPECT_EQ(CountInLog("no compositor at WAYLAND_DISPLAY=nowhere"), 3) << "process, refused sender and middleware";
     EXPECT_TRUE(WaitForApplicationEnd());
-    Process shown = SendMessage(7, 255, {"--button", "OK"});
-    Press({"Return"});
-    ExpectAnswer(shown, Answer(7, 255, 0, 1, 0));
 }
 
-TEST_F(Surroundings, AMenuPositionReachesTheMiddlewareAndItsScreenFollows)
+TEST_F(Surroundings, AMenuPositionReachesTheMiddleware)
 {
     EXPECT_EQ(RunCommand({"veskar-mw", "menu", "veskar_delete_op"}),
               "{\"task\":\"name:menu \",\"action\":\"stop\"}\n{\"menuPosition\":3}\n");
-    Process screen = SendMessage(7, 255, {"--button", "OK"});
-    Press({"Return"});
-    ExpectAnswer(screen, Answer(7, 255, 0, 1, 0));
 }
 
 TEST_F(Surroundings, ATvIsPutWhereThereIsRoomAndAScreenThatWouldNotFitIsRefused)

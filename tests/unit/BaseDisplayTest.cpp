@@ -233,13 +233,9 @@ TEST_F(BaseDisplayTest, TheNumberPadIsAskedForWhereItExistsAndIsNotAlreadyAsWant
         EXPECT_TRUE(launches.empty() || tv.linesBeforeDestroyed == tv.log.size()) << "told too late how it went";
         return launches;
     };
-    for (const char* what : {"show", "hide"})
-    {
-        tv.features.clear();
-        EXPECT_THAT(ask(what), IsEmpty());
-        tv.features[FEATURE] = false;
-        EXPECT_THAT(ask(what), IsEmpty());
-    }
+    EXPECT_THAT(ask("show") + ask("hide"), IsEmpty()) << "the TV does not say that it has one";
+    tv.features[FEATURE] = false;
+    EXPECT_THAT(ask("show") + ask("hide"), IsEmpty());
     tv.features[FEATURE] = true;
     for (const int value : {0, 2})
     {

@@ -3,8 +3,6 @@
 #include "MultipleListWindow.h"
 #include "Screen.h"
 
-#include <fstream>
-
 namespace
 {
 
@@ -211,15 +209,9 @@ TEST_F(MultipleListWindowTest, CellsRunTogetherBesideACheckBoxAndTheHeaderIsOnly
 
 struct ImageListPopupTest : ListScreenTest<VESKAR_APP::ImageListPopup>
 {
-    const std::string first = WritePicture("first.ppm");
-    const std::string second = WritePicture("second.ppm");
+    const std::string first = WritePicture("first", "abc");
+    const std::string second = WritePicture("second", "abc");
 
-    static std::string WritePicture(const char* name)
-    {
-        std::string path = testing::TempDir() + name;
-        std::ofstream(path) << "P6 1 1 255\nabc";
-        return path;
-    }
     Evas_Object* Image()
     {
         const std::vector<Evas_Object*> images = Widgets(list->t_popup, "elm_image");

@@ -1,8 +1,10 @@
 #include "Screen.h"
 
+#include <fstream>
 #include <memory>
 
 #include <Ecore_Evas.h>
+#include <unistd.h>
 
 namespace
 {
@@ -63,6 +65,13 @@ bool LoopEnds(double seconds)
         ecore_timer_del(timer);
     }
     return ended;
+}
+
+std::string WritePicture(const std::string& name, const std::string& pixel)
+{
+    std::string path = testing::TempDir() + name + std::to_string(getpid()) + ".ppm";
+    std::ofstream(path) << "P6 2 2 255\n" << pixel << pixel << pixel << pixel;
+    return path;
 }
 
 std::vector<Evas_Object*> Widgets(Evas_Object* root, const std::string& type)

@@ -59,6 +59,9 @@ void Settle();
 /** Runs the main loop; false when nothing ended it within `seconds`. */
 bool LoopEnds(double seconds);
 
+/** Writes an image file of one colour, given as three bytes; returns its path. */
+std::string WritePicture(const std::string& name, const std::string& pixel);
+
 /** The widgets of one type inside `root`, itself included, in the order of drawing. */
 std::vector<Evas_Object*> Widgets(Evas_Object* root, const std::string& type);
 std::vector<Evas_Object*> WidgetsOnScreen(Evas_Object* window, const std::string& type);

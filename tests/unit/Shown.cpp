@@ -2,29 +2,12 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 
 #include <Ecore_Evas.h>
-#include <unistd.h>
 
-namespace
-{
-
-std::string Image(const std::string& name, const char* colour)
-{
-    std::string path = testing::TempDir() + name + std::to_string(getpid()) + ".ppm";
-    std::ofstream file(path);
-    file << "P6 4 3 255\n";
-    for (int pixel = 0; pixel < 12; ++pixel)
-    {
-        file << std::string(colour, 3);
-    }
-    return path;
-}
-
-} // namespace
-
-ShownTest::ShownTest() : images{Image("red", "\377\0\0"), Image("green", "\0\377\0"), Image("blue", "\0\0\377")}
+ShownTest::ShownTest()
+    : images{WritePicture("red", {"\377\0\0", 3}), WritePicture("green", {"\0\377\0", 3}),
+             WritePicture("blue", {"\0\0\377", 3})}
 {
     elm_theme_overlay_add(nullptr, VESKAR_THEME_FILE);
     manager = std::make_unique<VESKAR_APP::WindowManager>([] {}, [] {});

@@ -16,13 +16,6 @@ using VESKAR_APP::WindowManager;
 constexpr const char* CLOSED_7 = "answer 7 255 2 0 0 \"\"";
 const Texts RELEASED{"release navigation", "release channel", "release exit", "release number", "release PVR"};
 
-/** The deeds of both. */
-Texts operator+(Texts first, const Texts& second)
-{
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-
 struct WindowManagerTest : TvTest
 {
     std::unique_ptr<WindowManager> manager = std::make_unique<WindowManager>([] {}, [] {});

@@ -4,6 +4,12 @@
 
 Tv tv;
 
+Texts operator+(Texts first, const Texts& second)
+{
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+
 Texts Tv::Did(const std::string& verb) const
 {
     Texts found;

@@ -21,6 +21,9 @@
 
 using Texts = std::vector<std::string>;
 
+/** The texts of both. */
+Texts operator+(Texts first, const Texts& second);
+
 struct LogLine
 {
     int priority;
