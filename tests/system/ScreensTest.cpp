@@ -146,7 +146,7 @@ TEST_F(Screens, ImageOfEnormousSizeGivesItsMemoryBack)
     Process before = SendKind("image", small);
     const Picture usualShot = StillShot();
     const long usual = ResidentMemory(ApplicationPid());
-    constexpr int SIDE = 8000;
+    constexpr std::size_t SIDE = 8000;
     const std::string file = Environment("XDG_RUNTIME_DIR") + "/enormous.pgm";
     std::ofstream(file) << "P5\n" << SIDE << ' ' << SIDE << "\n255\n" << std::string(SIDE * SIDE, 'Z') << std::flush;
     Process request = SendKind("image", {"--width", "8000", "--height", "8000", "--image", file});
