@@ -282,7 +282,10 @@ std::vector<TextPage::Page> TextPage::m_BreakIntoPages() const
     return pages;
 }
 
-/** As high as its lines, up to the theme's page: a scroller has no least height of its own. */
+/**
+ * As high as its lines, up to the theme's page: a scroller has no least height of its own. The theme makes room for the
+ * number of the page at once, where there will be several.
+ */
 void TextPage::m_SetLeastHeight()
 {
     if (m_heightIsSet)
@@ -292,7 +295,10 @@ void TextPage::m_SetLeastHeight()
     m_heightIsSet = true;
     int height = 0;
     evas_object_textblock_size_formatted_get(m_text, nullptr, &height);
-    SetOuterLeastSize(m_scroller, {0, std::min(height, ThemeSize(m_scroller, "page_height"))});
+    const int page = ThemeSize(m_scroller, "page_height");
+    elm_layout_signal_emit(m_scroller, height > page ? "veskar,pages,several" : "veskar,pages,one", "veskar");
+    edje_object_message_signal_process(elm_layout_edje_get(m_scroller));
+    SetOuterLeastSize(m_scroller, {0, std::min(height, page)});
 }
 
 void TextPage::m_Place()

@@ -1,6 +1,7 @@
-// Numbers in texts stay together. The rest is what the theme's labels cannot find out on their own: that there is
-// nothing to read between the tags of their markup, and that they stand in the panel at the side, where lines are
-// shorter. Lines may be counted right after a text or a style was set, so both are passed on immediately.
+// Numbers in texts stay together. The rest is what the theme's labels cannot find out on their own: that there is nothing
+// to read between the tags of their markup, whether they stand above or below a screen's content, and that they stand in
+// the panel at the side, where lines are shorter. Lines may be counted right after a text or a style was set, so all is
+// passed on immediately.
 
 #include "CString.h"
 #include "Numbers.h"
@@ -25,11 +26,29 @@ bool HasInk(const Evas_Object* label)
     return text != nullptr && *text != '\0';
 }
 
+/** Where a line in the screen's box of lines stands; a message stands in its content. */
+const char* Place(const Evas_Object* label)
+{
+    const Evas_Object* lines = elm_object_parent_widget_get(label);
+    if (!veskar::Is(lines, "elm_box"))
+    {
+        return nullptr;
+    }
+    Eina_List* children = elm_box_children_get(lines);
+    const bool isFirst = children == nullptr || eina_list_data_get(children) == label;
+    eina_list_free(children);
+    return isFirst ? "veskar,above" : "veskar,below";
+}
+
 void InformTheme(Evas_Object* label)
 {
     if (!veskar::Is(label, "elm_label") || std::strcmp(elm_object_style_get(label), LINES_STYLE) != 0)
     {
         return;
+    }
+    if (const char* place = Place(label))
+    {
+        elm_object_signal_emit(label, place, "veskar");
     }
     elm_object_signal_emit(label, HasInk(label) ? "veskar,filled" : "veskar,empty", "veskar");
     if (StandsInSidePanel(label))

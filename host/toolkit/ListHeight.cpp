@@ -38,11 +38,14 @@ void ListHeight::m_OnShown()
     m_Ask();
 }
 
-void ListHeight::m_OnRowRealised(void* /*row*/)
+void ListHeight::m_OnRowRealised(void* row)
 {
     // Only a realised row has its real height, and it may have several lines.
     m_Ask();
-    m_TightenHeader();
+    if (row == elm_genlist_last_item_get(m_list))
+    {
+        elm_object_item_signal_emit(static_cast<Elm_Object_Item*>(row), "veskar,last", "veskar");
+    }
 }
 
 void ListHeight::m_Ask()
@@ -50,28 +53,9 @@ void ListHeight::m_Ask()
     const int rows = static_cast<int>(elm_genlist_items_count(m_list)) * ThemeSize(m_list, "row_height");
     int realised = 0;
     elm_scroller_child_size_get(m_list, nullptr, &realised);
-    const int height = std::min(std::max(rows, realised), ThemeSize(m_list, "view_height"));
+    const int height =
+        std::min(std::max(rows, realised) - 2 * ThemeSize(m_list, "row_room"), ThemeSize(m_list, "view_height"));
     SetOuterLeastSize(m_list, {RowWidth(m_list), height});
-}
-
-void ListHeight::m_TightenHeader()
-{
-    const Evas_Object* popup = PopupAround(m_list);
-    const Evas_Object* lines = popup != nullptr ? elm_object_part_content_get(popup, nullptr) : nullptr;
-    if (!Is(lines, "elm_box"))
-    {
-        return;
-    }
-    void* line = nullptr;
-    Eina_List* children = elm_box_children_get(lines);
-    EINA_LIST_FREE(children, line)
-    {
-        auto* object = static_cast<Evas_Object*>(line);
-        if (Is(object, "elm_box"))
-        {
-            evas_object_size_hint_weight_set(object, EVAS_HINT_EXPAND, 0);
-        }
-    }
 }
 
 } // namespace veskar

@@ -8,7 +8,7 @@ namespace veskar
 /**
  * Makes a list ask for the height of its rows, up to that of the theme's view, and for the width of rows of cells. The
  * stock list asks for nothing and gets what is left, which hides rows on one screen and stands half empty on another.
- * What is left over then goes to the list and not to its header, which stands directly above the rows.
+ * The theme hears which row is the last.
  */
 class ListHeight
 {
@@ -19,7 +19,6 @@ private:
     void m_OnShown();
     void m_OnRowRealised(void* row);
     void m_Ask();
-    void m_TightenHeader();
 
     Evas_Object* m_list;
     EventCallback m_shown;

@@ -1,12 +1,13 @@
 // What the program's widgets are given when they are created: a list the height of its rows and a focus that walks them
-// one by one; a screen whole pictures, a size that the TV can show, buttons that lead on, and no key
-// before it is seen.
+// one by one; a screen whole pictures, a size that the TV can show, buttons that lead on, no key before it is seen, and
+// a scrim that stays where it replaces another.
 
 #include "ButtonFocus.h"
 #include "ListHeight.h"
 #include "RowFocus.h"
 #include "ScreenFit.h"
 #include "ScreenNews.h"
+#include "Scrim.h"
 #include "TextFit.h"
 #include "WholeFrames.h"
 
@@ -37,6 +38,7 @@ extern "C"
             veskar::LiveWith<veskar::TextFit>(popup, popup);
             veskar::LiveWith<veskar::ButtonFocus>(popup, popup);
             veskar::LiveWith<veskar::ScreenNews>(popup, popup);
+            veskar::LiveWith<veskar::Scrim>(popup, popup);
         }
         return popup;
     }

@@ -1,7 +1,5 @@
 #include "RowView.h"
 
-#include "ThemeSizes.h"
-
 #include <algorithm>
 #include <optional>
 
@@ -10,7 +8,7 @@ namespace veskar
 namespace
 {
 
-/** What the viewer sees of the list, and where the row is, with the room that it needs to be clear of the fades. */
+/** What the viewer sees of the list, and where the row is. */
 struct View
 {
     int top;
@@ -43,13 +41,12 @@ std::optional<View> ViewOf(Evas_Object* list, Elm_Object_Item* row)
     evas_object_geometry_get(list, nullptr, &listY, nullptr, nullptr);
     edje_object_part_geometry_get(elm_layout_edje_get(list), "elm.swallow.content", nullptr, &paneY, nullptr, nullptr);
     rowY -= listY + paneY;
-    const int fade = ThemeSize(list, "fade_height");
     View view{};
     elm_scroller_region_get(list, nullptr, &view.top, nullptr, &view.height);
     elm_scroller_child_size_get(list, nullptr, &view.last);
     view.last = std::max(view.last - view.height, 0);
-    view.rowTop = view.top + rowY - fade;
-    view.rowBottom = view.top + rowY + rowHeight + fade;
+    view.rowTop = view.top + rowY;
+    view.rowBottom = view.top + rowY + rowHeight;
     return view;
 }
 

@@ -16,7 +16,7 @@ enum class Way
 Elm_Object_Item* Neighbour(Elm_Object_Item* row, Way way);
 
 /**
- * Brings the whole row into view, clear of the ends where the list fades out, and beyond it the row that comes next.
+ * Brings the whole row into view, and beyond it the row that comes next.
  * Of a row higher than the view, what the viewer meets first.
  */
 void ShowRow(Evas_Object* list, Elm_Object_Item* row, Way way);

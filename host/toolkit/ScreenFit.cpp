@@ -1,5 +1,6 @@
 #include "ScreenFit.h"
 
+#include "ThemeSizes.h"
 #include "Widgets.h"
 
 #include <algorithm>
@@ -44,17 +45,14 @@ void SetLeastSizeOf(Evas_Object* object, Size size)
     evas_object_size_hint_min_set(object, size.width, size.height);
 }
 
-/** The largest of the widgets around `object`: one that cannot hold it all is larger than the window. */
-Size SizeAround(const Evas_Object* object)
+/** The layout of the panel around `content`, or null. */
+const Evas_Object* PanelAround(const Evas_Object* content)
 {
-    Size largest;
-    for (object = elm_object_parent_widget_get(object); object != nullptr;
-         object = elm_object_parent_widget_get(object))
+    while (content != nullptr && !(Is(content, "elm_layout") && ThemeSize(content, "most_height") != 0))
     {
-        const Size size = SizeOf(object);
-        largest = {std::max(largest.width, size.width), std::max(largest.height, size.height)};
+        content = elm_object_parent_widget_get(content);
     }
-    return largest;
+    return content;
 }
 
 int Lowered(int limit, int asked, int excess)
@@ -100,13 +98,22 @@ bool ScreenFit::m_Lower()
     {
         return false;
     }
-    const Size screen = SizeAround(content);
-    const Size room = SizeOf(m_window);
+    const Evas_Object* panel = PanelAround(content);
+    if (panel == nullptr)
+    {
+        return false;
+    }
+    const Size screen{SizeOf(content).width, SizeOf(panel).height};
+    Size room{ThemeSize(panel, "most_width"), ThemeSize(panel, "most_height")};
     if (screen.width <= room.width && screen.height <= room.height)
     {
         return false;
     }
     m_Collect();
+    if (m_HasList())
+    {
+        room.width = ThemeSize(panel, "most_list_width");
+    }
     Size asked;
     bool changed = false;
     for (const auto& [object, least] : m_leasts)
@@ -130,6 +137,12 @@ bool ScreenFit::m_Lower()
     m_limit = limit;
     m_Apply();
     return true;
+}
+
+bool ScreenFit::m_HasList() const
+{
+    return std::any_of(m_leasts.begin(), m_leasts.end(),
+                       [](const auto& least) { return Is(least.first, "elm_genlist"); });
 }
 
 void ScreenFit::m_Collect()

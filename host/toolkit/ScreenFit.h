@@ -11,8 +11,8 @@ namespace veskar
 
 /**
  * Fits a screen that is larger than the TV. The toolkit never makes a widget smaller than its least size, so one that
- * is too large for the window would push the texts around it out of view. Where that happens, the least sizes of
- * images, lists and text pages are lowered until the whole screen fits.
+ * is too large would push the texts around it out of view, or widen the panel. Where that happens, the least sizes of
+ * images, lists and text pages are lowered until the whole screen fits what the theme has room for.
  *
  * Construct it after the screen's WholeFrames: the screen is then fitted first, and the theme hears only of its final
  * size.
@@ -42,6 +42,7 @@ private:
     /** Lowers the limits by as much as the screen is too large; false when it fits or nothing more can be gained. */
     bool m_Lower();
     void m_Apply();
+    bool m_HasList() const;
 
     Evas_Object* m_window;
     Evas_Object* m_popup;

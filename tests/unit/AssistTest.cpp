@@ -54,14 +54,14 @@ TEST_F(AssistTest, TheMarkOfTheNextDigitMovesAlongWithTheDigits)
 {
     manager->ShowPinManager(1, 255, "T", "", "", 4, "");
     TakeKeyboard();
-    EXPECT_EQ(Cells("next", "visible"), "x...");
+    EXPECT_EQ(Cells("next", "focus"), "x...");
     Key("1");
-    EXPECT_EQ(Cells("next", "visible"), ".x..");
+    EXPECT_EQ(Cells("next", "focus"), ".x..");
     Key("2");
-    EXPECT_EQ(Cells("next", "visible"), "..x.");
+    EXPECT_EQ(Cells("next", "focus"), "..x.");
     EXPECT_EQ(Cells("dot", "filled"), "xx..");
     Key("BackSpace");
-    EXPECT_EQ(Cells("next", "visible"), ".x..");
+    EXPECT_EQ(Cells("next", "focus"), ".x..");
     EXPECT_EQ(Cells("dot", "filled"), "x...");
 }
 
