@@ -8,7 +8,7 @@ namespace veskar
 
 KeyGrid::KeyGrid(bool withBackSpace)
     : m_places{{0, 0, "1"}, {0, 1, "2"}, {0, 2, "3"}, {1, 0, "4"}, {1, 1, "5"},
-               {1, 2, "6"}, {2, 0, "7"}, {2, 1, "8"}, {2, 2, "9"}, {3, 1, "0"}}
+               {1, 2, "6"}, {2, 0, "7"}, {2, 1, "8"}, {2, 2, "9"}, {3, 1, "0", 0, withBackSpace ? 2 : 3}}
 {
     if (withBackSpace)
     {

@@ -24,6 +24,9 @@ public:
         int column;
         /** As the remote control calls it. */
         const char* key;
+        /** The columns that it takes: the 0 is wide, so that its row has no gap. */
+        int from = column;
+        int width = 1;
     };
 
     /** Ten digits, and with `withBackSpace` a key that takes the last one back. It begins on the 1. */

@@ -80,7 +80,7 @@ void PadWindow::m_AddPanel(const KeyGrid& keys)
     for (const KeyGrid::Place& place : keys.Places())
     {
         m_keys.push_back(m_AddKey(place.key));
-        elm_table_pack(table, m_keys.back(), place.column, place.row, 1, 1);
+        elm_table_pack(table, m_keys.back(), place.from, place.row, place.width, 1);
     }
     elm_object_part_content_set(screen, "elm.swallow.content", table);
 }
