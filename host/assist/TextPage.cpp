@@ -152,6 +152,7 @@ private:
     void m_Update();
     std::vector<Page> m_BreakIntoPages() const;
     void m_SetLeastHeight();
+    void m_MakeRoomForNumber();
     void m_Place();
     void m_Indicate();
 
@@ -163,6 +164,7 @@ private:
     std::vector<Page> m_pages;
     int m_viewWidth = 0;
     int m_viewHeight = 0;
+    int m_textHeight = 0;
     int m_current = 0;
     bool m_heightIsSet = false; // for the present text, style and width
     Ecore_Job* m_pending = nullptr;
@@ -259,6 +261,7 @@ void TextPage::m_Update()
     }
     evas_object_resize(m_text, m_viewWidth, m_viewHeight);
     m_SetLeastHeight();
+    m_MakeRoomForNumber();
     m_pages = m_BreakIntoPages();
     m_current = std::clamp(m_current, 0, std::max(Total() - 1, 0));
     evas_object_size_hint_min_set(m_content, 0, m_viewHeight * Total());
@@ -282,10 +285,7 @@ std::vector<TextPage::Page> TextPage::m_BreakIntoPages() const
     return pages;
 }
 
-/**
- * As high as its lines, up to the theme's page: a scroller has no least height of its own. The theme makes room for the
- * number of the page at once, where there will be several.
- */
+/** As high as its lines, up to the theme's page: a scroller has no least height of its own. */
 void TextPage::m_SetLeastHeight()
 {
     if (m_heightIsSet)
@@ -293,12 +293,20 @@ void TextPage::m_SetLeastHeight()
         return;
     }
     m_heightIsSet = true;
-    int height = 0;
-    evas_object_textblock_size_formatted_get(m_text, nullptr, &height);
-    const int page = ThemeSize(m_scroller, "page_height");
-    elm_layout_signal_emit(m_scroller, height > page ? "veskar,pages,several" : "veskar,pages,one", "veskar");
-    edje_object_message_signal_process(elm_layout_edje_get(m_scroller));
-    SetOuterLeastSize(m_scroller, {0, std::min(height, page)});
+    evas_object_textblock_size_formatted_get(m_text, nullptr, &m_textHeight);
+    SetOuterLeastSize(m_scroller, {0, std::min(m_textHeight, ThemeSize(m_scroller, "page_height"))});
+}
+
+/** The theme has room for the number of the page only where there are several. */
+void TextPage::m_MakeRoomForNumber()
+{
+    const int room = SizeOf(m_scroller).height;
+    const bool isWhole = m_textHeight <= (room > 0 ? room : ThemeSize(m_scroller, "page_height"));
+    Evas_Object* layout = elm_layout_edje_get(m_scroller);
+    edje_object_signal_emit(layout, isWhole ? "veskar,pages,one" : "veskar,pages,several", "veskar");
+    edje_object_message_signal_process(layout);
+    edje_object_calc_force(layout);
+    elm_scroller_region_get(m_scroller, nullptr, nullptr, &m_viewWidth, &m_viewHeight);
 }
 
 void TextPage::m_Place()

@@ -12,12 +12,11 @@ namespace
 {
 
 constexpr const char* LINES_STYLE = "popup/c_popup_bottom";
-constexpr const char* SIDE_PANEL_STYLE = "C_PopupBasic_WhiteRightLarge";
 
 bool StandsInSidePanel(const Evas_Object* label)
 {
     const Evas_Object* popup = veskar::PopupAround(label);
-    return popup != nullptr && std::strcmp(elm_object_style_get(popup), SIDE_PANEL_STYLE) == 0;
+    return popup != nullptr && veskar::IsAtSide(popup);
 }
 
 bool HasInk(const Evas_Object* label)

@@ -3,6 +3,7 @@
 // a scrim that stays where it replaces another.
 
 #include "ButtonFocus.h"
+#include "ButtonWidth.h"
 #include "ListHeight.h"
 #include "RowFocus.h"
 #include "ScreenFit.h"
@@ -37,6 +38,7 @@ extern "C"
             veskar::LiveWith<veskar::ScreenFit>(popup, parent, popup);
             veskar::LiveWith<veskar::TextFit>(popup, popup);
             veskar::LiveWith<veskar::ButtonFocus>(popup, popup);
+            veskar::LiveWith<veskar::ButtonWidth>(popup, popup);
             veskar::LiveWith<veskar::ScreenNews>(popup, popup);
             veskar::LiveWith<veskar::Scrim>(popup, popup);
         }

@@ -26,4 +26,10 @@ inline Evas_Object* PopupAround(const Evas_Object* widget)
     return around;
 }
 
+/** Whether the screen is the panel at the side. */
+inline bool IsAtSide(const Evas_Object* popup)
+{
+    return std::strcmp(elm_object_style_get(popup), "C_PopupBasic_WhiteRightLarge") == 0;
+}
+
 } // namespace veskar
