@@ -1,5 +1,5 @@
-// What the program's widgets are given when they are created: a list the height of its rows and a focus that walks them
-// one by one; a screen whole pictures, a size that the TV can show, buttons that lead on, no key before it is seen, and
+// What the program's widgets are given when they are created: a list the height of its rows, whole rows only and a focus
+// that walks them one by one; a screen whole pictures, a size that the TV can show, buttons that lead on, no key before it is seen, and
 // a scrim that stays where it replaces another.
 
 #include "ButtonFocus.h"
@@ -11,6 +11,7 @@
 #include "Scrim.h"
 #include "TextFit.h"
 #include "WholeFrames.h"
+#include "WholeRows.h"
 
 // NOLINTBEGIN(bugprone-reserved-identifier): the names are the linker's.
 extern "C"
@@ -25,6 +26,7 @@ extern "C"
         {
             veskar::LiveWith<veskar::ListHeight>(list, list);
             veskar::LiveWith<veskar::RowFocus>(list, list);
+            veskar::LiveWith<veskar::WholeRows>(list, list);
         }
         return list;
     }

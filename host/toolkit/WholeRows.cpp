@@ -1,0 +1,78 @@
+#include "WholeRows.h"
+
+namespace veskar
+{
+namespace
+{
+
+/** From its top to its bottom, in the window. */
+struct Extent
+{
+    int top = 0;
+    int bottom = 0;
+
+    int Height() const { return bottom - top; }
+    bool Holds(const Extent& other) const
+    {
+        constexpr int ROUNDING = 1; // on a screen that is not 1920x1080
+        return top - other.top <= ROUNDING && other.bottom - bottom <= ROUNDING;
+    }
+};
+
+Extent ExtentOf(const Evas_Object* object)
+{
+    Extent extent;
+    int height = 0;
+    evas_object_geometry_get(object, nullptr, &extent.top, nullptr, &height);
+    extent.bottom = extent.top + height;
+    return extent;
+}
+
+/** Where the rows of a list are seen. */
+Extent ViewOf(const Evas_Object* list)
+{
+    int top = 0;
+    int height = 0;
+    edje_object_part_geometry_get(elm_layout_edje_get(list), "elm.swallow.content", nullptr, &top, nullptr, &height);
+    top += ExtentOf(list).top;
+    return {top, top + height};
+}
+
+} // namespace
+
+WholeRows::WholeRows(Evas_Object* list)
+    : m_list(list), m_rowUnrealised(list, "unrealized", CallSmart<&WholeRows::m_OnRowUnrealised>, this),
+      m_beforeDrawing(CallTask<&WholeRows::m_BeforeDrawing>, this)
+{
+}
+
+void WholeRows::m_OnRowUnrealised(void* row)
+{
+    m_hidden.erase(static_cast<Elm_Object_Item*>(row));
+}
+
+void WholeRows::m_BeforeDrawing()
+{
+    evas_smart_objects_calculate(evas_object_evas_get(m_list));
+    const Extent view = ViewOf(m_list);
+    void* item = nullptr;
+    Eina_List* rows = elm_genlist_realized_items_get(m_list);
+    EINA_LIST_FREE(rows, item)
+    {
+        auto* row = static_cast<Elm_Object_Item*>(item);
+        const Extent place = ExtentOf(elm_object_item_track(row));
+        elm_object_item_untrack(row);
+        m_Show(row, view.Holds(place) || place.Height() > view.Height());
+    }
+}
+
+void WholeRows::m_Show(Elm_Object_Item* row, bool whole)
+{
+    const bool changed = whole ? m_hidden.erase(row) > 0 : m_hidden.insert(row).second;
+    if (changed)
+    {
+        elm_object_item_signal_emit(row, whole ? "veskar,whole" : "veskar,cut", "veskar");
+    }
+}
+
+} // namespace veskar
