@@ -34,9 +34,12 @@ Eina_Bool ShownTest::s_Draw(void* data)
     ecore_evas_manual_render(output);
     const auto* pixels = static_cast<const unsigned*>(ecore_evas_buffer_pixels_get(output));
     Frame frame;
-    for (int row = 0; row < HEIGHT; ++row, pixels += WIDTH)
+    int width = 0;
+    int height = 0;
+    ecore_evas_geometry_get(output, nullptr, nullptr, &width, &height);
+    for (int row = 0; row < height; ++row, pixels += width)
     {
-        frame.emplace_back(pixels, pixels + WIDTH);
+        frame.emplace_back(pixels, pixels + width);
     }
     if (test->last != frame)
     {
