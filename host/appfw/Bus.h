@@ -44,7 +44,8 @@ private:
 /** The last owner writes out what is still queued. */
 using BusConnection = std::unique_ptr<Eldbus_Connection, FreeWith<eldbus_connection_unref>>;
 using BusMessage = std::unique_ptr<Eldbus_Message, FreeWith<eldbus_message_unref>>;
-using BusObject = std::unique_ptr<Eldbus_Service_Interface, FreeWith<eldbus_service_object_unregister>>;
+/** One interface of an object, which may have others. */
+using BusObject = std::unique_ptr<Eldbus_Service_Interface, FreeWith<eldbus_service_interface_unregister>>;
 
 /** A method call without its arguments. */
 inline BusMessage NewCall(const std::string& busName, const std::string& path, const std::string& interface,

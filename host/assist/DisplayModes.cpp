@@ -4,6 +4,7 @@
 #include "Mode.h"
 #include "SettingKeys.h"
 #include "appfw/Window.h"
+#include "toolkit/Widgets.h"
 
 #include <memory>
 #include <string>
@@ -28,20 +29,13 @@ std::filesystem::path ThemeFor(const std::filesystem::path& plain, bool enlarged
     return plain.parent_path() / (name + plain.extension().string());
 }
 
-/** It has no members, and the toolkit writes an error line when it is asked for them. */
-bool IsPrimitive(const std::string& type)
-{
-    return type == "rectangle" || type == "image" || type == "textblock" || type == "text";
-}
-
 bool ContainsShownPopup(const Evas_Object* object)
 {
-    const std::string type = evas_object_type_get(object);
-    if (type == "elm_popup" && evas_object_visible_get(object))
+    if (Is(object, "elm_popup") && evas_object_visible_get(object))
     {
         return true;
     }
-    if (IsPrimitive(type))
+    if (!MayHaveMembers(object))
     {
         return false;
     }

@@ -199,7 +199,7 @@ void ArrangeText(Evas_Object* layout, const std::vector<std::string>& parts)
 /** Rows are as high as they are, and far more than all other texts. */
 void ArrangeInside(Evas_Object* object)
 {
-    if (Is(object, "elm_genlist"))
+    if (Is(object, "elm_genlist") || !MayHaveMembers(object))
     {
         return;
     }

@@ -15,6 +15,12 @@ inline bool Is(const Evas_Object* object, const char* type)
     return actual != nullptr && std::strcmp(actual, type) == 0;
 }
 
+/** Whether it may consist of other objects: the toolkit writes an error line when another is asked for them. */
+inline bool MayHaveMembers(const Evas_Object* object)
+{
+    return !Is(object, "rectangle") && !Is(object, "image") && !Is(object, "textblock") && !Is(object, "text");
+}
+
 /** The screen that the widget is part of, or null. */
 inline Evas_Object* PopupAround(const Evas_Object* widget)
 {

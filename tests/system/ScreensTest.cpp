@@ -30,6 +30,13 @@ long ResidentMemory(unsigned pid)
 class Screens : public TvTest
 {
 protected:
+    /** What the toolkit complains of to its end. */
+    void TearDown() override
+    {
+        EndApplication();
+        EXPECT_EQ(CountInLog("CRI<") + CountInLog("non-smart object"), 0);
+    }
+
     /** A screen of this kind with id 7 of the normal source. */
     Process SendKind(const std::string& kind, const Words& values)
     {
