@@ -42,10 +42,9 @@ void ListHeight::m_OnRowRealised(void* row)
 {
     // Only a realised row has its real height, and it may have several lines.
     m_Ask();
-    if (row == elm_genlist_last_item_get(m_list))
-    {
-        elm_object_item_signal_emit(static_cast<Elm_Object_Item*>(row), "veskar,last", "veskar");
-    }
+    // What drew another row before may draw this one.
+    const bool isLast = row == elm_genlist_last_item_get(m_list);
+    elm_object_item_signal_emit(static_cast<Elm_Object_Item*>(row), isLast ? "veskar,last" : "veskar,inner", "veskar");
 }
 
 void ListHeight::m_Ask()

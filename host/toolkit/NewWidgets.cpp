@@ -1,6 +1,6 @@
-// What the program's widgets are given when they are created: a list the height of its rows, whole rows only and a focus
-// that walks them one by one; a screen whole pictures, a size that the TV can show, buttons that lead on, no key before it is seen, and
-// a scrim that stays where it replaces another.
+// What the program's widgets are given when they are created: a list the height of its rows, whole rows only and a
+// focus that walks them one by one; a screen whole pictures, a size that the TV can show, buttons that lead on, no key
+// before it is seen, and a scrim that stays where it replaces another.
 
 #include "ButtonFocus.h"
 #include "ButtonWidth.h"

@@ -41,14 +41,16 @@ Extent ViewOf(const Evas_Object* list)
 } // namespace
 
 WholeRows::WholeRows(Evas_Object* list)
-    : m_list(list), m_rowUnrealised(list, "unrealized", CallSmart<&WholeRows::m_OnRowUnrealised>, this),
+    : m_list(list), m_rowRealised(list, "realized", CallSmart<&WholeRows::m_OnRowRealised>, this),
       m_beforeDrawing(CallTask<&WholeRows::m_BeforeDrawing>, this)
 {
 }
 
-void WholeRows::m_OnRowUnrealised(void* row)
+void WholeRows::m_OnRowRealised(void* row)
 {
-    m_hidden.erase(static_cast<Elm_Object_Item*>(row));
+    // What drew a hidden row before may draw this one.
+    m_hidden.insert(static_cast<Elm_Object_Item*>(row));
+    m_Show(static_cast<Elm_Object_Item*>(row), true);
 }
 
 void WholeRows::m_BeforeDrawing()

@@ -8,8 +8,8 @@ namespace veskar
 {
 
 /**
- * Hides rows that the end of a list cuts, so that the viewer sees whole rows only. Rows of several lines are higher than
- * others, and the list is then not a number of rows high. A row higher than the list is always seen.
+ * Hides rows that the end of a list cuts, so that the viewer sees whole rows only. Rows of several lines are higher
+ * than others, and the list is then not a number of rows high. A row higher than the list is always seen.
  */
 class WholeRows
 {
@@ -18,12 +18,12 @@ public:
 
 private:
     void m_BeforeDrawing();
-    void m_OnRowUnrealised(void* row);
+    void m_OnRowRealised(void* row);
     void m_Show(Elm_Object_Item* row, bool whole);
 
     Evas_Object* m_list;
     std::set<Elm_Object_Item*> m_hidden;
-    SmartCallback m_rowUnrealised;
+    SmartCallback m_rowRealised;
     IdleEnterer m_beforeDrawing;
 };
 
