@@ -9,17 +9,23 @@ namespace
 
 constexpr std::size_t LONGEST = 32; // bytes
 constexpr std::string_view NO_BREAK_SPACE = "\u00A0";
+constexpr std::string_view WORD_JOINER = "\u2060";
+constexpr std::string_view DASH = "–";
 constexpr std::string_view DIGITS = "0123456789";
 constexpr std::string_view BETWEEN = "0123456789 -/–";
 
+std::string Replaced(std::string text, std::string_view from, std::string_view to)
+{
+    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+    {
+        text.replace(at, from.size(), to);
+    }
+    return text;
+}
+
 std::string WithoutBreaks(std::string_view number)
 {
-    std::string joined;
-    for (const char character : number)
-    {
-        character == ' ' ? joined += NO_BREAK_SPACE : joined += character;
-    }
-    return joined;
+    return Replaced(Replaced(std::string(number), " ", NO_BREAK_SPACE), DASH, std::string(DASH).append(WORD_JOINER));
 }
 
 /** The number that `text` begins with, up to its last digit. */

@@ -86,7 +86,7 @@ TEST_F(TextFitTest, NumbersStayOnOneLine)
     using veskar::WithNumbersTogether;
     EXPECT_EQ(WithNumbersTogether("Call 0800 / 123 456 now"), "Call 0800\u00A0/\u00A0123\u00A0456 now");
     EXPECT_EQ(WithNumbersTogether("14 March 2026. 5 days, 1 - x"), "14 March 2026. 5 days, 1 - x");
-    EXPECT_EQ(WithNumbersTogether("<align 0 0>1 – 2<b>3 4"), "<align 0 0>1\u00A0–\u00A02<b>3\u00A04");
+    EXPECT_EQ(WithNumbersTogether("<align 0 0>1–2<b>3 4"), "<align 0 0>1–\u20602<b>3\u00A04");
     EXPECT_EQ(WithNumbersTogether("1 2 <open 3 4"), "1\u00A02 <open 3 4");
     const std::string endless = "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15";
     EXPECT_EQ(WithNumbersTogether(endless), endless);
