@@ -1,0 +1,127 @@
+// A screen with any texts, from the window manager's call to its first frames, within a bound of processor time.
+//
+// The first byte chooses the screen; the texts follow. A byte that is not UTF-8 becomes a combining mark.
+
+#include "Input.h"
+#include "Toolkit.h"
+#include "Tv.h"
+#include "WindowManager.h"
+#include "appfw/Window.h"
+#include "assist/Speech.h"
+#include "settings/SettingsWatch.h"
+
+#include <ctime>
+
+#include <Ecore_Evas.h>
+
+// What has no part in drawing.
+
+extern "C" void ecore_wl2_sync(void) {}
+void veskar::Say(std::string /*text*/, std::string /*language*/, Turn /*turn*/) {}
+veskar::SettingsWatch::SettingsWatch(std::initializer_list<const char*> /*keys*/, std::function<void()> /*changed*/) {}
+veskar::SettingsWatch::~SettingsWatch() = default;
+
+namespace
+{
+
+constexpr double BOUND = 0.2; // seconds
+constexpr unsigned FIRST_MARK = 0x300;
+
+std::string Valid(const std::string& bytes)
+{
+    std::vector<Eina_Unicode> characters;
+    int at = 0;
+    for (Eina_Unicode next = 0; (next = eina_unicode_utf8_next_get(bytes.c_str(), &at)) != 0;)
+    {
+        const bool isCharacter = next < 0xD800 || (next > 0xDFFF && next < 0x110000);
+        characters.push_back(isCharacter ? next : FIRST_MARK + next % 0x70);
+    }
+    characters.push_back(0);
+    int length = 0;
+    char* text =
+        eina_unicode_unicode_to_utf8_range(characters.data(), static_cast<int>(characters.size()) - 1, &length);
+    std::string valid(text, static_cast<std::size_t>(length));
+    free(text);
+    return valid;
+}
+
+double Now()
+{
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
+}
+
+void Show(VESKAR_APP::WindowManager& manager, int kind, const Texts& texts)
+{
+    constexpr int UI = 1;
+    constexpr unsigned char SOURCE = 255;
+    const std::string &title = texts[0], &sub = texts[1], &bottom = texts[2], &text = texts[3];
+    const Texts buttons{texts[4], texts[5]};
+    const Texts rows(texts.begin() + 6, texts.end());
+    switch (kind % 6)
+    {
+    case 0:
+        manager.ShowMessage(UI, SOURCE, title, sub, bottom, text, buttons, false);
+        break;
+    case 1:
+        manager.ShowList(UI, SOURCE, title, sub, bottom, rows, "LCR", true, buttons, true);
+        break;
+    case 2:
+        manager.ShowMultipleList(UI, SOURCE, title, sub, bottom, rows, "L", false, buttons, true);
+        break;
+    case 3:
+        manager.ShowProgress(UI, SOURCE, title, sub, bottom, 50);
+        break;
+    case 4:
+        manager.ShowLoading(UI, SOURCE, text, buttons, 0);
+        break;
+    default:
+        manager.ShowPinManager(UI, SOURCE, title, sub, bottom, 4, text);
+    }
+}
+
+/** Processor seconds of this thread, up to the second frame: some of the sizes are known after the first. */
+double Draw(VESKAR_APP::WindowManager& manager, int kind, const Texts& texts)
+{
+    tv.Forget();
+    const double start = Now();
+    Show(manager, kind, texts);
+    for (int frame = 0; frame < 2; ++frame)
+    {
+        ecore_main_loop_iterate();
+        ecore_evas_manual_render(ecore_evas_ecore_evas_get(evas_object_evas_get(veskar::FirstWindow())));
+    }
+    return Now() - start;
+}
+
+VESKAR_APP::WindowManager& Manager()
+{
+    Require(StartToolkit(), "the toolkit starts");
+    elm_theme_overlay_add(nullptr, VESKAR_THEME_FILE);
+    static VESKAR_APP::WindowManager manager([] {}, [] {});
+    evas_object_resize(veskar::FirstWindow(), 960, 540);
+    return manager;
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
+{
+    static auto& manager = Manager();
+    Input input(data, size);
+    const int kind = input.Byte();
+    Texts texts;
+    while (!input.Empty() || texts.size() < 7)
+    {
+        texts.push_back(Valid(input.Text()));
+    }
+    // What is measured twice has its fonts loaded, and is no moment of a busy machine.
+    double seconds = BOUND;
+    for (int attempt = 0; attempt < 3 && seconds >= BOUND; ++attempt)
+    {
+        seconds = Draw(manager, kind, texts);
+    }
+    Require(seconds < BOUND, "a screen is drawn within 200 ms: " + std::to_string(seconds));
+    return 0;
+}
