@@ -188,6 +188,10 @@ void RouterBinding::s_OnKey(void* data, tizen_keyrouter*, const char* name, uint
 void RouterBinding::s_OnGrabbed(void* data, tizen_keyrouter*, const char*, uint32_t, uint32_t result)
 {
     auto* self = static_cast<RouterBinding*>(data);
+    if (self->m_asked.empty())
+    {
+        return; // late: the round trip that waited for it has failed
+    }
     const Holding asked = self->m_asked.front();
     self->m_asked.pop_front();
     if (result != TIZEN_KEYROUTER_RESULT_GRANTED)
