@@ -170,6 +170,24 @@ TEST_F(Appfw, RequestsAreToldOnceAndInTheirOrderWheneverTheProcessEnds)
     EXPECT_GT(CountInLog("passed on to the next process"), ROUNDS) << "no request met the end of the process";
 }
 
+TEST_F(Appfw, ALargeRequestThatMeetsTheEndOfTheProcessIsPassedOnWhole)
+{
+    SendRaw(Request("start"));
+    const std::string id = Applications::DIALOGUES;
+    auto application = sdbus::createProxy(*m_bus, id, PathOf(id));
+    for (const char* action : {"fill memory", "end"}) // the first takes long enough for all of them to arrive
+    {
+        application->callMethod(Applications::APP_CONTROL)
+            .onInterface(Applications::INTERFACE)
+            .withArguments(Request(action, action))
+            .dontExpectReply();
+    }
+    Values large = Request("large");
+    large["more"] = Events(100, std::string(60'000, 'x')); // a socket takes some 200,000 bytes
+    EXPECT_EQ(SendRaw(large), "");
+    EXPECT_EQ(CountInLog("passed on to the next process"), 1);
+}
+
 TEST_F(Appfw, ALeavingProcessThatHangsDoesNotKeepTheNextOneForEver)
 {
     const std::string leaving = Applications::LeavingNameOf(Applications::DIALOGUES);
