@@ -66,14 +66,15 @@ bool IsWellFormedComponent(std::string_view component)
 }
 
 /** Bytes. No value of the TV comes near it. */
-constexpr off_t LARGEST_FILE = 64L * 1024;
+constexpr size_t LARGEST_FILE = 64UL * 1024;
 
 /** Nothing for what is missing, too large, or no plain file. */
 std::optional<std::string> ReadFile(const char* path)
 {
     const FileDescriptor file(open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status = {};
-    if (!file || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > LARGEST_FILE)
+    if (!file || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode) ||
+        static_cast<size_t>(status.st_size) > LARGEST_FILE)
     {
         return std::nullopt;
     }
@@ -205,6 +206,11 @@ std::error_code WriteSetting(std::string_view key, std::string_view value)
     {
         return std::make_error_code(std::errc::invalid_argument);
     }
+    const std::string line = std::string(value) + "\n";
+    if (line.size() > LARGEST_FILE)
+    {
+        return std::make_error_code(std::errc::file_too_large);
+    }
     std::error_code error;
     fs::create_directories(path->parent_path(), error);
     if (error)
@@ -212,7 +218,7 @@ std::error_code WriteSetting(std::string_view key, std::string_view value)
         return error;
     }
     TemporaryFile file(*path);
-    error = file.Write(std::string(value) + "\n");
+    error = file.Write(line);
     return error ? error : file.MoveTo(*path);
 }
 

@@ -45,7 +45,7 @@ std::optional<int> ReadWholeNumber(std::string_view key);
 
 /**
  * Replaces the file in one step, so that a reader sees the old value or the new one. Makes the folders that are
- * missing. `invalid_argument` for a key without a file.
+ * missing. `invalid_argument` for a key without a file, `file_too_large` for a value that no reader would take.
  */
 std::error_code WriteSetting(std::string_view key, std::string_view value);
 
