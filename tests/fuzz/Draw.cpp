@@ -1,6 +1,5 @@
-// A screen with any texts, from the window manager's call to its first frames, within a bound of processor time.
-//
-// The first byte chooses the screen; the texts follow. A byte that is not UTF-8 becomes a combining mark.
+// A screen with any texts, from the window manager's call to its first frames, within a bound of processor time. The
+// first byte chooses the screen; the texts follow, in which a byte that is not UTF-8 becomes a combining mark.
 
 #include "Input.h"
 #include "Toolkit.h"
@@ -15,7 +14,6 @@
 #include <Ecore_Evas.h>
 
 // What has no part in drawing.
-
 extern "C" void ecore_wl2_sync(void) {}
 void veskar::Say(std::string /*text*/, std::string /*language*/, Turn /*turn*/) {}
 veskar::SettingsWatch::SettingsWatch(std::initializer_list<const char*> /*keys*/, std::function<void()> /*changed*/) {}
@@ -25,10 +23,10 @@ namespace
 {
 
 constexpr double BOUND = 0.2; // seconds
-constexpr unsigned FIRST_MARK = 0x300;
 
 std::string Valid(const std::string& bytes)
 {
+    constexpr Eina_Unicode FIRST_MARK = 0x300;
     std::vector<Eina_Unicode> characters;
     int at = 0;
     for (Eina_Unicode next = 0; (next = eina_unicode_utf8_next_get(bytes.c_str(), &at)) != 0;)
@@ -36,7 +34,7 @@ std::string Valid(const std::string& bytes)
         const bool isCharacter = next < 0xD800 || (next > 0xDFFF && next < 0x110000);
         characters.push_back(isCharacter ? next : FIRST_MARK + next % 0x70);
     }
-    characters.push_back(0);
+    characters.push_back(0); // the toolkit reads one behind the range
     int length = 0;
     char* text =
         eina_unicode_unicode_to_utf8_range(characters.data(), static_cast<int>(characters.size()) - 1, &length);
@@ -52,41 +50,19 @@ double Now()
     return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
 }
 
-void Show(VESKAR_APP::WindowManager& manager, int kind, const Texts& texts)
-{
-    constexpr int UI = 1;
-    constexpr unsigned char SOURCE = 255;
-    const std::string &title = texts[0], &sub = texts[1], &bottom = texts[2], &text = texts[3];
-    const Texts buttons{texts[4], texts[5]};
-    const Texts rows(texts.begin() + 6, texts.end());
-    switch (kind % 6)
-    {
-    case 0:
-        manager.ShowMessage(UI, SOURCE, title, sub, bottom, text, buttons, false);
-        break;
-    case 1:
-        manager.ShowList(UI, SOURCE, title, sub, bottom, rows, "LCR", true, buttons, true);
-        break;
-    case 2:
-        manager.ShowMultipleList(UI, SOURCE, title, sub, bottom, rows, "L", false, buttons, true);
-        break;
-    case 3:
-        manager.ShowProgress(UI, SOURCE, title, sub, bottom, 50);
-        break;
-    case 4:
-        manager.ShowLoading(UI, SOURCE, text, buttons, 0);
-        break;
-    default:
-        manager.ShowPinManager(UI, SOURCE, title, sub, bottom, 4, text);
-    }
-}
-
 /** Processor seconds of this thread, up to the second frame: some of the sizes are known after the first. */
 double Draw(VESKAR_APP::WindowManager& manager, int kind, const Texts& texts)
 {
     tv.Forget();
+    const Texts buttons{texts[4], texts[5]};
+    const Texts rows(texts.begin() + 6, texts.end());
     const double start = Now();
-    Show(manager, kind, texts);
+    kind % 6 == 0   ? manager.ShowMessage(1, 255, texts[0], texts[1], texts[2], texts[3], buttons, false)
+    : kind % 6 == 1 ? manager.ShowList(1, 255, texts[0], texts[1], texts[2], rows, "LCR", true, buttons, true)
+    : kind % 6 == 2 ? manager.ShowMultipleList(1, 255, texts[0], texts[1], texts[2], rows, "L", false, buttons, true)
+    : kind % 6 == 3 ? manager.ShowProgress(1, 255, texts[0], texts[1], texts[2], 50)
+    : kind % 6 == 4 ? manager.ShowLoading(1, 255, texts[3], buttons, 0)
+                    : manager.ShowPinManager(1, 255, texts[0], texts[1], texts[2], 4, texts[3]);
     for (int frame = 0; frame < 2; ++frame)
     {
         ecore_main_loop_iterate();
@@ -95,11 +71,11 @@ double Draw(VESKAR_APP::WindowManager& manager, int kind, const Texts& texts)
     return Now() - start;
 }
 
-VESKAR_APP::WindowManager& Manager()
+VESKAR_APP::WindowManager* Start()
 {
     Require(StartToolkit(), "the toolkit starts");
     elm_theme_overlay_add(nullptr, VESKAR_THEME_FILE);
-    static VESKAR_APP::WindowManager manager([] {}, [] {});
+    auto* manager = new VESKAR_APP::WindowManager([] {}, [] {});
     evas_object_resize(veskar::FirstWindow(), 960, 540);
     return manager;
 }
@@ -108,7 +84,7 @@ VESKAR_APP::WindowManager& Manager()
 
 int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
 {
-    static auto& manager = Manager();
+    static auto* manager = Start();
     Input input(data, size);
     const int kind = input.Byte();
     Texts texts;
@@ -116,11 +92,11 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
     {
         texts.push_back(Valid(input.Text()));
     }
-    // What is measured twice has its fonts loaded, and is no moment of a busy machine.
+    // What is measured again has its fonts loaded, and is no moment of a busy machine.
     double seconds = BOUND;
     for (int attempt = 0; attempt < 3 && seconds >= BOUND; ++attempt)
     {
-        seconds = Draw(manager, kind, texts);
+        seconds = Draw(*manager, kind, texts);
     }
     Require(seconds < BOUND, "a screen is drawn within 200 ms: " + std::to_string(seconds));
     return 0;

@@ -23,49 +23,14 @@ Input* s_input = nullptr;
 wl_display* s_display = nullptr;
 int s_compositor = -1;
 
-void Append(std::string& message, uint32_t word)
-{
-    message.append(reinterpret_cast<const char*>(&word), sizeof word);
-}
-
-void Append(std::string& message, const std::string& text)
-{
-    Append(message, static_cast<uint32_t>(text.size() + 1));
-    message += text;
-    message.append(4 - text.size() % 4, '\0');
-}
-
-std::string Event(uint32_t object, uint32_t opcode, const std::string& arguments)
-{
-    std::string event;
-    Append(event, object);
-    Append(event, static_cast<uint32_t>(8 + arguments.size()) << 16U | opcode);
-    return event + arguments;
-}
-
+/** The object, the event's number and its arguments. The router is object 5, a callback 6 or more. */
 std::string NextEvent()
 {
-    constexpr uint32_t ROUTER = 5; // after the display, the registry, the compositor and the surface
-    std::string arguments;
-    switch (s_input->Byte() % 5)
-    {
-    case 0:
-        Append(arguments, s_input->Text());
-        Append(arguments, s_input->Byte());
-        return Event(ROUTER, 0, arguments);
-    case 1:
-        Append(arguments, s_input->Text());
-        Append(arguments, s_input->Byte() % 8U);
-        Append(arguments, s_input->Byte() % 4U);
-        return Event(ROUTER, 1, arguments);
-    case 2:
-        Append(arguments, 0);
-        return Event(6 + s_input->Byte() % 4U, 0, arguments); // a callback, if it is one
-    case 3:
-        return Event(s_input->Byte(), s_input->Byte() % 4U, s_input->Bytes(s_input->Byte() % 8U * 4));
-    default:
-        return s_input->Bytes(s_input->Byte());
-    }
+    const uint32_t object = s_input->Byte();
+    const uint32_t opcode = s_input->Byte() % 4U;
+    const std::string arguments = s_input->Bytes(s_input->Byte() % 16U * 4);
+    const uint32_t header[] = {object, static_cast<uint32_t>(8 + arguments.size()) << 16U | opcode};
+    return std::string(reinterpret_cast<const char*>(header), sizeof header) + arguments;
 }
 
 /** The compositor sends its next events and the client reads them. Null is the toolkit's queue. */
@@ -80,11 +45,7 @@ int Read(wl_event_queue* queue)
     wl_display_flush(s_display);
     const bool ready =
         (queue != nullptr ? wl_display_prepare_read_queue(s_display, queue) : wl_display_prepare_read(s_display)) == 0;
-    if (ready && events.empty())
-    {
-        wl_display_cancel_read(s_display);
-    }
-    if (ready && !events.empty() && wl_display_read_events(s_display) < 0)
+    if (ready && wl_display_read_events(s_display) < 0)
     {
         return -1;
     }
@@ -92,8 +53,9 @@ int Read(wl_event_queue* queue)
                             : wl_display_dispatch_pending(s_display);
 }
 
-_KeyList Keys(std::list<std::string>& names)
+void GrabOrUngrab(int (*function)(wl_surface*, const _KeyList*), wl_surface* surface)
 {
+    std::list<std::string> names;
     _KeyList list;
     KeyRouter_Reset_KeyList(&list);
     for (int left = s_input->Byte() % 4; left > 0; --left)
@@ -101,7 +63,7 @@ _KeyList Keys(std::list<std::string>& names)
         names.push_back(s_input->Text());
         KeyRouter_Add_Key(names.back().c_str(), s_input->Byte() % 8, &list);
     }
-    return list;
+    function(surface, &list);
 }
 
 void PressOrRelease()
@@ -117,21 +79,12 @@ void PressOrRelease()
 void Step(wl_registry* registry, wl_surface* surface)
 {
     auto& screen = veskar::OwnScreen::Instance();
-    std::list<std::string> names;
     switch (s_input->Byte() % 8)
     {
     case 0:
-    {
-        const _KeyList list = Keys(names);
-        KeyRouter_Set_KeyList(surface, &list);
-        return;
-    }
+        return GrabOrUngrab(KeyRouter_Set_KeyList, surface);
     case 1:
-    {
-        const _KeyList list = Keys(names);
-        KeyRouter_UnSet_KeyList(surface, &list);
-        return;
-    }
+        return GrabOrUngrab(KeyRouter_UnSet_KeyList, surface);
     case 2:
         return screen.Comes();
     case 3:

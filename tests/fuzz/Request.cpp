@@ -1,12 +1,12 @@
-// A request, from the message on the bus to the call of the window manager.
-//
-// Each value of the input: its kind (s text, r repeated text, a array, anything else a type that no request has), its
-// key, and what belongs to that kind.
+// A request, from the message on the bus to the call of the window manager. The input is the request's values: the kind
+// of each (s text, r repeated text, a array, or any other type), its key and what belongs to the kind. Needs a bus.
 
 #include "AppControlCodec.h"
+#include "ApplicationObject.h"
 #include "BusName.h"
 #include "IWindowManager.h"
 #include "Input.h"
+#include "MainLoop.h"
 #include "ServiceProcessor.h"
 #include "TvBus.h"
 
@@ -28,7 +28,6 @@ VESKAR_API::IVesKarController* VESKAR_API::IVesKarController::Instance()
 namespace
 {
 
-/** Counts the calls. */
 struct CountingScreens : VESKAR_APP::IWindowManager
 {
     using T = const Text&;
@@ -55,59 +54,35 @@ struct CountingScreens : VESKAR_APP::IWindowManager
 };
 
 /** The bus carries no other text. */
-std::string BusText(std::string text)
+std::string BusText(const std::string& text)
 {
     return IsBusText(text) ? text : std::to_string(text.size());
 }
 
-std::string Repeated(const std::string& text, unsigned times)
-{
-    constexpr std::size_t LONGEST = 2 * LONGEST_TEXT;
-    std::string repeated;
-    while (times-- > 0 && repeated.size() + text.size() <= LONGEST)
-    {
-        repeated += text;
-    }
-    return repeated;
-}
-
 void AppendValue(Eldbus_Message_Iter* entry, char kind, Input& input)
 {
-    const char* const types[] = {"i", "v", "ai", "as", "s"};
-    const char* type = kind == 's' || kind == 'r' ? "s" : kind == 'a' ? "as" : types[input.Byte() % 3];
-    auto* variant = eldbus_message_iter_container_new(entry, 'v', type);
-    const std::string text = BusText(input.Text());
-    if (*type == 's')
+    const bool isArray = kind == 'a';
+    const bool isText = kind == 's' || kind == 'r';
+    auto* variant = eldbus_message_iter_container_new(entry, 'v', isArray ? "as" : isText ? "s" : "i");
+    auto* elements = isArray ? eldbus_message_iter_container_new(variant, 'a', "s") : nullptr;
+    for (int left = isArray ? input.Byte() : 0; left > 0; --left)
     {
-        eldbus_message_iter_basic_append(variant, 's', (kind == 'r' ? Repeated(text, input.Number()) : text).c_str());
+        eldbus_message_iter_basic_append(elements, 's', BusText(input.Text()).c_str());
     }
-    else if (*type == 'a')
+    std::string text = BusText(input.Text());
+    for (unsigned size = kind == 'r' ? input.Number() : 0; !text.empty() && text.size() < size;)
     {
-        auto* elements = eldbus_message_iter_container_new(variant, 'a', type + 1);
-        for (int left = input.Byte(); left > 0; --left)
-        {
-            type[1] == 's' ? eldbus_message_iter_basic_append(elements, 's', BusText(input.Text()).c_str())
-                           : eldbus_message_iter_basic_append(elements, 'i', left);
-        }
-        eldbus_message_iter_container_close(variant, elements);
+        text += text;
     }
-    else if (*type == 'v')
-    {
-        auto* inner = eldbus_message_iter_container_new(variant, 'v', "s");
-        eldbus_message_iter_basic_append(inner, 's', text.c_str());
-        eldbus_message_iter_container_close(variant, inner);
-    }
-    else
-    {
-        eldbus_message_iter_basic_append(variant, 'i', kind);
-    }
+    isArray  ? (void)eldbus_message_iter_container_close(variant, elements)
+    : isText ? (void)eldbus_message_iter_basic_append(variant, 's', text.c_str())
+             : (void)eldbus_message_iter_basic_append(variant, 'i', kind);
     eldbus_message_iter_container_close(entry, variant);
 }
 
-BusMessage Message(Input& input)
+BusMessage Message(Input& input, const std::string& receiver)
 {
-    auto call = NewCall(Applications::DIALOGUES, PathOf(Applications::DIALOGUES), Applications::INTERFACE,
-                        Applications::APP_CONTROL);
+    auto call = NewCall(receiver, PathOf(Applications::DIALOGUES), Applications::INTERFACE, Applications::APP_CONTROL);
     auto* arguments = eldbus_message_iter_get(call.get());
     auto* entries = eldbus_message_iter_container_new(arguments, 'a', "{sv}");
     while (!input.Empty())
@@ -123,25 +98,68 @@ BusMessage Message(Input& input)
     return call;
 }
 
+/** The application's object on the bus, and a sender. */
+class Bus
+{
+public:
+    std::string Name() const { return eldbus_connection_unique_name_get(m_connection.get()); }
+
+    /** What the application gets of the call, or nothing and the error's text. */
+    std::unique_ptr<app_control_s> Send(BusMessage call, std::string& error)
+    {
+        m_received.reset();
+        std::optional<std::string> replied;
+        const auto onReply = [](void* data, const Eldbus_Message* reply, Eldbus_Pending*)
+        {
+            const auto error = ErrorOf(reply).value_or(BusError{REFUSED_ERROR, ""});
+            Require(error.name == std::string(REFUSED_ERROR),
+                    "a request is taken or refused at once: " + std::string(error.text));
+            *static_cast<std::optional<std::string>*>(data) = error.text;
+            WakeMainLoop();
+        };
+        eldbus_connection_send(m_connection.get(), call.release(), onReply, &replied, -1);
+        TurnMainLoopUntil([&replied] { return replied.has_value(); });
+        error = *replied;
+        return std::move(m_received);
+    }
+
+private:
+    void m_Take(LifecycleEvent event)
+    {
+        m_received = std::move(event.request);
+        auto* reply = eldbus_message_method_return_new(event.call.get());
+        eldbus_connection_send(m_connection.get(), reply, nullptr, nullptr, -1);
+    }
+
+    const BusLibrary m_library;
+    const BusConnection m_connection{eldbus_connection_get(ELDBUS_CONNECTION_TYPE_SESSION)};
+    const ApplicationObject m_object{m_connection.get(), Applications::DIALOGUES,
+                                     [this](LifecycleEvent event)
+                                     {
+                                         m_Take(std::move(event));
+                                     }};
+    std::unique_ptr<app_control_s> m_received;
+};
+
 } // namespace
 
 int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
 {
-    static const BusLibrary library;
+    static auto* bus = new Bus;
     Input input(data, size);
-    app_control_s request;
-    if (const auto refusal = DecodeAppControl(Message(input).get(), request))
+    std::string error;
+    const auto request = bus->Send(Message(input, bus->Name()), error);
+    Require(request == nullptr || error.empty(), "a request is taken or refused: " + error);
+    if (request == nullptr)
     {
-        Require(!refusal->empty() && IsBusText(*refusal), "a refusal is a text for the sender: " + *refusal);
+        Require(!error.empty() && error != "the arguments are not a{sv}", "a refusal has its reason: " + error);
         return 0;
     }
-    const auto again = EncodeAppControl(Applications::DIALOGUES, Applications::DIALOGUES, request);
-    app_control_s copy;
-    Require(again && !DecodeAppControl(again.get(), copy) && copy.data == request.data,
-            "what is passed on is the same");
+    const auto copy = bus->Send(EncodeAppControl(Applications::DIALOGUES, bus->Name(), *request), error);
+    Require(copy != nullptr && copy->data == request->data, "what is passed on is the same");
 
     CountingScreens screens;
-    const bool handled = VESKAR_APP::ServiceProcessor(screens).HandleService(&request);
+    const bool handled = VESKAR_APP::ServiceProcessor(screens).HandleService(request.get());
     Require(screens.calls <= (handled ? 1 : 0), "a request makes one call at most");
     return 0;
 }

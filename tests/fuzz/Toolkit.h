@@ -1,4 +1,4 @@
-/** The toolkit, drawing into memory, for the targets that need it. */
+/** The toolkit, drawing into memory. */
 #pragma once
 
 #include <cstdlib>
@@ -8,12 +8,9 @@
 
 inline bool StartToolkit()
 {
-    for (const char* variable : {"ELM_DISPLAY", "ELM_ENGINE"})
-    {
-        setenv(variable, "buffer", 1);
-    }
+    setenv("ELM_DISPLAY", "buffer", 1);
+    setenv("ELM_ENGINE", "buffer", 1);
     setenv("ELM_SCALE", "1.0", 1);
-    setenv("EINA_LOG_LEVEL", "0", 1);
     setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 1);
     eina_init();
     eina_log_threads_enable();

@@ -152,7 +152,12 @@ TEST_F(Appfw, RequestsAreToldOnceAndInTheirOrderWheneverTheProcessEnds)
         application->callMethodAsync(Applications::APP_CONTROL)
             .onInterface(Applications::INTERFACE)
             .withArguments(request)
-            .uponReplyInvoke([&taken](const sdbus::Error* error) { taken += error == nullptr ? 1 : 0; });
+            .uponReplyInvoke(
+                [&taken](const sdbus::Error* error)
+                {
+                    taken += error == nullptr ? 1 : 0;
+                    EXPECT_EQ(error == nullptr ? "" : error->getMessage(), "");
+                });
         std::this_thread::sleep_for(std::chrono::microseconds(moment(random)));
         ASSERT_TRUE(sent % BURST != 0 || WaitUntil([&] { return taken == sent; })) << taken << " of " << sent;
     }
