@@ -120,33 +120,38 @@ int Application::m_RunOwner(int argc, char** argv)
         departure.Refuse(name, why.c_str());
         return APP_ERROR_INVALID_CONTEXT;
     }
-    const bool created = m_Live();
-    if (created)
+    const auto failure = m_Live();
+    if (failure.empty())
     {
         departure.HandOver(name);
     }
     else
     {
-        departure.Refuse(name, "the application could not be created");
+        APPFW_ERROR("%s ends: %s", m_id.c_str(), failure.c_str());
+        departure.Refuse(name, failure.c_str());
     }
     elm_shutdown();
-    return created ? APP_ERROR_NONE : APP_ERROR_INVALID_CONTEXT;
+    return failure.empty() ? APP_ERROR_NONE : APP_ERROR_INVALID_CONTEXT;
 }
 
-bool Application::m_Live()
+std::string Application::m_Live()
 {
     LoadTheme();
     if (m_callbacks.create != nullptr && !m_callbacks.create(m_userData))
     {
-        APPFW_ERROR("%s: the create callback failed", m_id.c_str());
-        return false;
+        return "the create callback failed";
     }
-    m_RunLoop();
+    // It may have gone since the start, and the toolkit then made no window and will notice nothing.
+    auto missing = MissingCompositor();
+    if (missing.empty())
+    {
+        m_RunLoop();
+    }
     if (m_callbacks.terminate != nullptr)
     {
         m_callbacks.terminate(m_userData);
     }
-    return true;
+    return missing;
 }
 
 void Application::m_RunLoop()

@@ -62,7 +62,8 @@ private:
     ~Application() = default;
 
     int m_RunOwner(int argc, char** argv);
-    bool m_Live();
+    /** Returns why it could not live, or nothing. */
+    std::string m_Live();
     void m_RunLoop();
 
     void m_Deliver(LifecycleEvent& event);

@@ -71,6 +71,10 @@ bool Create(void*)
 {
     Tell("create");
     elm_policy_set(ELM_POLICY_QUIT, ELM_POLICY_QUIT_NONE);
+    if (getenv("PROBE_LOSES_COMPOSITOR") != nullptr)
+    {
+        setenv("WAYLAND_DISPLAY", "gone", 1);
+    }
     s_window = elm_win_add(nullptr, "probe", ELM_WIN_DIALOG_BASIC);
     evas_object_show(s_window);
     return getenv("PROBE_CREATE_FAILS") == nullptr;

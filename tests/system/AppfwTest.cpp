@@ -259,9 +259,11 @@ TEST_F(Appfw, WithoutABusOrACompositorOrWhenCreateFailsItEndsWithAnError)
 {
     EXPECT_EQ(Process(InLog("WAYLAND_DISPLAY=nowhere")).Status(), 1);
     EXPECT_EQ(CountInLog("no compositor at WAYLAND_DISPLAY=nowhere"), 1);
+    EXPECT_EQ(Process(InLog("PROBE_LOSES_COMPOSITOR=1")).Status(), 1);
+    EXPECT_EQ(CountInLog("no compositor at WAYLAND_DISPLAY=gone"), 1);
     EXPECT_EQ(Process(InLog("PROBE_CREATE_FAILS=1")).Status(), 1);
     EXPECT_EQ(Process({"env", "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere", PROBE}).Status(), 1);
-    ExpectTold({"create"});
+    ExpectTold({"create", "terminate", "create"});
 }
 
 TEST_F(Appfw, AThemeThatIsDamagedAndFontsThatAreMissingAreOneLineEach)
