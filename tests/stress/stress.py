@@ -182,7 +182,9 @@ def spoil_settings(folder_too):
 
 
 def set_clock_back():
-    pathlib.Path(os.environ["XDG_RUNTIME_DIR"], "clock").write_text("-3600")
+    clock = pathlib.Path(os.environ["XDG_RUNTIME_DIR"], "clock")
+    clock.with_suffix(".new").write_text("-3600")
+    clock.with_suffix(".new").rename(clock)  # a reader never sees half of it
 
 
 def fill_disk():
