@@ -45,6 +45,15 @@ FileDescriptor ListenAt(const std::string& path)
     return listening;
 }
 
+/** The folder of the socket keeps others out already; this holds where somebody has opened the folder. */
+bool IsOfThisUser(const FileDescriptor& client)
+{
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    return getsockopt(client.Get(), SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 &&
+           (peer.uid == geteuid() || peer.uid == 0);
+}
+
 std::string TextOf(const RemoteReply& reply)
 {
     std::string text;
@@ -170,7 +179,7 @@ int RemoteSocket::s_OnConnect(int fd, uint32_t, void* data)
 {
     auto& self = *static_cast<RemoteSocket*>(data);
     FileDescriptor client(accept4(fd, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
-    if (!client)
+    if (!client || !IsOfThisUser(client))
     {
         return 0;
     }

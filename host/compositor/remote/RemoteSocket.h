@@ -2,7 +2,8 @@
  * The socket of the remote control: commands in, replies out, one line each.
  *
  * A reply is any number of lines that start with a space, then a line "ok" or "error WHAT". A client may send its next
- * command before the reply to the last one. Commands of one client are executed one after the other.
+ * command before the reply to the last one. Commands of one client are executed one after the other. A client of
+ * another user than the compositor's, and not of root, is disconnected.
  */
 #pragma once
 
