@@ -263,6 +263,35 @@ TEST_P(GridTest, EveryKindOfScreenStandsOnIt)
     ExpectOnGrid("a PIN");
 }
 
+TEST_P(GridTest, ThePanelAtTheSideHasItsOwn)
+{
+    const char* panel = "Delete Kavro Operator Profile";
+    const auto expectPanel = [this](const char* screen, const Span& sheet)
+    {
+        SCOPED_TRACE(screen);
+        Look();
+        const Box place = Place(LayoutWith("panel"), "panel");
+        EXPECT_EQ(Across(place), sheet);
+        EXPECT_EQ(Span(place.top, place.bottom), Span(40, SCREEN_H - 40));
+        for (Evas_Object* button : Find("elm_button"))
+        {
+            EXPECT_EQ(Across(Place(button)), Span(sheet.first + 64, sheet.second - 64));
+        }
+        for (Evas_Object* label : Find("elm_label"))
+        {
+            const Evas_Object* edje = elm_layout_edje_get(label);
+            EXPECT_TRUE(!edje_object_part_exists(edje, "measure") ||
+                        Across(Place(edje, "text")).first == sheet.first + 104);
+        }
+    };
+    manager->ShowMessage(1, 255, panel, "S", "B", "Text", {"OK", "Cancel"}, false);
+    expectPanel("a question", {952, 1880});
+    manager->ShowImage(1, 255, panel, "S", "B", images[0], 3000, 400, {"OK"}, false);
+    expectPanel("a picture does not widen it", {952, 1880});
+    manager->ShowList(1, 255, panel, "S", "B", {"a\tb", "c\td"}, "LR", true, {"OK"}, true);
+    expectPanel("a list of cells", {534, 1880});
+}
+
 TEST_P(GridTest, TextsFollowEachOtherInOneRhythm)
 {
     constexpr int EDGE = 2;
