@@ -21,7 +21,7 @@ constexpr SettingKey KEYS[] = {
     {NUMBER_PAD_SHOWN_KEY, SettingType::Integer, "1 while the number pad is on the screen"},
     {KEY_GUARD_KEY, SettingType::Integer,
      "milliseconds after a screen's first frame in which Return, Back and Exit reach nobody: 200 when unset, 0 never",
-     0, 10'000},
+     0, 60'000},
     {"memory/ephotel/hotelmenu/hotelfactorymode", SettingType::Switch, "the hotel factory menu started the dialogue"},
     {"com.brelmon/featureconf/bt_profile_bt_smart_control", SettingType::Switch,
      "the set has a smart remote without digit keys, so a PIN may ask for the number pad"},

@@ -70,11 +70,16 @@ Side SideOf(const std::vector<Line>& lines, int width)
     return all(isCentred) ? Side::middle : Side::mixed;
 }
 
-/** The width at which the text has as many lines as at `width`, and no word is broken. */
-int Narrowest(TextProbe& probe, int width)
+/** The least width at which the text has as many lines as at `width`. No word is broken that is not broken there. */
+int Narrowest(TextProbe& probe, int width, const std::string& size)
 {
+    if (!probe.WordsFit(width))
+    {
+        // The halves of a broken word are to be of one length too.
+        probe.Format(size + "wrap=mixed");
+    }
     const int lines = probe.LinesAt(width);
-    if (lines < 2 || lines > MOST_LINES || !probe.WordsFit(width))
+    if (lines < 2 || lines > MOST_LINES)
     {
         return width;
     }
@@ -114,9 +119,9 @@ std::string SizeFor(TextProbe& probe, const char* least, int width)
     return format;
 }
 
-std::string MarginsFor(TextProbe& probe, Side side, int width)
+std::string MarginsFor(TextProbe& probe, Side side, int width, const std::string& size)
 {
-    const int spare = side == Side::mixed ? 0 : width - Narrowest(probe, width);
+    const int spare = side == Side::mixed ? 0 : width - Narrowest(probe, width, size);
     const int left = side == Side::left ? 0 : side == Side::middle ? spare / 2 : spare;
     const int right = side == Side::right ? 0 : side == Side::middle ? spare / 2 : spare;
     return "left_margin=" + std::to_string(left) + " right_margin=" + std::to_string(right);
@@ -192,7 +197,7 @@ void ArrangeText(Evas_Object* layout, const std::vector<std::string>& parts)
     evas_object_data_set(text, ARRANGED, now);
     TextProbe probe(text);
     const std::string size = SizeFor(probe, edje_object_data_get(layout, LEAST_SIZE), width);
-    Push(layout, parts, size + MarginsFor(probe, SideOf(LinesOf(text), width), width));
+    Push(layout, parts, size + MarginsFor(probe, SideOf(LinesOf(text), width), width, size));
     elm_layout_sizing_eval(evas_object_smart_parent_get(layout));
 }
 

@@ -15,11 +15,11 @@ public:
     /** Takes over text and style of `text`, a textblock that is laid out. */
     explicit TextProbe(Evas_Object* text);
 
-    /** Adds `format`, for example "font_size=25", to the style of the whole text. */
+    /** Adds `format`, for example "font_size=25", to the style of the whole text. Words are not broken then. */
     void Format(const std::string& format);
 
-    /** Words are not broken, so one may stand out. */
     int LinesAt(int width);
+    /** Whether no word stands out. */
     bool WordsFit(int width);
 
     /** The letters' size in the style, before scaling; 0 where it names none. */

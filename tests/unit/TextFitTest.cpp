@@ -63,6 +63,8 @@ TEST_F(TextFitTest, NoSingleWordStandsOnTheLastLine)
     ExpectBalanced(Lines("title", "subscription"), 2);
     ExpectBalanced(Lines("text", "Your"), 3);
     ExpectBalanced(Lines("text", "Remind"), 2);
+    Show("Berechtigungsverlängerungsbestätigungsschreiben", "", ""); // longer than the line, by a syllable
+    ExpectBalanced(Lines("title", "Berechtigung"), 2);
 
     Show("T", "One line", "OK");
     EXPECT_THAT(Lines("text", "One line"), SizeIs(1));
