@@ -28,7 +28,7 @@ std::string NextEvent()
 {
     const uint32_t object = s_input->Byte();
     const uint32_t opcode = s_input->Byte() % 4U;
-    const std::string arguments = s_input->Bytes(s_input->Byte() % 16U * 4);
+    const std::string arguments = s_input->Bytes(s_input->Byte() % 16UL * 4);
     const uint32_t header[] = {object, static_cast<uint32_t>(8 + arguments.size()) << 16U | opcode};
     return std::string(reinterpret_cast<const char*>(header), sizeof header) + arguments;
 }

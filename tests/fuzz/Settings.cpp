@@ -30,7 +30,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
     std::ofstream(folder + "/db/key", std::ios::binary) << content;
     const std::string value = content.substr(0, content.size() - (!content.empty() && content.back() == '\n' ? 1 : 0));
     const auto read = ReadSetting("db/key");
-    Require(read.has_value() == (content.size() <= 64U * 1024), "every file of 64 KiB is read and no larger one");
+    Require(read.has_value() == (content.size() <= 64UL * 1024), "every file of 64 KiB is read and no larger one");
     Require(!read || *read == value, "a value is its file's content");
     int number = 0;
     Require(vconf_get_int("db/key", &number) != 0 || std::stoi(value) == number, "a number is what the file says");
@@ -40,7 +40,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
         if (read && NormaliseSetting(type, written))
         {
             const bool isRefused = static_cast<bool>(WriteSetting("db/key", written));
-            Require(isRefused ? written.size() >= 64U * 1024 : ReadSetting("db/key") == written,
+            Require(isRefused ? written.size() >= 64UL * 1024 : ReadSetting("db/key") == written,
                     "what is written is read");
         }
     }

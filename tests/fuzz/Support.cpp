@@ -15,6 +15,7 @@
     char line[4096];
     va_list arguments;
     va_start(arguments, format);
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): it is started above.
     const int length = std::vsnprintf(line, sizeof line, format, arguments);
     va_end(arguments);
     return length;
