@@ -82,10 +82,12 @@ void ScreenFit::m_OnWindowResized()
 
 void ScreenFit::m_Fit()
 {
+    // More are not needed, unless the program answers each lowering with a size of its own: then it would never end.
+    constexpr int MOST_LAYOUTS = 5;
     Evas* canvas = evas_object_evas_get(m_window);
     evas_smart_objects_calculate(canvas);
     // Only now has everything its place; what is lowered is laid out again before the viewer sees it.
-    while (m_Lower())
+    for (int layouts = 1; layouts < MOST_LAYOUTS && m_Lower(); ++layouts)
     {
         evas_smart_objects_calculate(canvas);
     }
