@@ -111,10 +111,10 @@ public:
         std::optional<std::string> replied;
         const auto onReply = [](void* data, const Eldbus_Message* reply, Eldbus_Pending*)
         {
-            const auto failure = ErrorOf(reply).value_or(BusError{REFUSED_ERROR, ""});
-            Require(failure.name == std::string(REFUSED_ERROR),
-                    "a request is taken or refused at once: " + std::string(failure.text));
-            *static_cast<std::optional<std::string>*>(data) = failure.text;
+            const auto refusal = ErrorOf(reply).value_or(BusError{REFUSED_ERROR, ""});
+            Require(refusal.name == std::string(REFUSED_ERROR),
+                    "a request is taken or refused at once: " + std::string(refusal.text));
+            *static_cast<std::optional<std::string>*>(data) = refusal.text;
             WakeMainLoop();
         };
         eldbus_connection_send(m_connection.get(), call.release(), onReply, &replied, -1);
