@@ -61,24 +61,11 @@ using MotionTest = ShownTest;
 
 TEST_F(MotionTest, AScreenComesWholeAndOnlySlides)
 {
-    const Texts rows(20, "row");
-    const Texts buttons{"OK", "Cancel", "A label that takes more than one line of its button"};
-    const std::string wrapped =
-        "A text that takes more than one line of the sheet, so that it is broken into several of them. ";
-    std::string page;
-    while (page.size() < 2000)
-    {
-        page += wrapped;
-    }
     double shortest = 1;
     int farthest = 0;
     bool isFirst = true;
-    const auto expectSlide = [&](const char* name, bool shown)
+    const auto expectSlide = [&]
     {
-        SCOPED_TRACE(name);
-        EXPECT_TRUE(shown);
-        TakeKeyboard();
-        Watch();
         std::vector<int> offsets;
         std::vector<unsigned> scrims;
         for (const Frame& frame : frames)
@@ -93,18 +80,7 @@ TEST_F(MotionTest, AScreenComesWholeAndOnlySlides)
         farthest = std::max(farthest, offsets.front());
         shortest = std::min(shortest, times.back() - times.front());
     };
-    WindowManager& show = *manager;
-    expectSlide("message", show.ShowMessage(1, 255, "T", "S", "B", "Text", {"OK"}, false));
-    expectSlide("wrapped", show.ShowMessage(1, 255, wrapped, wrapped, wrapped, wrapped, buttons, false));
-    expectSlide("text page", show.ShowMessage(1, 255, "T", "S", "B", page, {"OK"}, false));
-    expectSlide("list", show.ShowList(1, 255, "T", "S", "B", rows, "LR", true, {}, true));
-    expectSlide("few rows", show.ShowList(1, 255, "T", "", "", {"a", "b"}, "L", false, {}, true));
-    expectSlide("rows to mark", show.ShowMultipleList(1, 255, "T", "", "", rows, "L", false, buttons, true));
-    expectSlide("image list",
-                show.ShowMultipleImageList(1, 255, "T", "S", "B", images, "L", false, {}, images, 400, 300, true));
-    expectSlide("image", show.ShowImage(1, 255, "T", "S", "B", images[0], 400, 300, {"OK"}, false));
-    expectSlide("progress", show.ShowProgress(1, 255, "T", "S", "Stop", 42));
-    expectSlide("PIN", show.ShowPinManager(1, 255, "T", "S", "B", 4, ""));
+    ShowEveryKind(expectSlide);
     // On a busy machine some slides take longer or begin late.
     EXPECT_LE(shortest, 0.22);
     EXPECT_GT(farthest, 0);
@@ -115,8 +91,7 @@ TEST_F(MotionTest, AnEventChangesThePictureOnce)
     const Texts rows(20, "row");
     const auto expectOneFrame = [this](const Texts& keys)
     {
-        TakeKeyboard();
-        Watch();
+        WatchWithKeyboard();
         for (const std::string& key : keys)
         {
             Key(key);

@@ -66,6 +66,43 @@ void ShownTest::Watch()
     ecore_main_loop_begin();
 }
 
+void ShownTest::WatchWithKeyboard()
+{
+    TakeKeyboard();
+    Watch();
+}
+
+void ShownTest::ShowEveryKind(const std::function<void()>& look)
+{
+    const auto expect = [this, &look](const char* screen, bool isShown)
+    {
+        SCOPED_TRACE(screen);
+        EXPECT_TRUE(isShown);
+        WatchWithKeyboard();
+        look();
+    };
+    const Texts rows(25, "row");
+    const std::string two =
+        "A text that takes more than one line of the sheet, so that it is broken into two of them. ";
+    std::string page;
+    while (page.size() < 2000)
+    {
+        page += two;
+    }
+    VESKAR_APP::WindowManager& show = *manager;
+    expect("notice", show.ShowMessage(1, 255, "", "", "", "One line", {}, false));
+    expect("long lines", show.ShowMessage(1, 255, two, two, two + two, two, {"OK", "Cancel"}, false));
+    expect("text page", show.ShowMessage(1, 255, "T", "S", "B", page, {"One", two, "Three"}, false));
+    expect("cells", show.ShowList(1, 255, "T", "S", "B", {"a\tb\tc", "1\t2\t3", "4\t5\t6"}, "LCR", true, {"OK"}, true));
+    expect("few rows", show.ShowList(1, 255, "T", "", "", {"a", "b"}, "L", false, {}, true));
+    expect("rows to mark", show.ShowMultipleList(1, 255, "T", "S", "B", rows, "L", false, {"OK", "Cancel"}, true));
+    expect("image list",
+           show.ShowMultipleImageList(1, 255, "T", "S", "B", rows, "L", true, {"OK"}, images, 640, 360, true));
+    expect("image", show.ShowImage(1, 255, "T", "S", "B", images[0], 3000, 400, {"OK"}, false));
+    expect("progress", show.ShowProgress(1, 255, "T", "S", "Stop", 42));
+    expect("PIN", show.ShowPinManager(1, 255, "T", "S", "B", 4, ""));
+}
+
 /** Counts calls and not time: a busy machine draws late, but it does draw between two of these calls. */
 Eina_Bool ShownTest::s_IsStill(void* data)
 {

@@ -20,8 +20,15 @@ struct ShownTest : TvTest
     /** What the window does when a screen has shown it. */
     void TakeKeyboard();
 
+    /**
+     * A screen of every kind, with texts of all lengths. Each is watched until nothing moves any more; after that
+     * `look` is called.
+     */
+    void ShowEveryKind(const std::function<void()>& look);
+
     /** Collects the frames from now on until nothing moves any more. */
     void Watch();
+    void WatchWithKeyboard();
 
     void Key(const std::string& key);
     void Keys(const Texts& keys);

@@ -86,8 +86,7 @@ struct ToolkitTest : ShownTest
     /** The picture once nothing moves. */
     Frame Picture()
     {
-        TakeKeyboard();
-        Watch();
+        WatchWithKeyboard();
         return last;
     }
     Frame Progress(int uiId, const std::string& text, const std::string& button = "Stop")
