@@ -60,6 +60,8 @@ TEST_F(KeyRouter, SendsAnExclusiveKeyToItsHolderWhateverOthersAskedFor)
     EXPECT_TRUE(m_upper->Grab("XF86Back", KEYROUTER_MODE_TOPMOST));
     EXPECT_TRUE(m_lower->Grab("XF86Back", KEYROUTER_MODE_EXCLUSIVE));
     EXPECT_EQ(WhoHears("XF86Back"), "lower");
+    EXPECT_TRUE(m_upper->HasFocus() && !m_lower->HasFocus()) << "the key took the focus with it";
+    EXPECT_FALSE(m_upper->Ungrab("XF86Back", KEYROUTER_MODE_EXCLUSIVE)) << "it is held in the other strength";
     EXPECT_TRUE(m_lower->Ungrab("XF86Back", KEYROUTER_MODE_EXCLUSIVE));
     EXPECT_EQ(WhoHears("XF86Back"), "upper");
 }
@@ -126,15 +128,7 @@ TEST_F(KeyRouter, LetsAKeyUpWhereItWentDown)
     EXPECT_TRUE(m_third->Heard().empty());
 }
 
-TEST_F(KeyRouter, GivesTheFocusBackAfterAKeyThatWentElsewhere)
-{
-    EXPECT_TRUE(m_lower->Grab("1", KEYROUTER_MODE_EXCLUSIVE));
-    EXPECT_EQ(WhoHears("1"), "lower");
-    EXPECT_TRUE(m_upper->HasFocus());
-    EXPECT_FALSE(m_lower->HasFocus());
-}
-
-TEST_F(KeyRouter, ForgetsTheGrabsAndTheHeldKeyOfAClientThatDies)
+TEST_F(KeyRouter, ForgetsTheGrabsAndTheHeldKeyOfAClientThatDiesOrHasDoneWithIt)
 {
     EXPECT_TRUE(m_upper->Grab("XF86Exit", KEYROUTER_MODE_EXCLUSIVE));
     EXPECT_TRUE(m_upper->Grab("Up", KEYROUTER_MODE_REGISTERED));
@@ -145,24 +139,9 @@ TEST_F(KeyRouter, ForgetsTheGrabsAndTheHeldKeyOfAClientThatDies)
     m_remote.Ask("up Exit");
     EXPECT_TRUE(m_lower->Heard().empty());
     EXPECT_EQ(WhoHears("XF86Exit"), "lower");
-}
-
-TEST_F(KeyRouter, ForgetsTheGrabsOfAClientThatHasDoneWithIt)
-{
-    EXPECT_TRUE(m_upper->Grab("XF86Exit", KEYROUTER_MODE_EXCLUSIVE));
-    m_upper->Unbind();
+    EXPECT_TRUE(m_lower->Grab("XF86Exit", KEYROUTER_MODE_EXCLUSIVE));
+    m_lower->Unbind();
     EXPECT_TRUE(WaitUntil([this] { return m_remote.Ask("grabs").empty(); }));
-}
-
-TEST_F(KeyRouter, ReleasesWhatIsNotHeldButNotWhatIsHeldInTheOtherStrength)
-{
-    EXPECT_TRUE(m_upper->Ungrab("XF86Info", KEYROUTER_MODE_EXCLUSIVE));
-    EXPECT_TRUE(m_upper->Grab("XF86Info", KEYROUTER_MODE_TOPMOST));
-    EXPECT_FALSE(m_upper->Ungrab("XF86Info", KEYROUTER_MODE_EXCLUSIVE));
-    EXPECT_TRUE(m_upper->Ungrab("XF86Info", KEYROUTER_MODE_REGISTERED));
-    EXPECT_EQ(m_remote.Ask("grabs").size(), 1U);
-    EXPECT_TRUE(m_upper->Ungrab("XF86Info", KEYROUTER_MODE_TOPMOST));
-    EXPECT_TRUE(m_remote.Ask("grabs").empty());
 }
 
 TEST_F(KeyRouter, RefusesAKeyThatDoesNotExist)

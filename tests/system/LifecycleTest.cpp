@@ -8,21 +8,6 @@
 
 using Lifecycle = TvTest;
 
-TEST_F(Lifecycle, TheProcessEndsByItselfAfterAnAnswerAndTheNextRequestStartsANewOne)
-{
-    Process first = SendMessage(7, 255, {"--button", "OK"});
-    const unsigned firstPid = ApplicationPid();
-    Press({"Return"});
-    EXPECT_EQ(first.Status(), 0);
-    EXPECT_TRUE(WaitForApplicationEnd());
-    EXPECT_EQ(CountInLog("Idle timeout, exit"), 1);
-
-    Process second = SendMessage(8, 255, {"--button", "OK"});
-    EXPECT_NE(ApplicationPid(), firstPid);
-    Press({"Return"});
-    ExpectAnswer(second, Answer(8, 255, 0, 1, 0));
-}
-
 TEST_F(Lifecycle, AProcessThatDiesWithAScreenShownIsToldAtOnce)
 {
     constexpr std::chrono::seconds AT_ONCE{2};

@@ -46,16 +46,6 @@ TEST_F(MwTest, AnswersArePrintedAndBecomeTheStatus)
     }
 }
 
-TEST_F(MwTest, ScreenReplacedByOneWithTheSameIdsIsClosedAndTheSecondWaitsOn)
-{
-    Process first = Shown(5);
-    m_application.WhileHandling([this] { m_application.Answer(5, 255, 2); });
-    Process second = Shown(5);
-    EXPECT_EQ(first.Status(), 2);
-    m_application.Answer(5, 255, 0, 1);
-    EXPECT_EQ(second.Status(), 0);
-}
-
 TEST_F(MwTest, TimeOutIsSaidAndTheLateAnswerIsNobodys)
 {
     Process mw = Mw({"--timeout", "0.1", "message"});
@@ -64,29 +54,6 @@ TEST_F(MwTest, TimeOutIsSaidAndTheLateAnswerIsNobodys)
     EXPECT_EQ(mw.Output(), "");
     m_application.Answer(1, 255, 0, 1);
     EXPECT_TRUE(WaitUntil([this] { return CountInLog("button 1, item 0, data 0 bytes; nobody waited") > 0; }));
-}
-
-TEST_F(MwTest, AnswerIsOfTheProcessThatHandledTheRequestAlsoWhenTheNextOneHasCome)
-{
-    for (const bool answersLate : {false, true})
-    {
-        m_application.Leave();
-        auto leaving = std::make_unique<FakeApplication>();
-        leaving->Arrive();
-        Process first = Mw({"message"});
-        leaving->Take();
-        leaving->Leave();
-        m_application.Arrive();
-        Process second = Shown(1);
-        if (answersLate)
-        {
-            leaving->Answer(1, 255, 2);
-        }
-        leaving.reset();
-        EXPECT_EQ(first.Status(), answersLate ? 2 : 69);
-        m_application.Answer(1, 255, 0, 1);
-        EXPECT_EQ(second.Status(), 0);
-    }
 }
 
 TEST_F(MwTest, AnswerOfTheNextProcessMayOvertakeTheReplyOfTheLeavingOne)

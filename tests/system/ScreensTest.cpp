@@ -56,14 +56,6 @@ protected:
     }
 };
 
-TEST_F(Screens, SelectAnswersTheToolkitsIndexOfThePressedRow)
-{
-    ExpectKeysAnswer("select", Rows(5), {"Down", "Down", "Return"}, Answer(7, 255, 0, 0, 3));
-    ExpectKeysAnswer("select", Rows(1), {"Return"}, Answer(7, 255, 0, 0, 1));
-    ExpectKeysAnswer("select", Rows(5), {"Back"}, Answer(7, 255, 3, 0, 0));
-    ExpectKeysAnswer("select", Rows(5), {"Exit"}, Answer(7, 255, 2, 0, 0));
-}
-
 TEST_F(Screens, SelectBeginsOnItsFirstRowWhateverTheRowsAndTheScreenBefore)
 {
     const Words rows{"--format", "L", "--entry", "one", "--entry", std::string(240, 'n'), "--entry", "three"};
