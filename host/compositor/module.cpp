@@ -8,6 +8,7 @@
 #include "keys/KeyRouter.h"
 #include "keys/Routing.h"
 #include "picture/Backdrop.h"
+#include "picture/Moments.h"
 #include "remote/RemoteCommands.h"
 #include "seat/DeskKeyboard.h"
 #include "windows/Overlays.h"
@@ -30,7 +31,7 @@ public:
         : m_compositor(compositor), m_seat(compositor), m_windows(compositor),
           m_grabs([this](const Key& key, GrabMode mode) { m_GrabEnded(key, mode); }),
           m_routing(m_seat, m_grabs, m_lateDigits, m_windows), m_overlays(compositor, m_seat, m_windows),
-          m_screenshots(compositor), m_backdrop(compositor, [this] { m_OpenSocket(); }),
+          m_screenshots(compositor), m_moments(compositor), m_backdrop(compositor, [this] { m_OpenSocket(); }),
           m_end(compositor->destroy_signal, [this](void*) { delete this; })
     {
         if (withKeyRouter)
@@ -54,7 +55,7 @@ private:
         try
         {
             m_socket.emplace(wl_display_get_event_loop(m_compositor->wl_display), RemoteSocketPath());
-            SetRemoteCommands(*m_socket, {m_seat, m_grabs, m_routing, m_screenshots, m_backdrop,
+            SetRemoteCommands(*m_socket, {m_seat, m_grabs, m_routing, m_screenshots, m_moments, m_backdrop,
                                           m_keyRouter ? &*m_keyRouter : nullptr});
         }
         catch (const std::exception& error)
@@ -80,6 +81,7 @@ private:
     Routing m_routing;
     Overlays m_overlays;
     Screenshots m_screenshots;
+    Moments m_moments;
     Backdrop m_backdrop;
     std::optional<RemoteSocket> m_socket;
     std::optional<KeyRouter> m_keyRouter;

@@ -184,8 +184,9 @@ RemoteCommand ChooseBackdrop(Backdrop& backdrop)
 void SetRemoteCommands(RemoteSocket& socket, const RemoteParts& parts)
 {
     Seat& seat = parts.seat;
-    const auto down = [&seat](const Key& key)
+    const auto down = [&seat, &moments = parts.moments](const Key& key)
     {
+        moments.Key(key.name);
         seat.Inject(key, WL_KEYBOARD_KEY_STATE_PRESSED);
     };
     const auto up = [&seat](const Key& key)
@@ -204,6 +205,10 @@ void SetRemoteCommands(RemoteSocket& socket, const RemoteParts& parts)
     socket.SetCommand("grabs", ListGrabs(parts.grabs));
     socket.SetCommand("offer", Offer(parts));
     socket.SetCommand("screens", ListScreens(parts.router));
+    socket.SetCommand("moments",
+                      [&moments = parts.moments](const std::string&, const RemoteAnswer& answer) {
+                          answer({moments.Take(), ""});
+                      });
     socket.SetCommand("shot", TakeShot(parts.screenshots));
     socket.SetCommand("backdrop", ChooseBackdrop(parts.backdrop));
 }

@@ -6,6 +6,7 @@
  *     up KEY       release it                  screens for each screen that is drawn: its id, process id/program
  *     offer KEY    down and up; answered when it is known who took it: "taken", "held back" or "nobody"
  *     backdrop evening|snow|PATH  the programme behind the windows; answered when it is on the screen
+ *     moments      when windows changed, frames were drawn and keys were pressed (see Moments.h)
  *     shot PATH    the screen as a PNG; answered when the file is complete
  */
 #pragma once
@@ -15,6 +16,7 @@
 #include "keys/KeyRouter.h"
 #include "keys/Routing.h"
 #include "picture/Backdrop.h"
+#include "picture/Moments.h"
 #include "picture/Screenshot.h"
 #include "seat/Seat.h"
 
@@ -27,6 +29,7 @@ struct RemoteParts
     const GrabTable& grabs;
     const Routing& routing;
     Screenshots& screenshots;
+    Moments& moments;
     Backdrop& backdrop;
     KeyRouter* router; // null on a TV without one
 };
