@@ -15,8 +15,9 @@ namespace
 /** A reply has to fit into a socket's buffer. */
 constexpr size_t MOST_LINES = 2000;
 
-/** Lines of the output that stand for the whole of it. Reading all of it would take longer than drawing it. */
-constexpr int SAMPLED_LINES = 24;
+/** Lines of the output that stand for the whole of it: no text is lower than their distance. Reading all takes longer
+ * than drawing. */
+constexpr int SAMPLED_LINES = 108;
 
 std::string Now()
 {
