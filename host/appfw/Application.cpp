@@ -5,6 +5,7 @@
 #include "BusName.h"
 #include "Compositor.h"
 #include "Departure.h"
+#include "Fonts.h"
 #include "HandOver.h"
 #include "Log.h"
 #include "MainLoop.h"
@@ -158,6 +159,7 @@ void Application::m_RunLoop()
 {
     const WindowWatch window([this](bool shown)
                              { m_queue->AddWindowEvent(shown ? LifecycleKind::Resume : LifecycleKind::Pause); });
+    const FontCheck fonts;
     const SettingsWatch language({LANGUAGE_KEY, ORIENTATION_KEY}, [this] { m_LanguageFileChanged(); });
     m_queue->Start();
     elm_run();

@@ -1,20 +1,30 @@
 #include "Fonts.h"
 
+#include <memory>
 #include <set>
 #include <sstream>
+#include <string>
 
 #include <fontconfig/fontconfig.h>
+
+#include "FreeWith.h"
+#include "Log.h"
 
 namespace veskar
 {
 namespace
 {
 
-/** Of the configuration that the toolkit's texts use too, so nothing is read twice. */
+/** Seconds. Reading the fonts for this takes milliseconds, for which the first picture should not wait. */
+constexpr double A_WHILE = 1;
+
+using FontConfig = std::unique_ptr<FcConfig, FreeWith<FcConfigDestroy>>;
+
 std::set<std::string> InstalledFamilies()
 {
     std::set<std::string> families;
-    const FcFontSet* fonts = FcInit() == FcTrue ? FcConfigGetFonts(nullptr, FcSetSystem) : nullptr;
+    const FontConfig config(FcInitLoadConfigAndFonts());
+    const FcFontSet* fonts = config ? FcConfigGetFonts(config.get(), FcSetSystem) : nullptr;
     for (int i = 0; fonts != nullptr && i < fonts->nfont; ++i)
     {
         FcChar8* family = nullptr;
@@ -26,8 +36,7 @@ std::set<std::string> InstalledFamilies()
     return families;
 }
 
-} // namespace
-
+/** Separated by commas; empty when all are installed. */
 std::string MissingFonts()
 {
     const auto installed = InstalledFamilies();
@@ -41,6 +50,34 @@ std::string MissingFonts()
         }
     }
     return missing;
+}
+
+void LogMissing()
+{
+    if (const auto fonts = MissingFonts(); !fonts.empty())
+    {
+        APPFW_ERROR("fonts are missing, their texts are drawn with others or as boxes: %s", fonts.c_str());
+    }
+}
+
+} // namespace
+
+FontCheck::FontCheck() : m_timer(ecore_timer_add(A_WHILE, s_OnTime, this)) {}
+
+FontCheck::~FontCheck()
+{
+    if (m_timer != nullptr)
+    {
+        ecore_timer_del(m_timer);
+        LogMissing();
+    }
+}
+
+Eina_Bool FontCheck::s_OnTime(void* data)
+{
+    static_cast<FontCheck*>(data)->m_timer = nullptr;
+    LogMissing();
+    return ECORE_CALLBACK_CANCEL;
 }
 
 } // namespace veskar

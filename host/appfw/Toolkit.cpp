@@ -7,7 +7,6 @@
 #include <Elementary.h>
 
 #include "Compositor.h"
-#include "Fonts.h"
 #include "Log.h"
 
 namespace veskar
@@ -50,10 +49,6 @@ std::string StartToolkit(int argc, char** argv)
 
 void LoadTheme()
 {
-    if (const auto fonts = MissingFonts(); !fonts.empty())
-    {
-        APPFW_ERROR("fonts are missing, their texts are drawn with others or as boxes: %s", fonts.c_str());
-    }
     const char* chosen = getenv("VESKAR_THEME");
     const char* theme = chosen != nullptr && *chosen != '\0' ? chosen : VESKAR_THEME_FILE;
     if (!edje_file_group_exists(theme, GROUP_OF_THE_THEME))

@@ -12,7 +12,7 @@ void PrepareToolkit();
 /** Returns why the toolkit did not start; empty when it did and elm_shutdown has to follow. */
 std::string StartToolkit(int argc, char** argv);
 
-/** Puts the TV's theme before the toolkit's own. One log line tells of an unusable theme, another of missing fonts. */
+/** Puts the TV's theme before the toolkit's own. A log line tells of an unusable theme. */
 void LoadTheme();
 
 } // namespace veskar
