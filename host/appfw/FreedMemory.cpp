@@ -11,7 +11,7 @@ namespace
 constexpr double A_WHILE = 1;
 
 /** Bytes. Less is not worth the search for it. */
-constexpr size_t MUCH = 16UL << 20;
+constexpr size_t MUCH = 1UL << 20;
 
 } // namespace
 
