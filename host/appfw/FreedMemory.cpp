@@ -1,5 +1,7 @@
 #include "FreedMemory.h"
 
+#include <algorithm>
+
 #include <malloc.h>
 
 namespace veskar
@@ -45,10 +47,15 @@ Eina_Bool FreedMemory::s_OnTime(void* data)
 
 Eina_Bool FreedMemory::s_OnIdle(void* data)
 {
-    static_cast<FreedMemory*>(data)->m_idler = nullptr;
-    if (mallinfo2().fordblks >= MUCH)
+    auto* self = static_cast<FreedMemory*>(data);
+    self->m_idler = nullptr;
+    const size_t free = mallinfo2().fordblks;
+    self->m_givenBack = std::min(self->m_givenBack, free);
+    if (free - self->m_givenBack >= MUCH)
     {
         malloc_trim(0);
+        self->m_givenBack = free; // the C library counts it as before
+        self->GiveBackSoon();     // a long list goes through its rows for seconds, and frees most of what they took
     }
     return ECORE_CALLBACK_CANCEL;
 }

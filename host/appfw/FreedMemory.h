@@ -30,6 +30,7 @@ private:
 
     Ecore_Timer* m_timer = nullptr;
     Ecore_Idler* m_idler = nullptr;
+    size_t m_givenBack = 0; // bytes that are free and were given back
 };
 
 } // namespace veskar
