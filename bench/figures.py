@@ -147,7 +147,7 @@ class Bench:
     def idle(self, seconds=10):
         """How often the process's threads woke up while a message is shown."""
         self._start(self.application)
-        time.sleep(3)
+        time.sleep(5)  # what the toolkit and the framework do once after a start is done
         before = processes.wake_ups(self.application.pid)
         time.sleep(seconds)
         count = processes.wake_ups(self.application.pid) - before
