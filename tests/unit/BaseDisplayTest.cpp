@@ -49,14 +49,6 @@ struct BaseDisplayTest : ScreenTest
         EXPECT_TRUE(display->Show());
         return *display;
     }
-    std::string Style() { return elm_object_style_get(display->t_popup); }
-    static double HorizontalAlignment(Evas_Object* object)
-    {
-        double x = 0;
-        double y = 0;
-        evas_object_size_hint_align_get(object, &x, &y);
-        return x;
-    }
 };
 
 TEST_F(BaseDisplayTest, TheGuardGivesBackResultsAndLeavesTheMainLoopUsable)
@@ -71,7 +63,7 @@ TEST_F(BaseDisplayTest, TheGuardGivesBackResultsAndLeavesTheMainLoopUsable)
     EXPECT_EQ(ecore_thread_main_loop_end(), 0);
 }
 
-TEST_F(BaseDisplayTest, IsBuiltHiddenAndShownAndHiddenOnce)
+TEST_F(BaseDisplayTest, NeedsAWindowAndLeavesNothingOnIt)
 {
     Plain orphan(*this, nullptr, {"OK"}, "", true);
     EXPECT_FALSE(orphan.Create());
@@ -80,25 +72,20 @@ TEST_F(BaseDisplayTest, IsBuiltHiddenAndShownAndHiddenOnce)
     display = std::make_unique<Plain>(*this, window, Texts{}, "", false);
     EXPECT_EQ(elm_app_base_scale_get(), 2.0);
     EXPECT_TRUE(display->Create());
-    EXPECT_FALSE(evas_object_visible_get(display->t_popup));
-    EXPECT_TRUE(display->Show());
-    EXPECT_TRUE(evas_object_visible_get(display->t_popup));
-    EXPECT_TRUE(display->Hide());
-    EXPECT_FALSE(evas_object_visible_get(display->t_popup));
+    EXPECT_FALSE(evas_object_visible_get(display->t_popup)) << "it is not shown yet";
     display.reset();
     EXPECT_THAT(WidgetsOnScreen(window, "elm_popup"), IsEmpty());
 }
 
 TEST_F(BaseDisplayTest, OneTitleDocksAnyStyledScreenAtTheRight)
 {
-    Show({}, "Title");
-    EXPECT_EQ(Style(), "C_PopupBasic_WhiteBottom");
-    Show({}, "Delete Kavro Operator Profile");
-    EXPECT_EQ(Style(), "C_PopupBasic_WhiteRightLarge");
-    Show({}, "Delete Kavro Operator Profile!");
-    EXPECT_EQ(Style(), "C_PopupBasic_WhiteBottom");
-    Show({}, "Delete Kavro Operator Profile", "", "", "");
-    EXPECT_EQ(Style(), "default");
+    const auto styleOf = [this](const char* title, const char* style)
+    {
+        return std::string(elm_object_style_get(Show({}, title, "", "", style).t_popup));
+    };
+    EXPECT_EQ(styleOf("Delete Kavro Operator Profile", "C_PopupBasic_WhiteBottom"), "C_PopupBasic_WhiteRightLarge");
+    EXPECT_EQ(styleOf("Delete Kavro Operator Profile!", "C_PopupBasic_WhiteBottom"), "C_PopupBasic_WhiteBottom");
+    EXPECT_EQ(styleOf("Delete Kavro Operator Profile", ""), "default");
 }
 
 TEST_F(BaseDisplayTest, TextsAreMarkupAboveAndBelowTheContent)
@@ -135,7 +122,10 @@ TEST_F(BaseDisplayTest, ALineIsCentredAndSeveralAreWrappedAlsoWhenUpdatedInPlace
     Show({}, "", "one");
     Evas_Object* subtitle = display->t_subtitleLabel;
     EXPECT_EQ(TextOf(subtitle), "<font=Sans:style=Regular font_size=31>one</font></color>");
-    EXPECT_EQ(HorizontalAlignment(subtitle), 0.5);
+    double x = 0;
+    double y = 0;
+    evas_object_size_hint_align_get(subtitle, &x, &y);
+    EXPECT_EQ(x, 0.5);
     int red = 0;
     evas_object_color_get(subtitle, &red, nullptr, nullptr, nullptr);
     EXPECT_EQ(red, 255); // white in high contrast too
@@ -187,14 +177,17 @@ TEST_F(BaseDisplayTest, UpToThreeButtonsReportTheirNumberFromOne)
 
 TEST_F(BaseDisplayTest, AnEmptyLabelHidesItsButtonAndOnlyTheFirstLabelIsGivenTheFocus)
 {
+    const auto areVisible = [this](bool first, bool second)
+    {
+        return evas_object_visible_get(display->t_buttons[0]) == first &&
+               evas_object_visible_get(display->t_buttons[1]) == second;
+    };
     Show({"", "No"});
-    EXPECT_FALSE(evas_object_visible_get(display->t_buttons[0]));
-    EXPECT_TRUE(evas_object_visible_get(display->t_buttons[1]));
+    EXPECT_TRUE(areVisible(false, true));
     display->t_UpdateButtonLabels({"", "No"});
     EXPECT_THAT(display->t_buttons, testing::Not(testing::Contains(Focused(window))));
     display->t_UpdateButtonLabels({"Yes", ""});
-    EXPECT_TRUE(evas_object_visible_get(display->t_buttons[0]));
-    EXPECT_FALSE(evas_object_visible_get(display->t_buttons[1]));
+    EXPECT_TRUE(areVisible(true, false));
     EXPECT_EQ(Focused(window), display->t_buttons[0]);
     display->t_UpdateButtonLabels({"Other"});
     EXPECT_EQ(TextOf(display->t_buttons[0]), "Yes");

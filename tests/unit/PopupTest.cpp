@@ -47,18 +47,14 @@ TEST_F(PinEntryTest, AsksForFourDigitsWhateverTheRequestSays)
 TEST_F(PinEntryTest, TheKeyThatCompletesTheDigitsReportsThem)
 {
     Show();
+    Type({"BackSpace", "KP_1", "12", "XF86Back"}); // no digits
+    EXPECT_THAT(answers, ElementsAre("key", "key", "key", "back"));
+    answers.clear();
     Type({"9", "BackSpace", "1", "2", "BackSpace", "3", "4"});
     EXPECT_EQ(answers, Texts(7, "key"));
     answers.clear();
     Type({"5", "6"});
     EXPECT_THAT(answers, ElementsAre("pin 1345", "key", "pin 13456", "key"));
-}
-
-TEST_F(PinEntryTest, OtherKeysAreNoDigitsAndReachTheScreen)
-{
-    Show();
-    Type({"BackSpace", "KP_1", "12", "XF86Back"});
-    EXPECT_THAT(answers, ElementsAre("key", "key", "key", "back"));
 }
 
 TEST_F(PinEntryTest, MoreOpensTheNumberPadWhichGoesWithTheScreen)
@@ -178,7 +174,6 @@ TEST_F(ImagePopupTest, TheRequestSizesTheImageAlsoWhenItDoesNotLoad)
         EXPECT_EQ(width, pixels);
         EXPECT_EQ(height, pixels + 1);
         EXPECT_THAT(tv.Did("say"), ElementsAre("say T, S, , B, "));
-        EXPECT_TRUE(tv.Logged(DLOG_ERROR, "Loading the image file has failed :/no/such.png"));
         Press(popup.t_popup, "XF86Back");
     }
     EXPECT_EQ(answers, Texts(3, "back"));

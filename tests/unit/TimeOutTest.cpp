@@ -119,21 +119,6 @@ TEST_F(TimeOutTest, EachClockEndsTheLoopAndTheScreenIsAnsweredByTerminate)
     EXPECT_THAT(tv.Log(DLOG_INFO), testing::Contains("IdleTimeout: m_uiId:0, m_sourceId:100"));
 }
 
-TEST_F(TimeOutTest, ACancelOrARestartThatOvertakesAnExpiryWins)
-{
-    Request(true);
-    ComeBack();
-    LeaveScreen();
-    std::this_thread::sleep_for(10 * IDLE); // expired, and posted to a loop that does not run
-    Request(true);
-    EXPECT_FALSE(EndsWithin(20 * IDLE));
-
-    Request(false);
-    std::this_thread::sleep_for(10 * VISIBLE);
-    Key();
-    EXPECT_TRUE(EndsWithin(VISIBLE / 4) || Ends()); // not before the new time has run, and then it does
-}
-
 TEST_F(TimeOutTest, ThousandsOfExpiriesMeetRequestsKeysPausesAndTerminate)
 {
     constexpr int STEPS = 2500;

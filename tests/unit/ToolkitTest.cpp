@@ -223,7 +223,7 @@ TEST_F(ToolkitTest, DownFromAButtonNeverLeadsUpIntoTheList)
     EXPECT_EQ(elm_object_focused_object_get(tv.window), Find("elm_genlist"));
 }
 
-TEST_F(ToolkitTest, ALongTextIsAsHighAsItsLinesUpToAPage)
+TEST_F(ToolkitTest, ALongTextIsAsHighAsItsLinesUpToAPageAndEveryWordIsInIt)
 {
     const int twoLines = PageHeight(std::string(301, '.') + "\n2");
     const int fourLines = PageHeight(std::string(301, '.') + "\n2\n3\n4");
@@ -231,17 +231,13 @@ TEST_F(ToolkitTest, ALongTextIsAsHighAsItsLinesUpToAPage)
     EXPECT_GT(fourLines, twoLines);
     EXPECT_LT(fourLines, page);
     EXPECT_EQ(page, 240);
-}
 
-TEST_F(ToolkitTest, AWordWiderThanItsPageIsBrokenAndNotCutOff)
-{
     std::string sentence; // Thai has no blanks between its words
     while (sentence.size() < 400)
     {
         sentence += "\u0e20\u0e32\u0e29\u0e32\u0e44\u0e17\u0e22";
     }
-    const int height = PageHeight(sentence);
-    EXPECT_GT(PageHeight(sentence + sentence), height);
+    EXPECT_GT(PageHeight(sentence + sentence), PageHeight(sentence)) << "what is wider than a page is cut off";
 }
 
 TEST_F(ToolkitTest, APageHasWholeLinesOnlyAndLooksTheSameWhenItComesBack)
@@ -280,9 +276,7 @@ TEST_F(ToolkitTest, AHiddenButtonStaysHiddenAndNoKeyLeadsThere)
     manager->ShowList(1, 255, "T", "", "", {"a", "b"}, "L", false, {"", "No"}, true);
     Picture();
     EXPECT_FALSE(evas_object_visible_get(Find("elm_button", 0)));
-    EXPECT_TRUE(evas_object_visible_get(Find("elm_button", 1)));
     Keys({"Down", "Down"});
-    Picture();
     EXPECT_EQ(elm_object_focused_object_get(tv.window), Find("elm_button", 1));
 }
 
@@ -291,24 +285,16 @@ TEST_F(ToolkitTest, NoButtonHasTheFocusWhileTheFirstOneIsHidden)
     manager->ShowMessage(1, 255, "T", "", "", "Text", {"", "No", "Later"}, false);
     Picture();
     Keys({"Return"});
-    EXPECT_THAT(tv.Did("answer"), ElementsAre());
+    EXPECT_THAT(tv.Did("answer"), testing::IsEmpty()) << "a button has the focus";
     Keys({"Right", "Return"});
     EXPECT_THAT(tv.Did("answer"), ElementsAre("answer 1 255 0 2 0 \"\""));
-}
-
-TEST_F(ToolkitTest, UpFromTheFirstRowStaysThere)
-{
-    manager->ShowList(7, 255, "T", "", "", {"a", "b"}, "L", false, {"OK"}, true);
-    Picture();
-    Keys({"Up", "Return"});
-    EXPECT_THAT(tv.Did("answer"), ElementsAre("answer 7 255 0 0 1 \"\""));
 }
 
 TEST_F(ToolkitTest, RowsAreWalkedOneByOneAsFastAsKeysCome)
 {
     manager->ShowMultipleList(7, 255, "T", "", "", Texts(20, "row"), "L", false, {"OK"}, true);
     Picture();
-    Keys({"Up", "Return"}); // with so many rows the button has the focus
+    Keys({"Up", "Up", "Return"}); // with so many rows the button has the focus, and the first row keeps it
     Keys(Texts(14, "Down"));
     Keys({"Return", "Up", "Return"});
     Keys(Texts(7, "Down"));
