@@ -128,13 +128,12 @@ def load(end, rate):
     print(f"{len(expected)} requests in {time.monotonic() - start:.0f} s; application after 1000: {before}, "
           f"at the end: {size(*pids(APP))}; compositor: {size(*pids(COMPOSITOR))}", flush=True)
     log = pathlib.Path(os.environ["VESKAR_TV_LOG"]).read_text(errors="replace")
-    blocks = [int(block) for block in re.findall(r"the block above took (\d+) ms", log)]
-    # A busy machine may keep a loop waiting; what counts is that it did not work for so long.
-    print(f"main loop: {len(blocks)} times not back within 200 ms, at most {max(blocks, default=0)} ms of work then")
+    blocks = [int(block) for block in re.findall(r"the main loop worked for (\d+) ms", log)]
+    print(f"main loop: {len(blocks)} times blocked for more than 200 ms, at most for {max(blocks, default=0)} ms")
     answers = re.findall(r"SendResponse (ui .*), button", log)
     if answers != expected[:-1]:
         sys.exit(f"answers that are wrong, missing or too many: {set(answers) ^ set(expected[:-1])}")
-    if max(blocks, default=0) > 200:
+    if blocks:
         sys.exit("the main loop was blocked")
 
 

@@ -35,13 +35,6 @@ TEST_F(Lifecycle, ASecondInstanceDrawsNothingAndSaysSo)
 /** With an application whose time-outs are short, so that no test takes half a minute. */
 using TimeOuts = TvTest;
 
-TEST_F(TimeOuts, AScreenThatNobodyAnswersEndsTheProcessAndIsAnsweredAsClosed)
-{
-    Process request = SendMessage(7, 255, {"--button", "OK"});
-    ExpectAnswer(request, Answer(7, 255, 2, 0, 0));
-    EXPECT_TRUE(WaitForApplicationEnd());
-}
-
 TEST_F(TimeOuts, NoRequestIsLostAroundTheEndOfTheProcess)
 {
     constexpr int ROUNDS = 80;
