@@ -67,9 +67,10 @@ void WindowWatch::m_Forget()
 
 void WindowWatch::m_SetShown(bool shown)
 {
-    if (shown && m_redraw == nullptr && m_leave == nullptr)
+    if (shown && m_left && m_redraw == nullptr)
     {
         m_redraw = ecore_timer_add(0, s_OnRedraw, this);
+        m_left = false;
     }
     m_StayOnScreen();
     // The toolkit reports each call, even when it changes nothing.
@@ -117,6 +118,7 @@ void WindowWatch::s_OnStillHidden(void* data)
 {
     auto* watch = static_cast<WindowWatch*>(data);
     watch->m_leave = nullptr;
+    watch->m_left = true;
     ecore_evas_hide(CanvasOf(watch->m_window));
 }
 

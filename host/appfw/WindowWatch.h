@@ -41,6 +41,7 @@ private:
     Evas_Object* m_window = nullptr;
     Ecore_Timer* m_redraw = nullptr;
     Ecore_Job* m_leave = nullptr; // set while the window is hidden but the compositor does not know it yet
+    bool m_left = false;          // the window has left the screen since it was last drawn explicitly
     bool m_shown = false;
 };
 
