@@ -20,10 +20,10 @@ class KeyGrid
 public:
     struct Place
     {
-        int row;
-        int column;
+        int row = 0;
+        int column = 0;
         /** As the remote control calls it. */
-        const char* key;
+        const char* key = nullptr;
         /** The columns that it takes: the 0 is wide, so that its row has no gap. */
         int from = column;
         int width = 1;

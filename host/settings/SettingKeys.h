@@ -17,9 +17,9 @@ enum class SettingType
 
 struct SettingKey
 {
-    const char* key;
-    SettingType type;
-    const char* meaning;
+    const char* key = nullptr;
+    SettingType type = SettingType::Text;
+    const char* meaning = nullptr;
     /** Of a number: those that anything reads. */
     int least = 0;
     int most = 1;

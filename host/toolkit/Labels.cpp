@@ -1,7 +1,7 @@
-// Numbers in texts stay together. The rest is what the theme's labels cannot find out on their own: that there is nothing
-// to read between the tags of their markup, whether they stand above or below a screen's content, and that they stand in
-// the panel at the side, where lines are shorter. Lines may be counted right after a text or a style was set, so all is
-// passed on immediately.
+// Numbers in texts stay together. The rest is what the theme's labels cannot find out on their own: that there is
+// nothing to read between the tags of their markup, whether they stand above or below a screen's content, and that they
+// stand in the panel at the side, where lines are shorter. Lines may be counted right after a text or a style was set,
+// so all is passed on immediately.
 
 #include "CString.h"
 #include "Numbers.h"

@@ -25,10 +25,10 @@ constexpr int NEAR = 4;        // pixels by which a width may be larger than the
 /** Where the lines of a text stand; a text whose lines differ in that stays as it is. */
 enum class Side
 {
-    left,
-    right,
-    middle,
-    mixed
+    Left,
+    Right,
+    Middle,
+    Mixed
 };
 
 struct Line
@@ -57,17 +57,17 @@ Side SideOf(const std::vector<Line>& lines, int width)
     };
     if (all([](const Line& line) { return line.x <= 1; }))
     {
-        return Side::left;
+        return Side::Left;
     }
     if (all([width](const Line& line) { return line.x + line.width >= width - 1; }))
     {
-        return Side::right;
+        return Side::Right;
     }
     const auto isCentred = [width](const Line& line)
     {
         return std::abs(2 * line.x + line.width - width) <= 2;
     };
-    return all(isCentred) ? Side::middle : Side::mixed;
+    return all(isCentred) ? Side::Middle : Side::Mixed;
 }
 
 /** The least width at which the text has as many lines as at `width`. No word is broken that is not broken there. */
@@ -114,16 +114,16 @@ std::string SizeFor(TextProbe& probe, const char* least, int width)
     {
         return {};
     }
-    const std::string format = "font_size=" + std::to_string(LargestSize(probe, std::atoi(least), width)) + " ";
+    std::string format = "font_size=" + std::to_string(LargestSize(probe, std::atoi(least), width)) + " ";
     probe.Format(format);
     return format;
 }
 
 std::string MarginsFor(TextProbe& probe, Side side, int width, const std::string& size)
 {
-    const int spare = side == Side::mixed ? 0 : width - Narrowest(probe, width, size);
-    const int left = side == Side::left ? 0 : side == Side::middle ? spare / 2 : spare;
-    const int right = side == Side::right ? 0 : side == Side::middle ? spare / 2 : spare;
+    const int spare = side == Side::Mixed ? 0 : width - Narrowest(probe, width, size);
+    const int left = side == Side::Left ? 0 : side == Side::Middle ? spare / 2 : spare;
+    const int right = side == Side::Right ? 0 : side == Side::Middle ? spare / 2 : spare;
     return "left_margin=" + std::to_string(left) + " right_margin=" + std::to_string(right);
 }
 
@@ -141,7 +141,7 @@ void* Fingerprint(Evas_Object* text, int width)
     const char* style = evas_textblock_style_get(evas_object_textblock_style_get(text));
     const char* markup = evas_object_textblock_text_markup_get(text);
     const std::string all = std::to_string(width) + (style != nullptr ? style : "") + (markup != nullptr ? markup : "");
-    return reinterpret_cast<void*>(std::hash<std::string>()(all) | 1);
+    return reinterpret_cast<void*>(std::hash<std::string>()(all) | 1); // NOLINT(performance-no-int-to-ptr): never read
 }
 
 int WidthOf(const Evas_Object* object)

@@ -49,7 +49,7 @@ void Backdrop::Choose(const std::string& name, const Done& done)
         return;
     }
     m_photograph = std::move(photograph);
-    m_daylight = name == "snow" ? Daylight::snow : Daylight::evening;
+    m_daylight = name == "snow" ? Daylight::Snow : Daylight::Evening;
     m_waiting.push_back(done);
     m_Redraw();
 }

@@ -38,7 +38,7 @@ private:
     weston_compositor* m_compositor;
     std::function<void()> m_shown;
     std::vector<Done> m_waiting;
-    Daylight m_daylight = Daylight::evening;
+    Daylight m_daylight = Daylight::Evening;
     Photograph m_photograph; // shown instead of the landscape unless it is empty
     weston_layer m_layer{};
     weston_surface* m_surface = nullptr;

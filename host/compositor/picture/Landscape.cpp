@@ -201,7 +201,7 @@ uint32_t Packed(Colour colour, float dither)
 
 std::vector<uint32_t> DrawLandscape(int width, int height, Daylight daylight)
 {
-    const Palette& palette = daylight == Daylight::snow ? SNOW : EVENING;
+    const Palette& palette = daylight == Daylight::Snow ? SNOW : EVENING;
     const Scene scene(width, height, palette);
     std::vector<uint32_t> pixels;
     pixels.reserve(static_cast<size_t>(width) * static_cast<size_t>(height));

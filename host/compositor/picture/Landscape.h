@@ -10,9 +10,9 @@ namespace veskar
 enum class Daylight
 {
     /** A dark film. */
-    evening,
+    Evening,
     /** Snow at noon: as bright as a programme gets. */
-    snow
+    Snow
 };
 
 /** Rows from the top, 0x00RRGGBB. The same size gives the same picture. */
