@@ -1,8 +1,8 @@
 #include "Focused.h"
 
-#include <algorithm>
+#include "Words.h"
+
 #include <cstring>
-#include <iterator>
 
 namespace veskar
 {
@@ -13,23 +13,6 @@ constexpr char SEPARATOR[] = ", ";
 // The parts of the theme's rows.
 constexpr char ROW_TEXT_PART[] = "elm.text";
 constexpr char ROW_CONTENT_PART[] = "elm.swallow.icon";
-
-struct TickWords
-{
-    const char* language;
-    const char* ticked;
-    const char* notTicked;
-};
-
-constexpr TickWords WORDS[] = {
-    {"en", "ticked", "not ticked"},       {"ar", "محدد", "غير محدد"},
-    {"de", "angehakt", "nicht angehakt"}, {"el", "επιλεγμένο", "μη επιλεγμένο"},
-    {"es", "marcado", "no marcado"},      {"fr", "coché", "non coché"},
-    {"he", "מסומן", "לא מסומן"},          {"it", "selezionato", "non selezionato"},
-    {"ko", "선택됨", "선택 안 됨"},       {"ru", "отмечено", "не отмечено"},
-    {"th", "เลือกแล้ว", "ไม่ได้เลือก"},        {"ur", "منتخب", "غیر منتخب"},
-    {"zh", "已选中", "未选中"},
-};
 
 bool Is(const Evas_Object* object, const char* type)
 {
@@ -94,18 +77,15 @@ std::string TextOf(const Focused& focused)
     return cells.empty() ? OrEmpty(elm_object_item_part_text_get(focused.row, ROW_TEXT_PART)) : cells;
 }
 
-std::string TickOf(const Focused& focused, const std::string& locale)
+std::string TickOf(const Focused& focused)
 {
-    if (!CanBeTicked(focused))
-    {
-        return {};
-    }
-    const auto* found =
-        std::find_if(std::begin(WORDS), std::end(WORDS),
-                     [&locale](const TickWords& candidate)
-                     { return locale.compare(0, std::strlen(candidate.language), candidate.language) == 0; });
-    const TickWords& spoken = found == std::end(WORDS) ? WORDS[0] : *found;
-    return focused.ticked ? spoken.ticked : spoken.notTicked;
+    return CanBeTicked(focused) ? TickWord(focused.ticked) : std::string();
+}
+
+std::string PlaceOf(const Focused& focused)
+{
+    const int rows = focused.row ? static_cast<int>(elm_genlist_items_count(focused.object)) : 0;
+    return rows > 1 ? NumberOf(elm_genlist_item_index_get(focused.row), rows) : std::string();
 }
 
 } // namespace veskar

@@ -24,7 +24,10 @@ Focused FindFocused(const Evas_Object* window);
 /** A button's label or a row's cells, as markup. Empty when there is nothing to say, or not yet. */
 std::string TextOf(const Focused& focused);
 
-/** "ticked" or "not ticked", in the language of a locale ("el_GR.UTF-8"); empty for what cannot be ticked. */
-std::string TickOf(const Focused& focused, const std::string& locale);
+/** "ticked" or "not ticked"; empty for what cannot be ticked. */
+std::string TickOf(const Focused& focused);
+
+/** "2 of 6" for a row of a list of several; empty otherwise. */
+std::string PlaceOf(const Focused& focused);
 
 } // namespace veskar

@@ -2,6 +2,8 @@
 #include "Mode.h"
 #include "SettingKeys.h"
 #include "SettingsWatch.h"
+#include "VoiceGuide.h"
+#include "Words.h"
 #include "ea.h"
 
 #include <algorithm>
@@ -101,7 +103,7 @@ void PinField::Reset()
 void PinField::m_OnKey(const char* key)
 {
     const bool isDigit = key[0] >= '0' && key[0] <= '9' && key[1] == '\0';
-    const bool wasFull = m_digits.Full();
+    const std::size_t before = m_digits.Count();
     if (isDigit)
     {
         m_digits.Append(key[0]);
@@ -110,8 +112,13 @@ void PinField::m_OnKey(const char* key)
     {
         m_digits.RemoveLast();
     }
+    if (m_digits.Count() == before)
+    {
+        return;
+    }
     m_Draw();
-    if (m_entered && m_digits.Full() && !wasFull)
+    VoiceGuide::TheOne().SpeakNews(DigitOf(static_cast<int>(m_digits.Count()), static_cast<int>(m_cells.size())));
+    if (m_entered && m_digits.Full())
     {
         m_entered(m_object);
     }

@@ -1,4 +1,6 @@
 #include "CString.h"
+#include "VoiceGuide.h"
+#include "Words.h"
 #include "ea.h"
 #include "toolkit/Numbers.h"
 #include "toolkit/SizeHints.h"
@@ -224,8 +226,13 @@ void TextPage::Show(int page)
     {
         return;
     }
+    const bool turned = page != m_current;
     m_current = page;
     m_Place();
+    if (turned)
+    {
+        VoiceGuide::TheOne().SpeakNews(PageOf(m_current + 1, Total()));
+    }
 }
 
 void TextPage::m_UpdateLater()

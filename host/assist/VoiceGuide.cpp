@@ -13,6 +13,7 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <initializer_list>
 
 namespace veskar
 {
@@ -41,6 +42,17 @@ void Record(const std::string& sentence)
     }
 }
 
+/** Those that are not empty, with commas between. */
+std::string Listed(std::initializer_list<std::string> parts)
+{
+    std::string listed;
+    for (const std::string& part : parts)
+    {
+        listed += listed.empty() || part.empty() ? part : ", " + part;
+    }
+    return listed;
+}
+
 void Speak(const std::string& text, Turn turn)
 {
     if (!IsOn(VOICE_GUIDE_KEY))
@@ -67,6 +79,11 @@ void VoiceGuide::SpeakScreen(const char* text)
     m_viewerMoved = false;
     OwnScreen::Instance().NoteText(SpokenText(text));
     Speak(text, Turn::AtOnce);
+}
+
+void VoiceGuide::SpeakNews(const std::string& sentence)
+{
+    Speak(sentence, Turn::AtOnce);
 }
 
 void VoiceGuide::FollowFocus()
@@ -128,8 +145,8 @@ void VoiceGuide::m_LookAtFocus()
         return;
     }
     m_spoken = focused;
-    const std::string tick = TickOf(focused, Language());
-    const std::string sentence = sameElement ? tick : text + (tick.empty() ? "" : ", " + tick);
+    const std::string tick = TickOf(focused);
+    const std::string sentence = sameElement ? tick : Listed({text, tick, PlaceOf(focused)});
     // Before the viewer has pressed a key, the focused element waits until the screen has been read out.
     Speak(sentence, m_viewerMoved ? Turn::AtOnce : Turn::Next);
 }

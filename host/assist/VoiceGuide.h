@@ -21,6 +21,9 @@ public:
     /** Speaks a screen's text immediately (see SpokenText.h), then the element that has the focus. */
     void SpeakScreen(const char* markup);
 
+    /** Speaks what has changed on the screen immediately: a page, a value. */
+    void SpeakNews(const std::string& sentence);
+
     /**
      * Starts to speak each button and row that gets the focus in the program's window, and each tick of a row. May be
      * called more than once.

@@ -75,9 +75,9 @@ TEST_F(AssistTest, AScreenIsReadOutInFullUnlessTheViewerMovesOn)
         manager->ShowList(1, 255, "T", "", "", {"a", "b"}, "L", false, {}, true);
         TakeKeyboard();
         Watch();
-        EXPECT_THAT(spoken, ElementsAre(testing::StartsWith("at once: T, "), "next: a"));
+        EXPECT_THAT(spoken, ElementsAre(testing::StartsWith("at once: T, "), "next: a, 1 of 2"));
         ViewersKey("Down");
-        EXPECT_EQ(spoken.back(), "at once: b");
+        EXPECT_EQ(spoken.back(), "at once: b, 2 of 2");
     }
 }
 
