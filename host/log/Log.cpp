@@ -11,6 +11,8 @@
 #include <string_view>
 #include <utility>
 
+#include <unistd.h>
+
 #include "Output.h"
 #include "SecretMask.h"
 
@@ -52,6 +54,8 @@ struct LogState
     const int lowestPriority = LowestPriority();
     const bool showSecrets = EnvironmentIs("VESKAR_LOG_SECRETS", "1");
     const LogTarget target = EnvironmentIs("VESKAR_LOG_TO", "journal") ? LogTarget::Journal : LogTarget::StandardError;
+    // Readers of the journal colour by priority themselves, and a file is searched and compared.
+    const bool isColoured = target == LogTarget::StandardError && isatty(STDERR_FILENO) == 1;
 
     /**
      * Protects what follows, and the output: a write longer than a pipe takes at once may be split, and another
@@ -134,6 +138,15 @@ void EscapeLineBreaks(std::string& text)
     }
 }
 
+void RemoveColours(std::string& text)
+{
+    for (auto at = text.find("\x1b["); at != std::string::npos; at = text.find("\x1b[", at))
+    {
+        const auto end = text.find('m', at);
+        text.erase(at, end == std::string::npos ? end : end - at + 1);
+    }
+}
+
 /** Straight into the string: a typed digit's copy in some other buffer would outlive its masking. */
 std::string Format(const char* format, va_list arguments)
 {
@@ -154,6 +167,10 @@ int Print(LogState& state, LogLine line)
         veskar::MaskTypedDigits(line.text);
     }
     EscapeLineBreaks(line.text);
+    if (!state.isColoured)
+    {
+        RemoveColours(line.text);
+    }
     const std::lock_guard<std::mutex> lock(state.writing);
     if (state.folds && line == state.last)
     {

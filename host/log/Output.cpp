@@ -43,23 +43,11 @@ const Level& LevelOf(int priority)
     return *found;
 }
 
-/** Journal readers colour by priority themselves. */
-std::string WithoutColours(std::string text)
-{
-    for (auto at = text.find("\x1b["); at != std::string::npos; at = text.find("\x1b[", at))
-    {
-        const auto end = text.find('m', at);
-        text.erase(at, end == std::string::npos ? end : end - at + 1);
-    }
-    return text;
-}
-
 int WriteToJournal(const LogLine& line)
 {
-    const auto text = WithoutColours(line.text);
     const int result = sd_journal_send("PRIORITY=%d", LevelOf(line.priority).journalPriority, "SYSLOG_IDENTIFIER=%s",
-                                       line.tag.c_str(), "MESSAGE=%s", text.c_str(), nullptr);
-    return result < 0 ? result : static_cast<int>(text.size());
+                                       line.tag.c_str(), "MESSAGE=%s", line.text.c_str(), nullptr);
+    return result < 0 ? result : static_cast<int>(line.text.size());
 }
 
 int WriteToStandardError(const std::string& bytes)

@@ -10,6 +10,7 @@
 #include <thread>
 #include <utility>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace
@@ -38,6 +39,14 @@ TEST(Log, TypedDigitsAreMaskedAndOtherNumbersAreNot)
         veskar::MaskTypedDigits(masked);
         EXPECT_EQ(masked, expected);
     }
+}
+
+TEST(Log, ColoursAreForTerminals)
+{
+    testing::internal::CaptureStderr();
+    __dlog_print(LOG_ID_MAIN, DLOG_ERROR, "TAG", "a > \x1b[31m%s\x1b[0m", "[31m stays");
+    Tell("another line");
+    EXPECT_THAT(testing::internal::GetCapturedStderr(), testing::StartsWith("TAG E a > [31m stays\n"));
 }
 
 TEST(Log, OneCallIsOneLineFromAnyThreadAndEqualOnesAreCounted)
