@@ -34,7 +34,7 @@ TEST_F(KeyGuard, HoldsBackWhatDecidesUntilTheScreenHasBeenSeen)
     WaitForScreen(7);
     PressAtOnce({"Return", "Back", "Exit"});
     Process press({"veskar-remote", "press", "--timeout", "0.3", "Return"});
-    EXPECT_EQ(press.Status(), 2) << "held back, and the tool does not say so";
+    EXPECT_EQ(press.Status(), 3) << "held back, and the tool does not say so";
     EXPECT_FALSE(request.HasEnded());
     SetDelay(0);
     PressAtOnce({"Return"});
@@ -96,7 +96,7 @@ TEST_F(KeyGuard, HasTheToolSayWhatDoesNotCome)
     for (const Words& waits : {Words{"--gone"}, Words{"--gone", "--ui-id", "7"}, Words{"--shown", "--ui-id", "8"}})
     {
         Process wait(Words{"veskar-remote", "wait", "--timeout", "0.1"} + waits);
-        EXPECT_EQ(wait.Status(), 2) << waits.back();
+        EXPECT_EQ(wait.Status(), 3) << waits.back();
     }
     RunCommand({"veskar-remote", "wait", "--gone", "--ui-id", "8"});
     Press({"Return"});

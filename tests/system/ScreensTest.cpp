@@ -3,6 +3,8 @@
 #include "Tv.h"
 
 #include <fstream>
+#include <regex>
+#include <sstream>
 
 namespace
 {
@@ -88,6 +90,23 @@ TEST_F(Screens, ListOfManyRowsKeepsTheFocusedOneAndTheNextInView)
         return StillShot();
     };
     EXPECT_NE(eighthOf("One"), eighthOf("Another")) << "the row after the focused one is out of view";
+}
+
+TEST_F(Screens, LogNoErrorButThoseThatTheDocumentsName)
+{
+    const Words button{"--button", "OK"};
+    ExpectKeysAnswer("message", button, {"Return"}, Answer(7, 255, 0, 1, 0));
+    ExpectKeysAnswer("list", Rows(2) + button, {"Down", "Down", "Return"}, Answer(7, 255, 0, 1, 0));
+    ExpectKeysAnswer("progress", button, {"Return"}, Answer(7, 255, 0, 1, 0));
+    ExpectKeysAnswer("pin", {}, {"Back"}, Answer(7, 255, 3, 0, 0));
+    EndApplication();
+    const std::regex errorLine("^VESKAR-APP E (?!TextStyle.*Failed to read|LineCount.*Get layout failed|"
+                               "MenuList.*mfocus set to zero|main.cpp: main\\(\\d+\\) > $)");
+    std::istringstream log(Log());
+    for (std::string line; std::getline(log, line);)
+    {
+        EXPECT_FALSE(std::regex_search(line, errorLine)) << line;
+    }
 }
 
 TEST_F(Screens, PinTakesTheDigitsOfTheNumberPad)

@@ -38,6 +38,23 @@ TEST(Settings, WhatTheToolSetsIsReadByThePlatform)
     EXPECT_EQ(RunCommand({"veskar-setting", "get", FLAG}), "0\n");
 }
 
+TEST(Settings, TheToolWritesNothingWhereNoTvReads)
+{
+    const auto outside = [](const Words& words)
+    {
+        const std::string home = Environment("XDG_RUNTIME_DIR") + "/home";
+        return Process(Words{"env", "-u", "VESKAR_SETTINGS_DIR", "-u", "VESKAR_TV_LOG", "XDG_CONFIG_HOME=" + home,
+                             "veskar-setting"} +
+                       words)
+            .Status();
+    };
+    EXPECT_EQ(outside({"set", NUMBER, "1"}), 69);
+    EXPECT_EQ(outside({"get", NUMBER}), 1);
+    EXPECT_EQ(outside({"set", NUMBER, "1", "--force"}), 0);
+    EXPECT_EQ(outside({"unset", NUMBER}), 69);
+    EXPECT_EQ(outside({"get", NUMBER}), 0);
+}
+
 TEST(Settings, TheToolRefusesWhatNothingReadsAndValuesOfAnotherType)
 {
     EXPECT_EQ(Process({"veskar-setting", "set", "db/nobody", "1"}).Status(), 64);

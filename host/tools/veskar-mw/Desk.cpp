@@ -83,7 +83,7 @@ Failure FailureOf(const sdbus::Error& error)
     {
         return {ExitStatus::BAD_USAGE, "the application refused the request: " + error.getMessage()};
     }
-    return {ExitStatus::UNAVAILABLE, error.getMessage().empty() ? error.getName() : error.getMessage()};
+    return {ExitStatus::UNAVAILABLE, (error.getMessage().empty() ? error.getName() : error.getMessage()) + HintOfTv()};
 }
 
 } // namespace veskar

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Request.h"
+#include "Tool.h"
 
 #include <cstdint>
 #include <string>
@@ -12,14 +13,14 @@ namespace veskar
 namespace ExitStatus
 {
 
-inline constexpr int ANSWERED = 0;
-inline constexpr int DELIVERED = 0;
+inline constexpr int ANSWERED = ToolStatus::DONE;
+inline constexpr int DELIVERED = ToolStatus::DONE;
 inline constexpr int BACK = 1;
 inline constexpr int CLOSED = 2;
-inline constexpr int TIMED_OUT = 3;
-inline constexpr int BAD_USAGE = 64;
-inline constexpr int UNAVAILABLE = 69;
-inline constexpr int UNKNOWN_ANSWER = 70;
+inline constexpr int TIMED_OUT = ToolStatus::NOT_IN_TIME;
+inline constexpr int BAD_USAGE = ToolStatus::BAD_USAGE;
+inline constexpr int UNAVAILABLE = ToolStatus::UNAVAILABLE;
+inline constexpr int UNKNOWN_ANSWER = ToolStatus::UNKNOWN_ANSWER;
 
 } // namespace ExitStatus
 

@@ -24,7 +24,10 @@ const Field IMAGE{"ui_param_image_location", "--image", Encoding::Text, "The ima
 const Field IMAGES{"ui_param_multiple_image_locations", "--image", Encoding::List,
                    "The image of a row, in the rows' order (repeatable)"};
 const Field SELECTABLE{"ui_param_selectable", "--selectable", Encoding::Flag, "A row can be chosen"};
-const Field PIN_LENGTH{"ui_param_pin_length", "--length", Encoding::Number, "How many digits", 4};
+const Field PIN_TEXT{"ui_param_txt", "--text", Encoding::Text, "The text, which a PIN screen shows as its sub-title"};
+const Field PIN_SUB{"ui_param_sub", "--sub", Encoding::Text, "Does nothing: --text stands in the sub-title's place"};
+const Field PIN_LENGTH{"ui_param_pin_length", "--length", Encoding::Number,
+                       "Does nothing: a PIN always has four digits", 4};
 
 const Fields LIST_FIELDS{TITLE, SUB, BOTTOM, ENTRIES, ENTRIES_FROM, FORMAT, HEADER, BUTTONS};
 
@@ -46,7 +49,7 @@ const std::vector<ScreenKind>& ScreenKinds()
         {"image", "ui_type_image", "A picture", {TITLE, SUB, BOTTOM, BUTTONS, IMAGE, WIDTH, HEIGHT, NO_CLOSE}},
         {"image-list", "ui_type_multiple_image_list", "Rows with a picture each",
          LIST_FIELDS + Fields{IMAGES, WIDTH, HEIGHT, SELECTABLE}},
-        {"pin", "ui_type_pin_entry", "A PIN to enter", {TITLE, SUB, TEXT, PIN_LENGTH, BOTTOM}},
+        {"pin", "ui_type_pin_entry", "A PIN to enter", {TITLE, PIN_SUB, PIN_TEXT, PIN_LENGTH, BOTTOM}},
         {"progress",
          "ui_type_progress",
          "A bar; asked for again with the same ids, it moves on",

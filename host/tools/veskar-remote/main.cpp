@@ -1,13 +1,9 @@
-/**
- * The remote control of a desk TV, from a command line.
- *
- * Exit status: 0 done, 1 the compositor refused (an unknown key, a file that cannot be written), 2 nobody took the key,
- * or what was waited for did not come in time, 64 bad usage, 69 no compositor or no bus.
- */
+/** The remote control of a desk TV, from a command line. */
 #include "RemoteClient.h"
 #include "RemoteSocketPath.h"
 #include "ScreenText.h"
 #include "TemporaryFolder.h"
+#include "Tool.h"
 #include "Waits.h"
 
 #include <CLI/CLI.hpp>
@@ -22,10 +18,7 @@
 namespace
 {
 
-constexpr int REFUSED = 1;
-constexpr int IN_VAIN = 2;
-constexpr int BAD_USAGE = 64;
-constexpr int NO_COMPOSITOR = 69;
+namespace ToolStatus = veskar::ToolStatus;
 
 using Keys = std::vector<std::string>;
 
@@ -152,7 +145,12 @@ void AddCommands(CLI::App& app, Wanted& wanted)
     app.footer(
         "KEY is a platform name (XF86Back) or the part of it that one would type (back, play, 7).\n"
         "press waits until somebody takes the key: a screen takes Return, Back, Exit and digits only when it has\n"
-        "been seen.");
+        "been seen.\n\n"
+        "Exit status:\n"
+        "  0   done\n"
+        "  3   nobody took the key, or what was waited for did not come, within --timeout\n"
+        "  64  bad usage, or the compositor refused: an unknown key, a file that cannot be read or written\n"
+        "  69  no TV");
 }
 
 std::chrono::milliseconds Patience(const Wanted& wanted)
@@ -237,12 +235,18 @@ int Run(int argc, char* argv[])
     }
     catch (const CLI::ParseError& error)
     {
-        return app.exit(error) == 0 ? 0 : BAD_USAGE;
+        return app.exit(error) == 0 ? ToolStatus::DONE : ToolStatus::BAD_USAGE;
     }
     wanted.command = app.get_subcommands().front()->get_name();
     veskar::RemoteClient remote(veskar::RemoteSocketPath());
     Do(wanted, remote);
-    return 0;
+    return ToolStatus::DONE;
+}
+
+int Fail(int status, const std::string& why)
+{
+    std::cerr << "veskar-remote: " << why << "\n";
+    return status;
 }
 
 } // namespace
@@ -255,22 +259,18 @@ int main(int argc, char* argv[])
     }
     catch (const veskar::RemoteRefusal& refusal)
     {
-        std::cerr << "veskar-remote: " << refusal.what() << "\n";
-        return REFUSED;
+        return Fail(ToolStatus::BAD_USAGE, refusal.what());
     }
     catch (const veskar::InVain& trouble)
     {
-        std::cerr << "veskar-remote: " << trouble.what() << "\n";
-        return IN_VAIN;
+        return Fail(ToolStatus::NOT_IN_TIME, trouble.what());
     }
     catch (const veskar::RemoteUnreachable& trouble)
     {
-        std::cerr << "veskar-remote: " << trouble.what() << "\n";
-        return NO_COMPOSITOR;
+        return Fail(ToolStatus::UNAVAILABLE, trouble.what() + veskar::HintOfTv());
     }
     catch (const veskar::NoBus& trouble)
     {
-        std::cerr << "veskar-remote: " << trouble.what() << "\n";
-        return NO_COMPOSITOR;
+        return Fail(ToolStatus::UNAVAILABLE, trouble.what() + veskar::HintOfTv());
     }
 }
