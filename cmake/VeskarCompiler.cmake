@@ -1,4 +1,4 @@
-# How all of our code is compiled: one language level, warnings as errors, the compiler cache where there is one.
+# How all of our code is compiled: one language level, the compiler cache where there is one.
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -14,7 +14,12 @@ endif()
 find_package(Threads REQUIRED)
 
 add_library(veskar-compile-options INTERFACE)
-target_compile_options(veskar-compile-options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Werror)
+target_compile_options(veskar-compile-options INTERFACE -Wall -Wextra -Wpedantic -Wshadow)
+# Our presets set it. Other compilers, and later ones, have warnings that we have not seen.
+option(VESKAR_WERROR "Treat warnings as errors" OFF)
+if(VESKAR_WERROR)
+    target_compile_options(veskar-compile-options INTERFACE -Werror)
+endif()
 
 if(VESKAR_SANITIZE)
     add_compile_options(-fsanitize=${VESKAR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
