@@ -8,6 +8,7 @@
 
 #include "Compositor.h"
 #include "Log.h"
+#include "SharedFile.h"
 
 namespace veskar
 {
@@ -49,8 +50,8 @@ std::string StartToolkit(int argc, char** argv)
 
 void LoadTheme()
 {
-    const char* chosen = getenv("VESKAR_THEME");
-    const char* theme = chosen != nullptr && *chosen != '\0' ? chosen : VESKAR_THEME_FILE;
+    const std::string file = SharedFile("VESKAR_THEME", "veskar-theme.edj");
+    const char* theme = file.c_str();
     if (!edje_file_group_exists(theme, GROUP_OF_THE_THEME))
     {
         std::error_code error;

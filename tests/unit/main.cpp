@@ -22,6 +22,7 @@ extern "C" int __wrap_main(int argc, char** argv)
     setenv("ELM_DISPLAY", "buffer", 1);
     setenv("ELM_ENGINE", "buffer", 1);
     setenv("ELM_SCALE", "1.0", 1);
+    setenv("VESKAR_LAYOUT", BUILT_LAYOUT, 1);
     setenv("EINA_LOG_LEVEL", "0", 1);               // the toolkit logs at length that there is no system bus
     setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 1); // its drawing thread may end the process on a busy machine
     efreet_cache_disable();                         // its daemon would outlive the test and hold its output
