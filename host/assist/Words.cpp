@@ -1,6 +1,7 @@
 #include "Words.h"
 
-#include <cstdlib>
+#include "SharedFile.h"
+
 #include <string_view>
 
 #include <libintl.h>
@@ -17,8 +18,7 @@ const char* Translated(const char* english)
 {
     static const char* const domain = []
     {
-        const char* chosen = std::getenv("VESKAR_LOCALE_DIR");
-        bindtextdomain(DOMAIN, chosen && *chosen ? chosen : VESKAR_INSTALLED_LOCALE_DIR);
+        bindtextdomain(DOMAIN, SharedFile("VESKAR_LOCALE_DIR", "locale").c_str());
         bind_textdomain_codeset(DOMAIN, "UTF-8");
         return DOMAIN;
     }();
