@@ -265,8 +265,9 @@ int ComplainOfUsage(const CLI::App& app, const CLI::ParseError& error)
     }
     const Texts known = kinds.empty() ? KindsOf(app) : OptionsOf(*kinds.front());
     const std::string command = kinds.empty() ? "veskar-mw" : "veskar-mw " + kinds.front()->get_name();
-    std::cerr << "veskar-mw: there is no " << (kinds.empty() ? "kind" : "option") << " \"" << *unknown << "\""
-              << Suggestion(*unknown, known) << "; " << command << " --help names them all\n";
+    const std::string word = unknown->substr(0, unknown->find('='));
+    std::cerr << "veskar-mw: there is no " << (kinds.empty() ? "kind" : "option") << " \"" << word << "\""
+              << Suggestion(word, known) << "; " << command << " --help names them all\n";
     return ExitStatus::BAD_USAGE;
 }
 
