@@ -90,6 +90,7 @@ class Remote:
     def press(self, key):
         """Returns when the compositor injected it."""
         self.ask(f"press {key}")
+
         def find(moments):
             keys = [moment.time for moment in moments if moment.kind == "key"]
             return keys[-1] if keys else None

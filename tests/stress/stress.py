@@ -66,8 +66,8 @@ class Screen:
 
     def __init__(self, ui_id):
         self.ids = [ui_id, 255]
-        self.process = subprocess.Popen(["veskar-mw", "--ui-id", str(ui_id), "message", "--title", "x", "--button", "OK"],
-                                        stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+        command = ["veskar-mw", "--ui-id", str(ui_id), "message", "--title", "x", "--button", "OK"]
+        self.process = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
 
     def ended(self):
         return self.process.poll() is not None
@@ -95,8 +95,8 @@ class Screen:
 
 def size(pid):
     status = pathlib.Path(f"/proc/{pid}/status").read_text().split()
-    value = lambda key: int(status[status.index(key) + 1])
-    return f"{value('VmRSS:') // 1024} MB, {value('Threads:')} threads, {len(os.listdir(f'/proc/{pid}/fd'))} descriptors"
+    memory, threads = (int(status[status.index(key) + 1]) for key in ("VmRSS:", "Threads:"))
+    return f"{memory // 1024} MB, {threads} threads, {len(os.listdir(f'/proc/{pid}/fd'))} descriptors"
 
 
 def request(number):
@@ -218,10 +218,12 @@ FAULTS = {
     "settings unreadable": Fault(lambda: spoil_settings(True)),
     "settings garbage": Fault(lambda: spoil_settings(False)),
     "clock set back": Fault(set_clock_back, start="FAKETIME_TIMESTAMP_FILE=$XDG_RUNTIME_DIR/clock FAKETIME_NO_CACHE=1 "
-                            "FAKETIME_DONT_FAKE_MONOTONIC=1 LD_PRELOAD=$(ls /usr/lib/*/faketime/libfaketime.so.1) exec "),
+                            "FAKETIME_DONT_FAKE_MONOTONIC=1 "
+                            "LD_PRELOAD=$(ls /usr/lib/*/faketime/libfaketime.so.1) exec "),
     "disk full": Fault(fill_disk, start=f"mkdir -p {SMALL}; WAYLAND_DISPLAY=$XDG_RUNTIME_DIR/$WAYLAND_DISPLAY " +
                        NAMESPACE.format(f"mount -t tmpfs -o size=64m tmpfs {SMALL} && XDG_RUNTIME_DIR={SMALL}")),
-    "no fonts": Fault(int, start="echo '<fontconfig/>' >$XDG_RUNTIME_DIR/none; FONTCONFIG_FILE=$XDG_RUNTIME_DIR/none exec "),
+    "no fonts": Fault(int, start="echo '<fontconfig/>' >$XDG_RUNTIME_DIR/none; "
+                                 "FONTCONFIG_FILE=$XDG_RUNTIME_DIR/none exec "),
     # In the toolkit's own look a popup has no place for buttons: its own time-out closes it.
     "no theme": Fault(int, (CLOSED,), start="VESKAR_THEME=/nowhere exec "),
     "no layout": Fault(int, start=NAMESPACE.format(f"mount --bind /dev/null {BUILD}/edje/kavro_layout.edj &&")),
@@ -274,8 +276,8 @@ def in_tv(words, start="exec ", options=(), application=BUILD / "main/veskar-app
         script.chmod(0o755)
         environment = dict(os.environ, VESKAR_APPLICATION=str(script), VESKAR_BUILD_DIR=str(BUILD))
         log = pathlib.Path(folder, "log")
-        result = subprocess.run([ROOT / "host/tools/veskar-tv", "--log", log, *options, "--", __file__, *words, *options],
-                                env=environment, capture_output=words[0] == "inside", text=True, check=False)
+        command = [ROOT / "host/tools/veskar-tv", "--log", log, *options, "--", __file__, *words, *options]
+        result = subprocess.run(command, env=environment, capture_output=words[0] == "inside", text=True, check=False)
         if result.returncode != 0:
             shutil.copy(log, BUILD / f"stress-{words[words[0] == 'inside']}.log")
         return result
@@ -295,7 +297,8 @@ def main(what, *more):
     else:
         bad = BUILD / "stress-bad-ends"
         bad.unlink(missing_ok=True)
-        status = in_tv(["starts", more[0]], f"trap 's=$?; [ $s = 0 ] || echo $s >>{bad}' EXIT; ", (), *more[1:]).returncode
+        tell = f"trap 's=$?; [ $s = 0 ] || echo $s >>{bad}' EXIT; "
+        status = in_tv(["starts", more[0]], tell, (), *more[1:]).returncode
         sys.exit(f"ended badly: {bad.read_text().split()}" if bad.exists() else status)
 
 
