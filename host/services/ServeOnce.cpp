@@ -3,6 +3,7 @@
 #include <poll.h>
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 namespace veskar
@@ -32,7 +33,7 @@ int Shorter(int left, int right)
 
 } // namespace
 
-bool ServeOnce(sdbus::IConnection& connection, Clock::time_point deadline)
+bool ServeOnce(sdbus::IConnection& connection, Clock::time_point deadline, int input)
 {
     if (connection.processPendingRequest())
     {
@@ -43,8 +44,8 @@ bool ServeOnce(sdbus::IConnection& connection, Clock::time_point deadline)
         return false;
     }
     const auto bus = connection.getEventLoopPollData();
-    pollfd descriptor{bus.fd, bus.events, 0};
-    ::poll(&descriptor, 1, Shorter(bus.getPollTimeout(), MillisecondsUntil(deadline)));
+    pollfd descriptors[]{{bus.fd, bus.events, 0}, {input, POLLIN, 0}};
+    ::poll(descriptors, std::size(descriptors), Shorter(bus.getPollTimeout(), MillisecondsUntil(deadline)));
     return true;
 }
 

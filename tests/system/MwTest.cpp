@@ -82,8 +82,9 @@ TEST_F(MwTest, BadUsageIsRefusedWithoutARequest)
     for (const std::string usage :
          {"", "bogus", "menu", "menu nowhere", "raw a", "raw a=1 a[]=2", "--source-id 256 message",
           "--ui-id 010 message", "--timeout 0 message", "--timeout nan message", "image --width 0x10",
-          "image --height -1", "progress --percent 101", "message --title $(printf '\\377')",
-          "list --entries-from /nowhere", "list --entries-from /"})
+          "image --height -1", "progress --percent 101", "progress --percent-from /nowhere",
+          "--no-wait progress --percent-from -", "message --title $(printf '\\377')", "list --entries-from /nowhere",
+          "list --entries-from /"})
     {
         Process mw({"sh", "-c", "veskar-mw " + usage});
         EXPECT_EQ(mw.Status(), 64) << usage;
@@ -100,6 +101,33 @@ TEST_F(MwTest, RawWaitsForTheScreenWithTheIdsAmongItsValues)
     EXPECT_EQ(m_application.Take().at("ui_param_buttons").get<Words>(), (Words{"A", "B"}));
     m_application.Answer(42, 254, 3);
     EXPECT_EQ(mw.Status(), 1);
+}
+
+TEST_F(MwTest, ProgressFollowsTheLinesOfItsInputAndIsClosedAfterThem)
+{
+    Process mw({"sh", "-c",
+                "cd $XDG_RUNTIME_DIR; printf '10\\n# Checking\\nnonsense\\n100' >lines; veskar-mw progress "
+                "--percent-from lines"});
+    EXPECT_EQ(m_application.Take().at("ui_param_percent").get<std::string>(), "0");
+    const RequestData next = m_application.Take();
+    EXPECT_EQ(next.at("ui_param_percent").get<std::string>(), "10");
+    EXPECT_EQ(next.at("ui_param_txt").get<std::string>(), "Checking");
+    EXPECT_EQ(m_application.Take().at("ui_param_percent").get<std::string>(), "100") << "a line without its end";
+    EXPECT_EQ(m_application.Take().at("signal_tvservice_key").get<std::string>(), "ui_type_close");
+    m_application.Answer(1, 255, Controller::Closed);
+    EXPECT_EQ(mw.Status(), 0);
+    EXPECT_EQ(mw.Output(), Answer(1, 255, Controller::Closed, 0, 0));
+}
+
+TEST_F(MwTest, ProgressThatIsAnsweredWhileItMovesOnIsNotShownAgain)
+{
+    Process mw({"sh", "-c", "echo 10 | veskar-mw progress --button Stop --percent-from -"});
+    m_application.Take();
+    m_application.WhileHandling([this] { m_application.Answer(1, 255, Controller::Answered, 1); });
+    EXPECT_EQ(m_application.Take().at("ui_param_percent").get<std::string>(), "10");
+    EXPECT_EQ(m_application.Take().at("signal_tvservice_key").get<std::string>(), "ui_type_close");
+    EXPECT_EQ(mw.Status(), 0);
+    EXPECT_THAT(mw.Output(), testing::HasSubstr(R"("label":"Stop")"));
 }
 
 TEST_F(MwTest, MenuTellsTheTaskAndThePositionOfItsOwnRequest)

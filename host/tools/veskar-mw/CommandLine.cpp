@@ -23,8 +23,8 @@ constexpr auto FOOTER =
 standard output; beside the numbers "label" and "row" repeat the texts of the button and the row.
 
 Exit status:
-  0   answered; or taken by the application, where no answer comes (close, sequence, --no-wait, a screen or
-      menu position that is not known, of which a warning tells)
+  0   answered; or a progress has come to the end of its lines; or taken by the application, where no answer comes
+      (close, sequence, --no-wait, a screen or menu position that is not known, of which a warning tells)
   1   the viewer pressed Back
   2   closed without an answer: by Exit, a close request, another screen, or the screen's own time-out
   3   no answer within --timeout
@@ -116,7 +116,8 @@ struct General
     bool noWait = false;
 };
 
-void AddGeneral(CLI::App& app, General& general)
+/** Returns the option that excludes the wait for an answer. */
+CLI::Option* AddGeneral(CLI::App& app, General& general)
 {
     constexpr double SHORTEST = 1e-3;
     constexpr double LONGEST = 1e9;
@@ -129,7 +130,7 @@ void AddGeneral(CLI::App& app, General& general)
         ->capture_default_str()
         ->check(CheckDecimal)
         ->check(CLI::Range(SHORTEST, LONGEST));
-    app.add_flag("--no-wait", general.noWait, "Do not wait for the answer");
+    return app.add_flag("--no-wait", general.noWait, "Do not wait for the answer");
 }
 
 /**
@@ -150,6 +151,17 @@ void AddScreens(CLI::App& app, Requests& requests)
             AddField(*command, field, request);
         }
     }
+}
+
+void AddFeed(CLI::App& app, CLI::Option* noWait, std::string& file)
+{
+    app.get_subcommand("progress")
+        ->add_option("--percent-from", file,
+                     "Moves on with each line: 10 is a percentage, # text another text; - is standard input. After the "
+                     "last line it is closed, or with a button waits for it")
+        ->type_name("FILE")
+        ->check([](const std::string& name) { return name == "-" ? "" : CLI::ExistingFile(name); })
+        ->excludes(noWait);
 }
 
 void AddOthers(CLI::App& app, Requests& requests)
@@ -282,8 +294,10 @@ std::variant<Command, int> ParseCommandLine(int argc, char** argv)
     app.fallthrough();
     General general;
     Requests requests;
-    AddGeneral(app, general);
+    std::string percentFrom;
+    CLI::Option* noWait = AddGeneral(app, general);
     AddScreens(app, requests);
+    AddFeed(app, noWait, percentFrom);
     AddOthers(app, requests);
     // Added after the kinds, which would inherit it.
     app.footer(FOOTER);
@@ -304,7 +318,7 @@ std::variant<Command, int> ParseCommandLine(int argc, char** argv)
     }
     const auto timeout =
         std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::duration<double>{general.timeout});
-    return Command{request, timeout, !general.noWait};
+    return Command{request, timeout, !general.noWait, percentFrom};
 }
 
 } // namespace veskar

@@ -1,5 +1,6 @@
 #include "Desk.h"
 
+#include "FollowedProgress.h"
 #include "ServeOnce.h"
 
 #include <algorithm>
@@ -14,6 +15,8 @@ constexpr const char* TIMEOUT = "org.freedesktop.DBus.Error.Timeout";
 constexpr const char* NOT_UTF8 = "org.freedesktop.DBus.Error.InvalidArgs";
 constexpr const char* TOO_BIG = "org.freedesktop.DBus.Error.InconsistentMessage";
 
+} // namespace
+
 RequestData OnTheBus(const Request& request)
 {
     RequestData data;
@@ -23,8 +26,6 @@ RequestData OnTheBus(const Request& request)
     }
     return data;
 }
-
-} // namespace
 
 DeskConnection::DeskConnection(std::chrono::microseconds timeout)
     : m_deadline(Clock::now() + timeout), m_connection(sdbus::createSessionBusConnection()),
@@ -41,6 +42,13 @@ ScreenAnswer DeskConnection::Ask(const Request& request)
         .withArguments(std::int32_t{request.UiId()}, request.SourceId(), OnTheBus(request))
         .storeResultsTo(answer.uiId, answer.sourceId, answer.kind, answer.button, answer.item, answer.data);
     return answer;
+}
+
+DeskConnection::Followed DeskConnection::Follow(const Request& progress, ProgressFeed& feed)
+{
+    FollowedProgress followed(*m_connection, *m_desk, progress, feed);
+    const ScreenAnswer answer = followed.Run(m_TimeLeft());
+    return {answer, followed.IsFinished()};
 }
 
 void DeskConnection::Tell(const Request& request)

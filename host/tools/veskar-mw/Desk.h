@@ -2,6 +2,7 @@
 #pragma once
 
 #include "DeskBus.h"
+#include "ProgressFeed.h"
 #include "Report.h"
 #include "Request.h"
 
@@ -12,6 +13,8 @@
 
 namespace veskar
 {
+RequestData OnTheBus(const Request& request);
+
 /**
  * All operations together wait at most for the time given to the constructor. Each throws sdbus::Error when the request
  * cannot be delivered or the time is over.
@@ -23,6 +26,15 @@ public:
 
     /** Asks for a screen and waits for its answer. */
     ScreenAnswer Ask(const Request& request);
+
+    struct Followed
+    {
+        ScreenAnswer answer;
+        /** It was closed because its feed had ended. */
+        bool isFinished;
+    };
+    /** Asks for a progress that the feed moves on; see FollowedProgress. Each line starts the time again. */
+    Followed Follow(const Request& progress, ProgressFeed& feed);
     /** Returns once the application has taken the request. */
     void Tell(const Request& request);
 

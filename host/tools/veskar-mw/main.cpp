@@ -4,6 +4,7 @@
 #include "Warnings.h"
 
 #include <iostream>
+#include <system_error>
 
 using namespace veskar;
 
@@ -45,6 +46,13 @@ int Ask(DeskConnection& desk, const Request& request)
     return StatusOf(answer);
 }
 
+int Follow(DeskConnection& desk, const Request& progress, ProgressFeed& feed)
+{
+    const DeskConnection::Followed followed = desk.Follow(progress, feed);
+    PrintLine(ToJson(followed.answer, progress));
+    return followed.isFinished ? ExitStatus::ANSWERED : StatusOf(followed.answer);
+}
+
 int Run(const Command& command)
 {
     const Request& request = command.request;
@@ -54,6 +62,11 @@ int Run(const Command& command)
         Say(warning);
     }
     DeskConnection desk{command.timeout};
+    if (!command.percentFrom.empty())
+    {
+        ProgressFeed feed(command.percentFrom);
+        return Follow(desk, request, feed);
+    }
     if (waits)
     {
         return Ask(desk, request);
@@ -78,6 +91,11 @@ int main(int argc, char** argv)
     try
     {
         return Run(std::get<Command>(parsed));
+    }
+    catch (const std::system_error& error) // of a file
+    {
+        Say(error.what());
+        return ExitStatus::BAD_USAGE;
     }
     catch (const sdbus::Error& error)
     {
