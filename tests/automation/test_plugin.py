@@ -2,8 +2,6 @@
 
 import re
 
-pytest_plugins = ["pytester"]
-
 FAILING = """
 def test_card(middleware, viewer, tv):
     tv.set("db/menu/system/accessibility/voiceguide", 1)
