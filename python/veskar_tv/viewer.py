@@ -2,7 +2,7 @@
 
 import pathlib
 
-from .tv import PATIENCE, NotSeen, TvFailed, line_with, read
+from .tv import PATIENCE, NotSeen, TvFailed, line_with, read, until
 
 _IN_VAIN = 2
 
@@ -40,6 +40,13 @@ class Viewer:
         file = pathlib.Path(self._tv.folder, name)
         self._remote("shot", file)
         return file
+
+    def changed(self, picture, name="screen.png", timeout=PATIENCE):
+        """Waits until the screen looks different from the picture, and saves it: the file's path."""
+        __tracebackhide__ = True
+        old = picture.read_bytes()
+        until(lambda: self.shot(name).read_bytes() != old, lambda: f"the screen still looks as in {picture}", timeout)
+        return pathlib.Path(self._tv.folder, name)
 
     def _remote(self, *words):
         __tracebackhide__ = True
