@@ -7,7 +7,7 @@ import shutil
 import subprocess
 import time
 
-PATIENCE = 10  # seconds until a wait is given up
+PATIENCE = 20  # seconds until a wait is given up
 _STARTER = pathlib.Path(__file__).parents[2] / "host/tools/veskar-tv"
 _COLOUR = re.compile(r"\x1b\[[0-9;]*m")
 

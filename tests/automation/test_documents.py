@@ -1,0 +1,30 @@
+"""What docs/automation.md shows runs as it is written there: Python as tests, shell commands inside a TV."""
+
+import pathlib
+import re
+
+import pytest
+
+ROOT = pathlib.Path(__file__).parents[2]
+
+
+def blocks(language):
+    page = (ROOT / "docs/automation.md").read_text()
+    found = re.findall(rf"^```{language}\n(.*?)^```", page, re.MULTILINE | re.DOTALL)
+    assert found
+    return [pytest.param(block, id=block.strip().splitlines()[-1][:40]) for block in found]
+
+
+@pytest.mark.parametrize("program", blocks("python"))
+def test_python(pytester, program):
+    file = pytester.makepyfile(program)
+    if "def test" in program:
+        pytester.runpytest_subprocess("-p", "veskar_tv.plugin", file).assert_outcomes(passed=1)
+    else:
+        assert pytester.runpython(file).ret == 0
+
+
+@pytest.mark.parametrize("commands", blocks("sh"))
+def test_shell(tv, commands):
+    done = tv.run("bash", "-euc", "unset PYTHONPATH\n" + commands, cwd=ROOT, timeout=60)
+    assert done.returncode == 0, done.stdout + done.stderr
