@@ -21,7 +21,7 @@ ApplicationObject::ApplicationObject(Eldbus_Connection* connection, const std::s
     : m_received(std::move(received))
 {
     // The library keeps pointers to these.
-    static const Eldbus_Arg_Info requestArguments[] = {{"a{sv}", "data"}, {nullptr, nullptr}};
+    static const Eldbus_Arg_Info requestArguments[] = {{"a{sv}", "request"}, {nullptr, nullptr}};
     static const Eldbus_Method methods[] = {
         {Applications::APP_CONTROL, requestArguments, nullptr, s_OnAppControl, 0},
         {Applications::PAUSE, nullptr, nullptr, s_OnCall<LifecycleKind::Pause>, 0},
