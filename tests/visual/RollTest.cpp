@@ -35,7 +35,7 @@ struct Showing
     }
     bool AtStart() const { return Top(text) == Top(place); }
     bool AtEnd() const { return Bottom(text) <= Bottom(place); }
-    bool TellsOfMore() const { return edje_object_part_state_get(object, "more", nullptr) == std::string("visible"); }
+    bool TellsOfMore() const { return edje_object_part_state_get(object, "short", nullptr) == std::string("visible"); }
     void Signal(const char* signal) const
     {
         edje_object_signal_emit(object, signal, "elm");
@@ -134,6 +134,7 @@ TEST_F(Roll, WhatIsHigherThanItsPlaceIsShownToItsEndAndWhatIsNotRests)
         EXPECT_TRUE(text.AtStart());
     }
     EXPECT_FALSE(fitting.back().TellsOfMore());
+    EXPECT_FALSE(longer.back().TellsOfMore()) << "has moved";
     // A row that loses the focus shows its beginning again; meanwhile another text starts again after its end.
     longer.back().Signal("elm,state,unfocused");
     EXPECT_TRUE(longer.back().AtStart());
