@@ -137,7 +137,10 @@ struct GridTest : ShownTest, testing::WithParamInterface<Mode>
         std::sort(buttons.begin(), buttons.end());
         EXPECT_EQ(buttons, places[buttons.size()]);
     }
-    /** Whole rows at one pitch, as wide as the grid; those beside a picture end before it and begin at its height. */
+    /**
+     * Whole rows at one pitch, as wide as the grid; those beside a picture, and their bar, end before it, and begin at
+     * its height.
+     */
     void ExpectRows(Evas_Object* list)
     {
         const int pitch = GetParam().pitch;
@@ -151,6 +154,12 @@ struct GridTest : ShownTest, testing::WithParamInterface<Mode>
             EXPECT_TRUE(picture.across.second == GRID.second || picture.across.second == 1600);
             EXPECT_EQ(picture.down.first, view.down.first + 4);
             across = {SCREEN_W - picture.across.second, picture.across.first - 20};
+            const Evas_Object* layout = elm_layout_edje_get(list);
+            if (edje_object_part_state_get(layout, "track", nullptr) == std::string("visible"))
+            {
+                EXPECT_EQ(Place(layout, "track").across, Span(across.second - 6, across.second));
+                across.second -= 24;
+            }
         }
         std::set<int> tops;
         for (const Evas_Object* row : Widgets(list, "edje"))
