@@ -1,11 +1,13 @@
 // How columns and their header stand, and a picture beside a list. The cells of a row keep their texts apart where two
-// columns meet. A header stands in a layout of the theme, which draws a rule below it and lets cells beyond the columns
-// run over the end, as they do in the rows. A picture begins where the rows begin.
+// columns meet, most of all where one text ends and the next one begins. A header stands in a layout of the theme,
+// which draws a rule below it and lets cells beyond the columns run over the end, as they do in the rows. A picture
+// begins where the rows begin.
 
 #include "SizeHints.h"
 #include "ThemeSizes.h"
 #include "Widgets.h"
 
+#include <string_view>
 #include <vector>
 
 extern "C" void __real_elm_box_pack_end(Evas_Object* box, Evas_Object* child); // NOLINT(bugprone-reserved-identifier)
@@ -44,15 +46,40 @@ void Signal(Evas_Object* label, const char* signal)
     edje_object_message_signal_process(elm_layout_edje_get(label));
 }
 
+bool IsAligned(const Evas_Object* cell, std::string_view side)
+{
+    constexpr std::string_view ALIGN = "<align=";
+    const std::string_view markup = elm_object_text_get(cell);
+    const std::size_t at = markup.find(ALIGN);
+    return at != std::string_view::npos && markup.substr(at + ALIGN.size(), side.size()) == side;
+}
+
+/** Whether the texts of both would stand beside each other, with the rest of their columns empty. */
+bool Meet(const Evas_Object* first, const Evas_Object* second)
+{
+    const bool mirrored = elm_object_mirrored_get(first);
+    return IsAligned(mirrored ? second : first, "right") && IsAligned(mirrored ? first : second, "left");
+}
+
 void KeepFromNeighbour(Evas_Object* cell, const Evas_Object* row)
 {
     const std::vector<Evas_Object*> cells = ChildrenOf(row);
-    if (cells.size() < 2 || elm_label_wrap_width_get(cell) < veskar::ThemeSize(cell, "roomy_width"))
+    if (cells.size() < 2)
     {
         return;
     }
-    Signal(cells[cells.size() - 2], "veskar,leads");
-    Signal(cell, "veskar,follows");
+    Evas_Object* before = cells[cells.size() - 2];
+    const bool isRoomy = elm_label_wrap_width_get(cell) >= veskar::ThemeSize(cell, "roomy_width");
+    if (Meet(before, cell))
+    {
+        Signal(before, isRoomy ? "veskar,leads,far" : "veskar,leads,near");
+        Signal(cell, isRoomy ? "veskar,follows,far" : "veskar,follows,near");
+    }
+    else if (isRoomy)
+    {
+        Signal(before, "veskar,leads");
+        Signal(cell, "veskar,follows");
+    }
 }
 
 /** The layout has the width that the header asks for; its cells may need more. */

@@ -209,6 +209,26 @@ TEST_P(GridTest, ThePanelAtTheSideHasItsOwn)
     expectPanel("a list of cells", {534, 1880});
 }
 
+TEST_P(GridTest, ColumnsThatMeetStandApart)
+{
+    const bool mirrored = GetParam().mirrored;
+    const auto gap = [this](const std::string& row, const char* format)
+    {
+        manager->ShowList(1, 255, "T", "", "", {row, row}, format, true, {}, true);
+        WatchWithKeyboard();
+        std::set<Span> rooms; // the same in the header and in the row
+        for (const Box& text : Parts("elm_label", "room", "before"))
+        {
+            rooms.insert(text.across);
+        }
+        return std::next(rooms.begin())->first - rooms.begin()->second;
+    };
+    EXPECT_NEAR(gap("a\tb", mirrored ? "LR" : "RL"), 288, 1);
+    EXPECT_NEAR(gap("a\tb", mirrored ? "RL" : "LR"), 64, 1);
+    EXPECT_NEAR(gap("a\tb\tc\td\te\tf\tg\th", mirrored ? "LRLRLRLR" : "RLRLRLRL"), 36, 1);
+    EXPECT_NEAR(gap("a\tb\tc\td\te\tf\tg\th", "LLLLLLLL"), 16, 1);
+}
+
 TEST_P(GridTest, TextsFollowEachOtherInOneRhythm)
 {
     constexpr int EDGE = 2;
