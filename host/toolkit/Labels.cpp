@@ -1,7 +1,8 @@
-// Numbers in texts stay together. The rest is what the theme's labels cannot find out on their own: that there is
-// nothing to read between the tags of their markup, whether they stand above or below a screen's content, and that they
-// stand in the panel at the side, where lines are shorter. Lines may be counted right after a text or a style was set,
-// so all is passed on immediately.
+// Numbers in texts stay together, and in the panel at the side a text begins where the title does, also one that its
+// markup centres. The rest is what the theme's labels cannot find out on their own: that there is nothing to read
+// between the tags of their markup, whether they stand above or below a screen's content, and that they stand in the
+// panel at the side, where lines are shorter. Lines may be counted right after a text or a style was set, so all is
+// passed on immediately.
 
 #include "CString.h"
 #include "Numbers.h"
@@ -13,10 +14,30 @@ namespace
 
 constexpr const char* LINES_STYLE = "popup/c_popup_bottom";
 
+/** A message, or a line above or below a screen's content; a cell of a list is none. */
+bool IsLine(const Evas_Object* object)
+{
+    return veskar::Is(object, "elm_label") && std::strcmp(elm_object_style_get(object), LINES_STYLE) == 0;
+}
+
 bool StandsInSidePanel(const Evas_Object* label)
 {
     const Evas_Object* popup = veskar::PopupAround(label);
     return popup != nullptr && veskar::IsAtSide(popup);
+}
+
+std::string WithoutCentring(std::string markup)
+{
+    constexpr std::string_view CENTRED = "<align=center>";
+    const std::size_t at = markup.find(CENTRED);
+    return at == std::string::npos ? markup : markup.erase(at, CENTRED.size());
+}
+
+/** What the toolkit is given to show. */
+std::string Shown(const Evas_Object* object, const char* text)
+{
+    std::string shown = veskar::WithNumbersTogether(text);
+    return IsLine(object) && StandsInSidePanel(object) ? WithoutCentring(std::move(shown)) : shown;
 }
 
 bool HasInk(const Evas_Object* label)
@@ -41,7 +62,7 @@ const char* Place(const Evas_Object* label)
 
 void InformTheme(Evas_Object* label)
 {
-    if (!veskar::Is(label, "elm_label") || std::strcmp(elm_object_style_get(label), LINES_STYLE) != 0)
+    if (!IsLine(label))
     {
         return;
     }
@@ -71,7 +92,7 @@ extern "C"
         {
             veskar::UndoTextFit(elm_layout_edje_get(object));
         }
-        const std::string shown = text != nullptr ? veskar::WithNumbersTogether(text) : "";
+        const std::string shown = text != nullptr ? Shown(object, text) : "";
         __real_elm_object_part_text_set(object, part, text != nullptr ? shown.c_str() : nullptr);
         InformTheme(object);
     }

@@ -98,6 +98,22 @@ struct GridTest : ShownTest, testing::WithParamInterface<Mode>
         }
         return places;
     }
+    /** Of each message and line. */
+    static std::vector<Box> FirstLines()
+    {
+        std::vector<Box> lines;
+        for (const Evas_Object* label : WidgetsOnScreen(tv.window, "elm_label"))
+        {
+            const Evas_Object* text = edje_object_part_object_get(elm_layout_edje_get(label), "text");
+            const Box place = Place(text);
+            int x = 0;
+            int width = 0;
+            evas_object_textblock_line_number_geometry_get(text, 0, &x, nullptr, &width, nullptr);
+            const int left = GetParam().mirrored ? Length(place.across) - x - width : x;
+            lines.push_back({{place.across.first + left, place.across.first + left + width}, place.down});
+        }
+        return lines;
+    }
     static Box Sheet() { return Parts("elm_layout", "panel", "panel").at(0); }
 
     void ExpectOnGrid()
@@ -203,6 +219,10 @@ TEST_P(GridTest, ThePanelAtTheSideHasItsOwn)
     };
     manager->ShowMessage(1, 255, panel, "S", "B", "Text", {"OK", "Cancel"}, false);
     expectPanel("a question", {952, 1880});
+    for (const Box& line : FirstLines())
+    {
+        EXPECT_NEAR(line.across.first, 952 + 104, 1) << "a line begins where the others do";
+    }
     manager->ShowImage(1, 255, panel, "S", "B", images[0], 3000, 400, {"OK"}, false);
     expectPanel("a picture does not widen it", {952, 1880});
     manager->ShowList(1, 255, panel, "S", "B", {"a\tb", "c\td"}, "LR", true, {"OK"}, true);
