@@ -2,9 +2,9 @@
 #include "VoiceGuide.h"
 #include "Words.h"
 #include "ea.h"
-#include "toolkit/Numbers.h"
 #include "toolkit/SizeHints.h"
 #include "toolkit/ThemeSizes.h"
+#include "toolkit/Words.h"
 
 #include <Ecore.h>
 #include <algorithm>
@@ -206,7 +206,7 @@ TextPage::~TextPage()
 
 void TextPage::SetText(const char* markup)
 {
-    evas_object_textblock_text_markup_set(m_text, veskar::WithNumbersTogether(WithoutTabs(markup)).c_str());
+    evas_object_textblock_text_markup_set(m_text, veskar::WithWordsTogether(WithoutTabs(markup)).c_str());
     m_current = 0;
     m_heightIsSet = false;
     m_Update();

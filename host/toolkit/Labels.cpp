@@ -1,13 +1,13 @@
-// Numbers in texts stay together, and in the panel at the side a text begins where the title does, also one that its
-// markup centres. The rest is what the theme's labels cannot find out on their own: that there is nothing to read
-// between the tags of their markup, whether they stand above or below a screen's content, and that they stand in the
-// panel at the side, where lines are shorter. Lines may be counted right after a text or a style was set, so all is
+// Numbers and Korean words stay together, and in the panel at the side a text begins where the title does, also one
+// that its markup centres. The rest is what the theme's labels cannot find out on their own: that there is nothing to
+// read between the tags of their markup, whether they stand above or below a screen's content, and that they stand in
+// the panel at the side, where lines are shorter. Lines may be counted right after a text or a style was set, so all is
 // passed on immediately.
 
 #include "CString.h"
-#include "Numbers.h"
 #include "TextFit.h"
 #include "Widgets.h"
+#include "Words.h"
 
 namespace
 {
@@ -36,7 +36,7 @@ std::string WithoutCentring(std::string markup)
 /** What the toolkit is given to show. */
 std::string Shown(const Evas_Object* object, const char* text)
 {
-    std::string shown = veskar::WithNumbersTogether(text);
+    std::string shown = veskar::WithWordsTogether(text);
     return IsLine(object) && StandsInSidePanel(object) ? WithoutCentring(std::move(shown)) : shown;
 }
 

@@ -1,8 +1,9 @@
 // Where the lines of titles, messages and buttons are broken.
 
+#include "CString.h"
 #include "Shown.h"
 
-#include "toolkit/Numbers.h"
+#include "toolkit/Words.h"
 
 #include <algorithm>
 
@@ -24,8 +25,11 @@ struct TextFitTest : ShownTest
     /** The widths of the lines that a theme's part shows. */
     Widths Lines(const char* part, const std::string& inside)
     {
+        return LinesOf(edje_object_part_object_get(Layout(part, inside), part));
+    }
+    static Widths LinesOf(const Evas_Object* text)
+    {
         Widths widths;
-        const Evas_Object* text = edje_object_part_object_get(Layout(part, inside), part);
         int width = 0;
         while (text != nullptr && evas_object_textblock_line_number_geometry_get(text, static_cast<int>(widths.size()),
                                                                                  nullptr, nullptr, &width, nullptr))
@@ -83,15 +87,32 @@ TEST_F(TextFitTest, LettersOfAButtonShrinkBeforeAWordIsBroken)
     EXPECT_GT(broken.front(), Lines("text", "mmm").front());
 }
 
+TEST_F(TextFitTest, KoreanWordsStayOnOneLine)
+{
+    using veskar::WithWordsTogether;
+    EXPECT_EQ(WithWordsTogether("가나 <b>다</b>"), "가\u2060나 <b>다</b>");
+    EXPECT_EQ(WithWordsTogether("14일 TV를 <b가나>"), "14\u2060일 TV\u2060를 <b가나>");
+    EXPECT_EQ(WithWordsTogether("日本語 ไทย é"), "日本語 ไทย é");
+
+    Show("T", "스포츠 패키지 구독이 만료되었습니다. 갱신하려면 카드 번호를 준비하고 고객 센터로 전화하십시오.", "OK");
+    const Evas_Object* text = edje_object_part_object_get(Layout("text", "전\u2060화"), "text");
+    Evas_Textblock_Cursor* cursor = evas_object_textblock_cursor_new(text);
+    evas_textblock_cursor_line_set(cursor, 0);
+    evas_textblock_cursor_line_char_last(cursor);
+    const veskar::CString end(evas_textblock_cursor_content_get(cursor));
+    EXPECT_STREQ(end.get(), " ");
+    evas_textblock_cursor_free(cursor);
+}
+
 TEST_F(TextFitTest, NumbersStayOnOneLine)
 {
-    using veskar::WithNumbersTogether;
-    EXPECT_EQ(WithNumbersTogether("Call 0800 / 123 456 now"), "Call 0800\u00A0/\u00A0123\u00A0456 now");
-    EXPECT_EQ(WithNumbersTogether("14 March 2026. 5 days, 1 - x"), "14 March 2026. 5 days, 1 - x");
-    EXPECT_EQ(WithNumbersTogether("<align 0 0>1–2<b>3 4"), "<align 0 0>1–\u20602<b>3\u00A04");
-    EXPECT_EQ(WithNumbersTogether("1 2 <open 3 4"), "1\u00A02 <open 3 4");
+    using veskar::WithWordsTogether;
+    EXPECT_EQ(WithWordsTogether("Call 0800 / 123 456 now"), "Call 0800\u00A0/\u00A0123\u00A0456 now");
+    EXPECT_EQ(WithWordsTogether("14 March 2026. 5 days, 1 - x"), "14 March 2026. 5 days, 1 - x");
+    EXPECT_EQ(WithWordsTogether("<align 0 0>1–2<b>3 4"), "<align 0 0>1–\u20602<b>3\u00A04");
+    EXPECT_EQ(WithWordsTogether("1 2 <open 3 4"), "1\u00A02 <open 3 4");
     const std::string endless = "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15";
-    EXPECT_EQ(WithNumbersTogether(endless), endless);
+    EXPECT_EQ(WithWordsTogether(endless), endless);
 
     Show("T", "0800 123 456", "OK");
     EXPECT_THAT(Lines("text", "0800\u00A0123\u00A0456"), SizeIs(1));

@@ -1,4 +1,4 @@
-#include "Numbers.h"
+#include "Words.h"
 
 #include <algorithm>
 
@@ -35,8 +35,6 @@ std::string_view NumberAt(std::string_view text)
     return number.substr(0, number.find_last_of(DIGITS) + 1);
 }
 
-} // namespace
-
 std::string WithNumbersTogether(std::string_view markup)
 {
     std::string joined;
@@ -53,6 +51,54 @@ std::string WithNumbersTogether(std::string_view markup)
         markup.remove_prefix(next.size());
     }
     return joined;
+}
+
+constexpr std::size_t SYLLABLE_BYTES = 3;
+
+/** Korean is written in syllables, from U+AC00 to U+D7A3. */
+bool BeginsWithSyllable(std::string_view text)
+{
+    return text.substr(0, SYLLABLE_BYTES) >= "\uAC00" && text.substr(0, SYLLABLE_BYTES) <= "\uD7A3";
+}
+
+bool IsLetterOrDigit(char character)
+{
+    return (character >= '0' && character <= '9') || (character >= 'A' && character <= 'Z') ||
+           (character >= 'a' && character <= 'z');
+}
+
+std::string WithSyllablesTogether(std::string_view markup)
+{
+    std::string joined;
+    bool afterSyllable = false;
+    bool afterLetter = false;
+    while (!markup.empty())
+    {
+        const bool isSyllable = BeginsWithSyllable(markup);
+        const bool isLetter = IsLetterOrDigit(markup.front());
+        if ((isSyllable && (afterSyllable || afterLetter)) || (isLetter && afterSyllable))
+        {
+            joined += WORD_JOINER;
+        }
+        const bool isTag = markup.front() == '<';
+        const std::size_t length = isTag        ? std::min(markup.find('>'), markup.size() - 1) + 1
+                                   : isSyllable ? SYLLABLE_BYTES
+                                                : 1;
+        joined += markup.substr(0, length);
+        markup.remove_prefix(length);
+        afterSyllable = isSyllable;
+        afterLetter = isLetter;
+    }
+    return joined;
+}
+
+} // namespace
+
+std::string WithWordsTogether(std::string_view markup)
+{
+    constexpr std::string_view LEADS = "\xEA\xEB\xEC\xED"; // the first bytes of syllables
+    std::string joined = WithNumbersTogether(markup);
+    return joined.find_first_of(LEADS) == std::string::npos ? joined : WithSyllablesTogether(joined);
 }
 
 } // namespace veskar
