@@ -1,4 +1,5 @@
 #include "CString.h"
+#include "PageWidth.h"
 #include "VoiceGuide.h"
 #include "Words.h"
 #include "ea.h"
@@ -166,6 +167,7 @@ private:
     std::vector<Page> m_pages;
     int m_viewWidth = 0;
     int m_viewHeight = 0;
+    Across m_textAcross{};
     int m_textHeight = 0;
     int m_current = 0;
     bool m_heightIsSet = false; // for the present text, style and width
@@ -266,7 +268,6 @@ void TextPage::m_Update()
         // Before it has its place. Wrapping a long text to nothing can keep the toolkit busy for ever.
         return;
     }
-    evas_object_resize(m_text, m_viewWidth, m_viewHeight);
     m_SetLeastHeight();
     m_MakeRoomForNumber();
     m_pages = m_BreakIntoPages();
@@ -300,6 +301,7 @@ void TextPage::m_SetLeastHeight()
         return;
     }
     m_heightIsSet = true;
+    m_textAcross = Balance(m_text, m_viewWidth);
     evas_object_textblock_size_formatted_get(m_text, nullptr, &m_textHeight);
     SetOuterLeastSize(m_scroller, {0, std::min(m_textHeight, ThemeSize(m_scroller, "page_height"))});
 }
@@ -327,7 +329,8 @@ void TextPage::m_Place()
     int x = 0;
     int y = 0;
     evas_object_geometry_get(m_content, &x, &y, nullptr, nullptr);
-    evas_object_geometry_set(m_text, x, y + viewTop - page.top, m_viewWidth, page.top + page.height);
+    evas_object_geometry_set(m_text, x + m_textAcross.left, y + viewTop - page.top, m_textAcross.width,
+                             page.top + page.height);
     evas_object_geometry_set(m_clip, x, y + viewTop, m_viewWidth, page.height);
     elm_scroller_region_show(m_scroller, 0, viewTop, m_viewWidth, m_viewHeight);
     m_Indicate();

@@ -74,6 +74,32 @@ TEST_F(TextFitTest, NoSingleWordStandsOnTheLastLine)
     EXPECT_THAT(Lines("text", "One line"), SizeIs(1));
 }
 
+bool ShowsTerms(Evas_Object* block)
+{
+    return std::string(evas_object_textblock_text_markup_get(block)).find("Terms") != std::string::npos;
+}
+
+TEST_F(TextFitTest, NoPageEndsWithASingleWord)
+{
+    std::istringstream words(
+        "To keep the Sport package you have to pay for it by the end of May, and each month after");
+    std::string text = "Terms:";
+    for (int i = 0; i < 25; ++i)
+    {
+        text += " pay for the card";
+    }
+    for (std::string word; words >> word;)
+    {
+        text += " " + word; // more and more of the last line
+        Show("T", text, "OK");
+        const auto blocks = WidgetsOnScreen(tv.window, "textblock");
+        const auto page = std::find_if(blocks.begin(), blocks.end(), ShowsTerms);
+        ASSERT_NE(page, blocks.end());
+        const Widths lines = LinesOf(*page);
+        EXPECT_GE(3 * lines.back(), *std::max_element(lines.begin(), lines.end())) << word;
+    }
+}
+
 TEST_F(TextFitTest, LettersOfAButtonShrinkBeforeAWordIsBroken)
 {
     Show("T", "Text", "Berechtigungsverlängerung");
