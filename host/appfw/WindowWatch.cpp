@@ -1,8 +1,16 @@
 #include "WindowWatch.h"
 
 #include <Ecore_Evas.h>
+#include <ecore_wayland.h>
 
 #include "Window.h"
+
+/** The toolkit's event when the compositor has answered a new window. Declared as in ecore_wayland.h. */
+extern int ECORE_WL2_EVENT_WINDOW_CONFIGURE_COMPLETE;
+struct Ecore_Wl2_Event_Window_Configure_Complete
+{
+    Ecore_Wl2_Window* win;
+};
 
 namespace veskar
 {
@@ -37,6 +45,10 @@ WindowWatch::WindowWatch(Changed changed) : m_changed(std::move(changed)), m_win
     }();
     evas_object_data_set(m_window, WATCH_KEY, this);
     elm_win_trap_set(&trap);
+    if (ecore_evas_wayland2_window_get(CanvasOf(m_window)) != nullptr)
+    {
+        m_configured = ecore_event_handler_add(ECORE_WL2_EVENT_WINDOW_CONFIGURE_COMPLETE, s_OnConfigured, this);
+    }
     m_SetShown(evas_object_visible_get(m_window));
 }
 
@@ -53,6 +65,11 @@ void WindowWatch::m_Forget()
         m_redraw = nullptr;
     }
     m_StayOnScreen();
+    if (m_configured != nullptr)
+    {
+        ecore_event_handler_del(m_configured);
+        m_configured = nullptr;
+    }
     if (m_window == nullptr)
     {
         return;
@@ -118,8 +135,32 @@ void WindowWatch::s_OnStillHidden(void* data)
 {
     auto* watch = static_cast<WindowWatch*>(data);
     watch->m_leave = nullptr;
-    watch->m_left = true;
-    ecore_evas_hide(CanvasOf(watch->m_window));
+    if (watch->m_configured == nullptr)
+    {
+        watch->m_LeaveScreen();
+    }
+}
+
+void WindowWatch::m_LeaveScreen()
+{
+    m_left = true;
+    ecore_evas_hide(CanvasOf(m_window));
+}
+
+Eina_Bool WindowWatch::s_OnConfigured(void* data, int, void* event)
+{
+    auto* watch = static_cast<WindowWatch*>(data);
+    const auto* window = static_cast<Ecore_Wl2_Event_Window_Configure_Complete*>(event)->win;
+    if (window != ecore_evas_wayland2_window_get(CanvasOf(watch->m_window)))
+    {
+        return ECORE_CALLBACK_PASS_ON;
+    }
+    watch->m_configured = nullptr;
+    if (!watch->m_shown && watch->m_leave == nullptr)
+    {
+        watch->m_LeaveScreen();
+    }
+    return ECORE_CALLBACK_CANCEL;
 }
 
 void WindowWatch::s_OnDeleted(void* data, Evas*, Evas_Object*, void*)

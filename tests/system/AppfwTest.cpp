@@ -74,6 +74,18 @@ TEST_F(Appfw, EachHideAndShowIsToldBeforeTheNextRequestAndAWindowThatComesBackAt
                 "resume"});
 }
 
+TEST_F(Appfw, AWindowThatIsHiddenBeforeTheCompositorHasAnsweredCanBeShownAgain)
+{
+    for (int round = 0; round < 4; ++round)
+    {
+        SendRaw(Request("start", "hide"));
+        SendRaw(Request("again", "show"));
+        RunCommand({"veskar-remote", "wait", "--still"});
+        EndApplication();
+    }
+    EXPECT_EQ(CountInLog("the compositor is gone"), 0);
+}
+
 TEST_F(Appfw, WhatIsNoStringOrTooLargeIsRefusedByItsKeyAndNeverSeen)
 {
     constexpr std::size_t LONGEST = 64UL * 1024;
@@ -169,7 +181,8 @@ TEST_F(Appfw, RequestsAreToldOnceAndInTheirOrderWheneverTheProcessEnds)
 TEST_F(Appfw, ALeavingProcessThatHangsDoesNotKeepTheNextOneForEver)
 {
     const std::string leaving = Applications::LeavingNameOf(Applications::DIALOGUES);
-    m_bus->requestName(leaving); // and answers nothing
+    ASSERT_TRUE(WaitUntil([&] { return ApplicationPid(leaving) == 0; })); // the last process of the test before
+    m_bus->requestName(leaving);                                          // and answers nothing
     EXPECT_EQ(SendRaw(Request("first")), "");
     m_bus->releaseName(leaving);
     ExpectTold({"create", "request first", "resume"});
