@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include <ecore_wayland.h>
+#include <poll.h>
 #include <sys/statvfs.h>
 #include <wayland-client.h>
 
@@ -31,6 +32,12 @@ bool UsesWayland()
     return display.empty() ? Variable("DISPLAY").empty() : display == "wl";
 }
 
+bool HasHungUp(int socket)
+{
+    pollfd state{socket, 0, 0};
+    return poll(&state, 1, 0) > 0 && (state.revents & POLLHUP) != 0;
+}
+
 } // namespace
 
 std::string MissingCompositor()
@@ -51,8 +58,17 @@ std::string MissingCompositor()
 std::string LostCompositor()
 {
     auto* connected = UsesWayland() ? ecore_wl2_connected_display_get(nullptr) : nullptr;
-    const int error = connected != nullptr ? wl_display_get_error(ecore_wl2_display_get(connected)) : 0;
-    return error != 0 ? strerror(error) : "";
+    if (connected == nullptr)
+    {
+        return "";
+    }
+    auto* display = ecore_wl2_display_get(connected);
+    if (const int error = wl_display_get_error(display); error != 0)
+    {
+        return strerror(error);
+    }
+    // A write that fails ends the toolkit's loop too, and is no error of the connection.
+    return HasHungUp(wl_display_get_fd(display)) ? strerror(EPIPE) : "";
 }
 
 std::string LackOfRoom()
