@@ -4,6 +4,7 @@
 
 #include "BusName.h"
 #include "Compositor.h"
+#include "CoreLimit.h"
 #include "Departure.h"
 #include "Fonts.h"
 #include "HandOver.h"
@@ -71,6 +72,7 @@ bool Application::Send(BusMessage call, OutgoingCalls::Done done)
 
 int Application::Run(int argc, char** argv, const ui_app_lifecycle_callback_s& callbacks, void* userData)
 {
+    WriteNoCoreDump();
     m_callbacks = callbacks;
     m_userData = userData;
     PrepareToolkit();

@@ -1,30 +1,28 @@
 #pragma once
 
-#include <cstring>
+#include "UndumpedPage.h"
+
+#include <algorithm>
 #include <string_view>
-#include <vector>
 
 namespace veskar
 {
 
-/** Digits that leave no trace: what is removed is overwritten, and the memory never moves. */
+/** Digits that leave no trace: what is removed is overwritten, the memory never moves, and no core dump has it. */
 class Digits
 {
 public:
-    explicit Digits(int capacity) : m_digits(capacity > 0 ? capacity : 0, '\0') {}
-    ~Digits() { Clear(); }
-    Digits(const Digits&) = delete;
-    Digits& operator=(const Digits&) = delete;
+    explicit Digits(int capacity) : m_capacity(std::min<size_t>(std::max(capacity, 0), m_digits.Size())) {}
 
-    bool Full() const { return m_count == m_digits.size(); }
+    bool Full() const { return m_count == m_capacity; }
     std::size_t Count() const { return m_count; }
-    std::string_view View() const { return {m_digits.data(), m_count}; }
+    std::string_view View() const { return {m_digits.Data(), m_count}; }
 
     void Append(char digit)
     {
         if (!Full())
         {
-            m_digits[m_count++] = digit;
+            m_digits.Data()[m_count++] = digit;
         }
     }
 
@@ -32,18 +30,19 @@ public:
     {
         if (m_count > 0)
         {
-            explicit_bzero(&m_digits[--m_count], 1);
+            explicit_bzero(m_digits.Data() + --m_count, 1);
         }
     }
 
     void Clear()
     {
-        explicit_bzero(m_digits.data(), m_digits.size());
+        explicit_bzero(m_digits.Data(), m_count);
         m_count = 0;
     }
 
 private:
-    std::vector<char> m_digits;
+    UndumpedPage m_digits;
+    std::size_t m_capacity;
     std::size_t m_count = 0;
 };
 

@@ -4,6 +4,7 @@
  * It expects kiosk-shell and the pixman renderer, and is loaded with --modules=…/veskar-compositor.so. The option
  * --no-keyrouter (or VESKAR_NO_KEYROUTER=1) leaves the key router out: a TV on which no key can be grabbed.
  */
+#include "CoreLimit.h"
 #include "RemoteSocketPath.h"
 #include "keys/KeyRouter.h"
 #include "keys/Routing.h"
@@ -117,6 +118,7 @@ extern "C" __attribute__((visibility("default"))) int wet_module_init(weston_com
                                                                       char* argv[])
 {
     using namespace veskar;
+    WriteNoCoreDump();
     const bool withKeyRouter = !TakeOption("--no-keyrouter", argc, argv) && !IsSet("VESKAR_NO_KEYROUTER");
     try
     {

@@ -1,4 +1,5 @@
 #include "ContextManager.h"
+#include "CoreLimit.h"
 #include "Middleware.h"
 #include "Print.h"
 #include "ServeOnce.h"
@@ -77,6 +78,7 @@ void ServeStandIns(sdbus::IConnection& connection, const std::vector<std::string
 
 int main(int argc, char** argv)
 {
+    WriteNoCoreDump();
     CLI::App app{
         "Stands for the other sides of a TV on the session bus, and says on standard error what it was asked.\n"
         "Without options: the middleware and the context manager, as the bus starts it."};

@@ -1,13 +1,15 @@
-/** For PINs: memory that is overwritten before it is given back. */
+/** For PINs: memory that is overwritten before it is given back, and that no core dump has. */
 #pragma once
 
 #include <cstddef>
 #include <initializer_list>
+#include <new>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include <string.h>
+#include <sys/mman.h>
 
 namespace VESKAR_APP
 {
@@ -22,7 +24,10 @@ void Wipe(Text& text)
     }
 }
 
-/** Overwrites each block before it is freed, also when a container moves to a larger block. */
+/**
+ * Each block has pages of its own, which no core dump has and which stay out of the swap file where the system lets us.
+ * It is overwritten before it is freed, also when a container moves to a larger block.
+ */
 template <typename T>
 struct WipingAllocator
 {
@@ -34,11 +39,22 @@ struct WipingAllocator
     {
     }
 
-    T* allocate(std::size_t count) { return std::allocator<T>().allocate(count); }
+    T* allocate(std::size_t count)
+    {
+        const std::size_t size = count * sizeof(T);
+        void* block = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        if (block == MAP_FAILED)
+        {
+            throw std::bad_alloc();
+        }
+        madvise(block, size, MADV_DONTDUMP);
+        mlock(block, size);
+        return static_cast<T*>(block);
+    }
     void deallocate(T* block, std::size_t count)
     {
         explicit_bzero(block, count * sizeof(T));
-        std::allocator<T>().deallocate(block, count);
+        munmap(block, count * sizeof(T));
     }
 
     bool operator==(const WipingAllocator&) const { return true; }

@@ -34,7 +34,7 @@ protected:
     Process SendMessage(int uiId, int sourceId, const Words& more = {});
 
     /** Each key when somebody takes it. */
-    void Press(const Words& keys);
+    static void Press(const Words& keys);
 
     /** Until the screen with this id has been drawn. */
     static void WaitForScreen(int uiId);

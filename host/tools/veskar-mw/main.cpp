@@ -1,4 +1,5 @@
 #include "CommandLine.h"
+#include "CoreLimit.h"
 #include "Desk.h"
 #include "Report.h"
 #include "Warnings.h"
@@ -83,6 +84,7 @@ int Run(const Command& command)
 
 int main(int argc, char** argv)
 {
+    WriteNoCoreDump();
     const auto parsed = ParseCommandLine(argc, argv);
     if (const int* status = std::get_if<int>(&parsed))
     {

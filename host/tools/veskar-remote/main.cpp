@@ -1,4 +1,5 @@
 /** The remote control of a desk TV, from a command line. */
+#include "CoreLimit.h"
 #include "RemoteClient.h"
 #include "RemoteSocketPath.h"
 #include "ScreenText.h"
@@ -253,6 +254,7 @@ int Fail(int status, const std::string& why)
 
 int main(int argc, char* argv[])
 {
+    veskar::WriteNoCoreDump(); // digits are among the keys
     try
     {
         return Run(argc, argv);
