@@ -81,7 +81,7 @@ class Remote:
                     if content and moment.words[0] != picture:
                         return content
                     picture = moment.words[0]
-                elif moment.kind == "commit" and moment.time >= since and moment.words[1] == "mapped":
+                elif moment.kind == "commit" and moment.time >= since and moment.words[1] == "content":
                     if pid in (None, int(moment.words[0])):
                         content = moment
             return None

@@ -110,8 +110,9 @@ void Moments::m_Committed(weston_surface* surface)
     const std::string now = Now();
     if (m_recording && surface->resource != nullptr && weston_surface_is_desktop_surface(surface))
     {
+        // Not whether it is mapped: the shell maps a window only after this signal.
         m_Record(now, "commit " + std::to_string(ProcessOf(surface)) +
-                          (weston_surface_is_mapped(surface) ? " mapped" : " unmapped"));
+                          (surface->width_from_buffer > 0 ? " content" : " none"));
     }
 }
 

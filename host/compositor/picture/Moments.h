@@ -31,8 +31,8 @@ public:
     /**
      * What was recorded since the last call, in order, one line each, the time in nanoseconds first:
      *
-     *     TIME commit PID mapped|unmapped  a window's new content has arrived; unmapped: it is hidden now
-     *     TIME frame HASH                  an output has been drawn; equal hashes: lines across it look the same
+     *     TIME commit PID content|none  a window's new content has arrived; none: it has nothing to show
+     *     TIME frame HASH               an output has been drawn; equal hashes: lines across it look the same
      *     TIME key NAME
      *     lost COUNT                       in the last line: events after the others, for which there was no room
      */
