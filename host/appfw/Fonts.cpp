@@ -20,6 +20,20 @@ constexpr double A_WHILE = 1;
 
 using FontConfig = std::unique_ptr<FcConfig, FreeWith<FcConfigDestroy>>;
 
+/** Null where the configuration cannot be read or names no folder for what is known of the fonts. */
+FontConfig NamedConfiguration()
+{
+    FontConfig config(FcConfigCreate());
+    if (!config || !FcConfigParseAndLoad(config.get(), nullptr, FcTrue))
+    {
+        return nullptr;
+    }
+    FcStrList* folders = FcConfigGetCacheDirs(config.get());
+    const bool hasFolder = folders != nullptr && FcStrListNext(folders) != nullptr;
+    FcStrListDone(folders);
+    return hasFolder ? std::move(config) : nullptr;
+}
+
 std::set<std::string> InstalledFamilies()
 {
     std::set<std::string> families;
@@ -81,3 +95,21 @@ Eina_Bool FontCheck::s_OnTime(void* data)
 }
 
 } // namespace veskar
+
+/**
+ * In place of the library's own, which the toolkit calls. That one also reads all rules that are installed but not
+ * switched on, only to describe them: forty files, most of the time that it takes.
+ */
+extern "C" FcConfig* FcInitLoadConfigAndFonts()
+{
+    veskar::FontConfig config = veskar::NamedConfiguration();
+    if (!config)
+    {
+        config.reset(FcInitLoadConfig());
+    }
+    if (config)
+    {
+        FcConfigBuildFonts(config.get());
+    }
+    return config.release();
+}
