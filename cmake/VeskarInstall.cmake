@@ -4,6 +4,7 @@ if(VESKAR_PLATFORM STREQUAL "desk")
 else()
     set(VESKAR_PROGRAM_DIR bin)
 endif()
-set(VESKAR_MODULE_DIR lib/veskar)
+# One folder deeper than the package maker takes for a library that every program may link with.
+set(VESKAR_MODULE_DIR lib/veskar/weston)
 set(VESKAR_DATA_DIR share/veskar)
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME tv)

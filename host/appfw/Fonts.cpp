@@ -70,7 +70,9 @@ void LogMissing()
 {
     if (const auto fonts = MissingFonts(); !fonts.empty())
     {
-        APPFW_ERROR("fonts are missing, their texts are drawn with others or as boxes: %s", fonts.c_str());
+        APPFW_ERROR("fonts are missing, their texts are drawn with others or as boxes: %s; Debian has them in "
+                    "fonts-noto-core, -ui-core, -cjk and -color-emoji",
+                    fonts.c_str());
     }
 }
 
