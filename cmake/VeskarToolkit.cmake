@@ -1,7 +1,9 @@
 # The toolkit and the edje compiler. Imported targets are system headers to the compiler, which keeps the toolkit's
 # own warnings out of a build that treats warnings as errors.
 find_package(PkgConfig REQUIRED)
-pkg_check_modules(EFL REQUIRED IMPORTED_TARGET elementary evas ecore ecore-evas ecore-wl2 ecore-input edje eina)
+# 1.24 has the newest calls of the application, in ecore-wl2.
+pkg_check_modules(EFL REQUIRED IMPORTED_TARGET
+    elementary>=1.24 evas ecore ecore-evas ecore-wl2>=1.24 ecore-input edje eina)
 
 # Debian's pkg-config files name a folder that no package contains, and CMake refuses a target with such a folder. They
 # also name the folder of this machine's C library: a compiler for another machine must not see it, and ours knows it
