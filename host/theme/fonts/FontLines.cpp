@@ -1,6 +1,7 @@
 /**
- * veskar-font-lines LIKE FONT COPY ABOVE: writes a copy of FONT, a font or a collection of fonts, with the line height
- * of the font LIKE. ABOVE is the extra room above the line, in font sizes.
+ * veskar-font-lines LIKE FONT COPY ABOVE: writes a copy of FONT with the line height of the font LIKE. ABOVE is the
+ * extra room above the line, in font sizes. Of a collection of fonts the copy has the first alone, because that is the
+ * one that the toolkit takes.
  *
  * The toolkit makes a text's first and last line as high as the box that all glyphs of the font fit in. So a font with
  * a few huge glyphs, such as the long strokes of vertical writing, makes every text higher that contains one of its
@@ -13,7 +14,6 @@
 #include <iterator>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 namespace
 {
@@ -39,14 +39,16 @@ public:
         {
             throw std::runtime_error("cannot read " + path);
         }
+        if (m_bytes.compare(0, 4, "ttcf") == 0)
+        {
+            m_bytes = m_FirstOfCollection();
+        }
     }
 
-    /** The reach of the only font, or of a collection's first. */
     Reach GetReach() const
     {
-        const std::size_t face = m_Faces().front();
-        const std::size_t head = m_Table(face, "head");
-        const std::size_t lines = m_Table(face, "hhea");
+        const std::size_t head = m_Table("head");
+        const std::size_t lines = m_Table("hhea");
         const double size = m_Number(head + SIZE, 2);
         return {m_Signed(lines + ASCENDER) / size, m_Signed(lines + DESCENDER) / size, m_Signed(head + TOP) / size,
                 m_Signed(head + BOTTOM) / size};
@@ -54,17 +56,14 @@ public:
 
     void SetReach(const Reach& reach)
     {
-        for (const std::size_t face : m_Faces())
-        {
-            const std::size_t head = m_Table(face, "head");
-            const std::size_t lines = m_Table(face, "hhea");
-            const double size = m_Number(head + SIZE, 2);
-            m_Set(lines + ASCENDER, reach.ascender * size);
-            m_Set(lines + DESCENDER, reach.descender * size);
-            m_Set(lines + LINE_GAP, 0);
-            m_Set(head + TOP, reach.top * size);
-            m_Set(head + BOTTOM, reach.bottom * size);
-        }
+        const std::size_t head = m_Table("head");
+        const std::size_t lines = m_Table("hhea");
+        const double size = m_Number(head + SIZE, 2);
+        m_Set(lines + ASCENDER, reach.ascender * size);
+        m_Set(lines + DESCENDER, reach.descender * size);
+        m_Set(lines + LINE_GAP, 0);
+        m_Set(head + TOP, reach.top * size);
+        m_Set(head + BOTTOM, reach.bottom * size);
     }
 
     void Write(const std::string& path) const
@@ -78,6 +77,12 @@ public:
     }
 
 private:
+    // The directory of a font's tables: its header, each of its entries, and places in an entry.
+    static constexpr std::size_t HEADER = 12;
+    static constexpr std::size_t ENTRY = 16;
+    static constexpr std::size_t OFFSET = 8;
+    static constexpr std::size_t LENGTH = 12;
+
     // Places in the tables "head" (the first three) and "hhea".
     static constexpr std::size_t SIZE = 18;
     static constexpr std::size_t BOTTOM = 38;
@@ -106,29 +111,33 @@ private:
         m_bytes.at(at + 1) = static_cast<char>(number);
     }
 
-    /** The offset of each font's table directory. */
-    std::vector<std::size_t> m_Faces() const
+    /** A font of its own. */
+    std::string m_FirstOfCollection() const
     {
-        if (m_bytes.compare(0, 4, "ttcf") != 0)
+        const std::size_t directory = m_Number(12, 4);
+        const std::size_t size = HEADER + ENTRY * m_Number(directory + 4, 2);
+        std::string font = m_bytes.substr(directory, size);
+        for (std::size_t entry = HEADER; entry < size; entry += ENTRY)
         {
-            return {0};
+            const std::string table =
+                m_bytes.substr(m_Number(directory + entry + OFFSET, 4), m_Number(directory + entry + LENGTH, 4));
+            for (int i = 0; i < 4; ++i)
+            {
+                font[entry + OFFSET + i] = static_cast<char>(font.size() >> (24 - 8 * i));
+            }
+            font += table + std::string((4 - table.size() % 4) % 4, '\0');
         }
-        std::vector<std::size_t> faces(m_Number(8, 4));
-        for (std::size_t i = 0; i < faces.size(); ++i)
-        {
-            faces[i] = m_Number(12 + 4 * i, 4);
-        }
-        return faces;
+        return font;
     }
 
-    std::size_t m_Table(std::size_t face, const char* tag) const
+    std::size_t m_Table(const char* tag) const
     {
-        const std::size_t count = m_Number(face + 4, 2);
-        for (std::size_t entry = face + 12; entry < face + 12 + 16 * count; entry += 16)
+        const std::size_t size = HEADER + ENTRY * m_Number(4, 2);
+        for (std::size_t entry = HEADER; entry < size; entry += ENTRY)
         {
             if (m_bytes.compare(entry, 4, tag) == 0)
             {
-                return m_Number(entry + 8, 4);
+                return m_Number(entry + OFFSET, 4);
             }
         }
         throw std::runtime_error(std::string("no table ") + tag);
