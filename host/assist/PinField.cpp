@@ -5,6 +5,7 @@
 #include "VoiceGuide.h"
 #include "Words.h"
 #include "ea.h"
+#include "toolkit/Panel.h"
 
 #include <algorithm>
 #include <cstring>
@@ -19,8 +20,8 @@ constexpr char FIELD_KEY[] = "veskar_pin_field";
 
 /**
  * The field: a row with one cell for each digit. It holds the digits; a cell only shows whether it is filled and
- * whether it is next. While the number pad is on the screen the pad shows the focus, and the field does not. Owned by
- * the field's object, as its data.
+ * whether it is next. While the number pad is on the screen the pad shows the focus, the field does not, and the sheet
+ * makes room for the pad. Owned by the field's object, as its data.
  */
 class PinField
 {
@@ -133,6 +134,10 @@ void PinField::m_SetFocused(bool focused)
 void PinField::m_PadChanged()
 {
     m_padShown = IsOn(NUMBER_PAD_SHOWN_KEY);
+    if (Evas_Object* panel = PanelAround(m_object))
+    {
+        elm_layout_signal_emit(panel, m_padShown ? "veskar,pad,shown" : "veskar,pad,hidden", "veskar");
+    }
     m_Draw();
 }
 

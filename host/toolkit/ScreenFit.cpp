@@ -1,5 +1,6 @@
 #include "ScreenFit.h"
 
+#include "Panel.h"
 #include "ThemeSizes.h"
 #include "Widgets.h"
 
@@ -43,16 +44,6 @@ void SetLeastSizeOf(Evas_Object* object, Size size)
         return;
     }
     evas_object_size_hint_min_set(object, size.width, size.height);
-}
-
-/** The layout of the panel around `content`, or null. */
-const Evas_Object* PanelAround(const Evas_Object* content)
-{
-    while (content != nullptr && !(Is(content, "elm_layout") && ThemeSize(content, "most_height") != 0))
-    {
-        content = elm_object_parent_widget_get(content);
-    }
-    return content;
 }
 
 int Lowered(int limit, int asked, int excess)

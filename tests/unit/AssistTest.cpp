@@ -8,7 +8,9 @@
 #include "settings/SettingKeys.h"
 #include "settings/SettingsWatch.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <map>
 
 #include <Ecore_Input.h>
 
@@ -17,7 +19,8 @@ namespace
 
 using testing::ElementsAre;
 
-Texts spoken; // each with "at once" or "next" before it
+Texts spoken;                                          // each with "at once" or "next" before it
+std::map<std::string, std::function<void()>> watchers; // of settings
 
 struct AssistTest : ShownTest
 {
@@ -65,6 +68,45 @@ TEST_F(AssistTest, TheMarkOfTheNextDigitMovesAlongWithTheDigits)
     EXPECT_EQ(Cells("dot", "filled"), "x...");
 }
 
+/** The left and the right end of a part. */
+std::pair<int, int> Across(const Evas_Object* layout, const char* part)
+{
+    int layoutX = 0;
+    int x = 0;
+    int width = 0;
+    evas_object_geometry_get(layout, &layoutX, nullptr, nullptr, nullptr);
+    edje_object_part_geometry_get(layout, part, &x, nullptr, &width, nullptr);
+    return {layoutX + x, layoutX + x + width};
+}
+
+TEST_F(AssistTest, TheSheetOfAPinMakesRoomForTheNumberPad)
+{
+    Evas_Object* pad = elm_layout_add(tv.window);
+    elm_layout_theme_set(pad, "numpad", "base", "default");
+    evas_object_resize(pad, WIDTH, HEIGHT);
+    evas_object_show(pad);
+    manager->ShowPinManager(1, 255, "T", "", "", 4, "");
+    TakeKeyboard();
+    const auto sheet = [this](int padShown)
+    {
+        tv.numbers[veskar::NUMBER_PAD_SHOWN_KEY] = padShown;
+        watchers[veskar::NUMBER_PAD_SHOWN_KEY]();
+        Watch();
+        const auto layouts = WidgetsOnScreen(tv.window, "edje");
+        const auto hasSheet = [](const Evas_Object* layout)
+        {
+            return edje_object_part_exists(layout, "sheet");
+        };
+        return Across(*std::find_if(layouts.begin(), layouts.end(), hasSheet), "sheet");
+    };
+    const auto [padStart, padEnd] = Across(elm_layout_edje_get(pad), "ground");
+    const auto [start, end] = sheet(1);
+    EXPECT_EQ(end + 12, padStart);
+    EXPECT_EQ(start, WIDTH - padEnd);
+    EXPECT_EQ(sheet(0), std::make_pair(96, WIDTH - 96));
+    evas_object_del(pad);
+}
+
 TEST_F(AssistTest, AScreenIsReadOutInFullUnlessTheViewerMovesOn)
 {
     tv.numbers[veskar::VOICE_GUIDE_KEY] = 1;
@@ -96,7 +138,10 @@ Evas_Object* veskar::FirstWindow()
     return tv.window;
 }
 
-veskar::SettingsWatch::SettingsWatch(std::initializer_list<const char*> /*keys*/, std::function<void()> /*changed*/) {}
+veskar::SettingsWatch::SettingsWatch(std::initializer_list<const char*> keys, std::function<void()> changed)
+{
+    watchers[*keys.begin()] = std::move(changed);
+}
 
 veskar::SettingsWatch::~SettingsWatch() = default;
 // NOLINTEND(performance-unnecessary-value-param)
