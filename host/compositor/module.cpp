@@ -31,13 +31,13 @@ public:
     Tv(weston_compositor* compositor, bool withKeyRouter)
         : m_compositor(compositor), m_seat(compositor), m_windows(compositor),
           m_grabs([this](const Key& key, GrabMode mode) { m_GrabEnded(key, mode); }),
-          m_routing(m_seat, m_grabs, m_lateDigits, m_windows), m_overlays(compositor, m_seat, m_windows),
+          m_routing(m_seat, m_grabs, m_lateDigits, m_windows, m_takenKeys), m_overlays(compositor, m_seat, m_windows),
           m_screenshots(compositor), m_moments(compositor), m_backdrop(compositor, [this] { m_OpenSocket(); }),
           m_end(compositor->destroy_signal, [this](void*) { delete this; })
     {
         if (withKeyRouter)
         {
-            m_keyRouter.emplace(compositor->wl_display, m_grabs);
+            m_keyRouter.emplace(compositor->wl_display, m_grabs, m_takenKeys);
         }
         if (m_seat.HasRealKeyboard())
         {
@@ -56,7 +56,7 @@ private:
         try
         {
             m_socket.emplace(wl_display_get_event_loop(m_compositor->wl_display), RemoteSocketPath());
-            SetRemoteCommands(*m_socket, {m_seat, m_grabs, m_routing, m_screenshots, m_moments, m_backdrop,
+            SetRemoteCommands(*m_socket, {m_seat, m_grabs, m_routing, m_takenKeys, m_screenshots, m_moments, m_backdrop,
                                           m_keyRouter ? &*m_keyRouter : nullptr});
         }
         catch (const std::exception& error)
@@ -78,6 +78,7 @@ private:
     Seat m_seat;
     WindowStack m_windows;
     LateDigits m_lateDigits;
+    TakenKeys m_takenKeys;
     GrabTable m_grabs;
     Routing m_routing;
     Overlays m_overlays;

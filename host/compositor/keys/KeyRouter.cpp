@@ -75,7 +75,7 @@ void OnHeard(wl_client* client, wl_resource* resource, uint32_t code, uint32_t t
 {
     if (KeyRouter* router = RouterOf(resource))
     {
-        router->Presses().Heard(client, code, taken != 0);
+        router->Heard(client, code, taken != 0);
     }
 }
 
@@ -91,8 +91,8 @@ const struct tizen_keyrouter_interface REQUESTS = {OnDestroy, OnGrab, OnUngrab, 
 
 } // namespace
 
-KeyRouter::KeyRouter(wl_display* display, GrabTable& grabs)
-    : m_grabs(grabs),
+KeyRouter::KeyRouter(wl_display* display, GrabTable& grabs, TakenKeys& taken)
+    : m_grabs(grabs), m_taken(taken),
       m_global(wl_global_create(display, &tizen_keyrouter_interface, tizen_keyrouter_interface.version, this, s_Bind))
 {
 }
@@ -104,6 +104,17 @@ KeyRouter::~KeyRouter()
     {
         wl_resource_set_user_data(resource, nullptr);
     }
+}
+
+void KeyRouter::Heard(wl_client* client, uint32_t code, bool taken)
+{
+    if (taken)
+    {
+        pid_t pid = 0;
+        wl_client_get_credentials(client, &pid, nullptr, nullptr);
+        m_taken.Taken(code, pid);
+    }
+    m_presses.Heard(client, code, taken);
 }
 
 bool KeyRouter::IsBoundBy(const wl_client* client) const

@@ -3,6 +3,7 @@
 
 #include "AwaitedPresses.h"
 #include "GrabTable.h"
+#include "TakenKeys.h"
 
 #include <map>
 #include <optional>
@@ -21,8 +22,8 @@ public:
         int uiId;
     };
 
-    /** `grabs` must outlive this object. */
-    KeyRouter(wl_display* display, GrabTable& grabs);
+    /** `grabs` and `taken` must outlive this object. */
+    KeyRouter(wl_display* display, GrabTable& grabs, TakenKeys& taken);
     ~KeyRouter();
 
     KeyRouter(const KeyRouter&) = delete;
@@ -30,6 +31,8 @@ public:
 
     GrabTable& Grabs() { return m_grabs; }
     AwaitedPresses& Presses() { return m_presses; }
+    /** A client says what became of a key that it got. */
+    void Heard(wl_client* client, uint32_t code, bool taken);
 
     /** Whether the client says of each key whether it took it. */
     bool IsBoundBy(const wl_client* client) const;
@@ -44,6 +47,7 @@ private:
     static void s_Unbind(wl_resource* resource);
 
     GrabTable& m_grabs;
+    TakenKeys& m_taken;
     wl_global* m_global;
     AwaitedPresses m_presses;
     std::map<wl_resource*, std::optional<int>> m_bound; // and the id of the client's screen

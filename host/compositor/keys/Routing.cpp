@@ -21,9 +21,10 @@ void IgnoreCancel(weston_keyboard_grab*) {}
 
 } // namespace
 
-Routing::Routing(Seat& seat, const GrabTable& grabs, const LateDigits& lateDigits, const WindowStack& windows)
-    : m_seat(seat), m_grabs(grabs), m_lateDigits(lateDigits),
-      m_windows(windows), m_hook{{s_OnKey, IgnoreModifiers, IgnoreCancel}, this},
+Routing::Routing(Seat& seat, const GrabTable& grabs, const LateDigits& lateDigits, const WindowStack& windows,
+                 TakenKeys& taken)
+    : m_seat(seat), m_grabs(grabs), m_lateDigits(lateDigits), m_windows(windows),
+      m_taken(taken), m_hook{{s_OnKey, IgnoreModifiers, IgnoreCancel}, this},
       m_replaced(seat.Keyboard()->default_grab.interface)
 {
     m_seat.Keyboard()->default_grab.interface = &m_hook.handlers;
@@ -70,6 +71,7 @@ void Routing::m_KeyDown(const timespec* time, const Key& key)
     {
         return;
     }
+    m_taken.Pressed(key);
     weston_surface* target = m_TargetOf(key);
     press->second.Set(target);
     if (target == nullptr)

@@ -13,6 +13,7 @@
 
 #include "GrabTable.h"
 #include "LateDigits.h"
+#include "TakenKeys.h"
 #include "seat/Seat.h"
 #include "weston/SurfaceRef.h"
 #include "windows/WindowStack.h"
@@ -26,7 +27,8 @@ class Routing
 {
 public:
     /** All arguments must outlive this object. */
-    Routing(Seat& seat, const GrabTable& grabs, const LateDigits& lateDigits, const WindowStack& windows);
+    Routing(Seat& seat, const GrabTable& grabs, const LateDigits& lateDigits, const WindowStack& windows,
+            TakenKeys& taken);
     ~Routing();
 
     Routing(const Routing&) = delete;
@@ -54,6 +56,7 @@ private:
     const GrabTable& m_grabs;
     const LateDigits& m_lateDigits;
     const WindowStack& m_windows;
+    TakenKeys& m_taken;
     Hook m_hook{};
     const weston_keyboard_grab_interface* m_replaced = nullptr;
     std::map<const Key*, SurfaceRef> m_pressed;

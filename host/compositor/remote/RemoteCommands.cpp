@@ -56,11 +56,16 @@ std::string ProgramName(pid_t pid)
 }
 
 /** Process id/program. */
+std::string NameOf(pid_t pid)
+{
+    return std::to_string(pid) + "/" + ProgramName(pid);
+}
+
 std::string NameOf(wl_client* client)
 {
     pid_t pid = 0;
     wl_client_get_credentials(client, &pid, nullptr, nullptr);
-    return std::to_string(pid) + "/" + ProgramName(pid);
+    return NameOf(pid);
 }
 
 std::string LineOf(const Grab& grab)
@@ -116,6 +121,23 @@ RemoteCommand Offer(const RemoteParts& parts)
                         answer({{NameOf(reception)}, ""});
                     });
         parts.seat.Inject(*key, WL_KEYBOARD_KEY_STATE_RELEASED);
+    };
+}
+
+RemoteCommand AwaitTaken(TakenKeys& taken)
+{
+    return [&taken](const std::string&, const RemoteAnswer& answer)
+    {
+        taken.Await(
+            [answer](const std::vector<TakenKey>& keys)
+            {
+                RemoteReply reply;
+                for (const TakenKey& key : keys)
+                {
+                    reply.lines.push_back(std::to_string(key.pressed) + " " + key.key->name + " " + NameOf(key.client));
+                }
+                answer(reply);
+            });
     };
 }
 
@@ -204,6 +226,7 @@ void SetRemoteCommands(RemoteSocket& socket, const RemoteParts& parts)
     socket.SetCommand("keys", ListKeys());
     socket.SetCommand("grabs", ListGrabs(parts.grabs));
     socket.SetCommand("offer", Offer(parts));
+    socket.SetCommand("taken", AwaitTaken(parts.taken));
     socket.SetCommand("screens", ListScreens(parts.router));
     socket.SetCommand("moments",
                       [&moments = parts.moments](const std::string&, const RemoteAnswer& answer) {
