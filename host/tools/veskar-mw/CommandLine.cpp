@@ -289,6 +289,9 @@ std::variant<Command, int> ParseCommandLine(int argc, char** argv)
 {
     CLI::App app{DESCRIPTION, "veskar-mw"};
     app.set_version_flag("--version", VESKAR_VERSION);
+    app.add_flag_callback(
+        "--kinds", [] { throw CLI::CallForVersion(KindsToJson(), 0); },
+        "Print every kind, its options and their keys as JSON");
     app.require_subcommand(1);
     // So that the general options may also follow the kind.
     app.fallthrough();

@@ -1,6 +1,7 @@
 #include "Report.h"
 
 #include "DeskBus.h"
+#include "ScreenKinds.h"
 
 #include <nlohmann/json.hpp>
 
@@ -29,6 +30,23 @@ Result ResultOf(int kind)
     default:
         return {"unknown", ExitStatus::UNKNOWN_ANSWER};
     }
+}
+
+const char* NameOf(Encoding encoding)
+{
+    switch (encoding)
+    {
+    case Encoding::Text:
+        return "text";
+    case Encoding::Number:
+        return "number";
+    case Encoding::Flag:
+        return "flag";
+    case Encoding::List:
+    case Encoding::ListFromFile:
+        break;
+    }
+    return "list";
 }
 
 /** The text with this number, from 1. One byte carries it, so it says nothing of a longer list. */
@@ -65,6 +83,25 @@ std::string TaskToJson(const std::string& task, const std::string& action)
 std::string MenuPositionToJson(int position)
 {
     return Json{{"menuPosition", position}}.dump();
+}
+
+std::string KindsToJson()
+{
+    Json kinds;
+    for (const ScreenKind& kind : ScreenKinds())
+    {
+        Json options;
+        for (const Field& field : kind.fields)
+        {
+            if (field.encoding != Encoding::ListFromFile)
+            {
+                options[field.option.substr(2)] = {
+                    {"key", field.key}, {"encoding", NameOf(field.encoding)}, {"default", field.defaultNumber}};
+            }
+        }
+        kinds[kind.name] = {{"type", kind.uiType}, {"options", options}};
+    }
+    return kinds.dump(2);
 }
 
 int StatusOf(const ScreenAnswer& answer)

@@ -42,6 +42,12 @@ std::string ToJson(const ScreenAnswer& answer, const Request& request);
 std::string TaskToJson(const std::string& task, const std::string& action);
 std::string MenuPositionToJson(int position);
 
+/**
+ * Every kind of screen for programs: its type and, for each option, the request's key, the encoding (text, number, flag
+ * or list) and a number's default.
+ */
+std::string KindsToJson();
+
 int StatusOf(const ScreenAnswer& answer);
 
 } // namespace veskar
