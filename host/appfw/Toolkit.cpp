@@ -45,8 +45,8 @@ std::string StartToolkit(int argc, char** argv)
     // The toolkit waits 0.2 s at most for its drawing thread before it frees a window's memory. On a busy machine that
     // is too short, and the thread then crashes. Without that thread each picture is drawn on the main loop.
     setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 0);
-    // Of a picture that is drawn stretched, the toolkit keeps a stretched copy. Those of the scrim and the panel take 13
-    // MiB, and drawing them is no faster with a copy. The number is pixels: buttons and rows keep theirs.
+    // Of a picture that is drawn stretched, the toolkit keeps a stretched copy. Those of the scrim and the panel take
+    // 13 MiB, and drawing them is no faster with a copy. The number is pixels: buttons and rows keep theirs.
     setenv("EVAS_SCALECACHE_MAX_DIMENSION", "1280", 0);
     return elm_init(argc, argv) > 0 ? "" : "the toolkit cannot be initialised";
 }
