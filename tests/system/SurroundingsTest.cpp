@@ -166,7 +166,7 @@ TEST_F(Surroundings, AnyPictureCanBeTheProgrammeBehind)
     EXPECT_NE(snow, evening);
 
     Process noPicture({"veskar-remote", "backdrop", "/dev/null"});
-    EXPECT_EQ(noPicture.Status(), 1);
+    EXPECT_EQ(noPicture.Status(), 64);
     EXPECT_EQ(Shot(), snow);
 
     RunCommand({"veskar-remote", "backdrop", file});
@@ -181,7 +181,7 @@ TEST_F(Surroundings, WhoWatchesTheBusHearsOfEachScreen)
     Process message = Send({"message", "--ui-id", "7", "--title", "A & B"});
     RunCommand({"veskar-remote", "wait", "--text", "A & B", "--ui-id", "7"});
     Process noSuchText({"veskar-remote", "wait", "--text", "^B", "--timeout", "0.1"});
-    EXPECT_EQ(noSuchText.Status(), 2);
+    EXPECT_EQ(noSuchText.Status(), 3);
     EXPECT_TRUE(
         watcher.Says("member=Shown\n   int32 7\n   byte 255\n   string \"ui_type_message\"\n   string \"A & B\"\n"));
 

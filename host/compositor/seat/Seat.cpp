@@ -1,5 +1,7 @@
 #include "Seat.h"
 
+#include "weston/Outputs.h"
+
 #include <stdexcept>
 
 namespace veskar
@@ -16,6 +18,18 @@ weston_seat* FirstSeat(weston_compositor* compositor)
         return seat;
     }
     return nullptr;
+}
+
+/**
+ * The pointer of a window is told where it is before the first picture, from which on the compositor knows how to
+ * compute that. A place that is no number would stay one: the window's backend moves the pointer by differences.
+ */
+void PreparePointer(weston_compositor* compositor)
+{
+    if (weston_output* output = FirstOutput(compositor))
+    {
+        weston_matrix_init(&output->inverse_matrix);
+    }
 }
 
 xkb_keymap* CompileKeymap(xkb_context* context)
@@ -51,6 +65,7 @@ Seat::Seat(weston_compositor* compositor)
                                             m_gone.reset();
                                         });
     KeepKeymap();
+    PreparePointer(compositor);
 }
 
 Seat::~Seat()
