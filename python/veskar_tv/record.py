@@ -140,8 +140,11 @@ def main():
     file = pathlib.Path(sys.argv[1])
     kinds = json.loads(subprocess.run(["veskar-mw", "--kinds"], check=True, capture_output=True).stdout)
     scenario = Scenario(file.stem, kinds)
+    last = None
     for event in record(sys.argv[2:]):
+        scenario.pause = (event.time - (last or event).time) / 1e9
         getattr(scenario, event.what)(event.values)
+        last = event
     file.write_text(scenario.program())
     print(f"{file}: {scenario.counts()}; pytest-3 -p veskar_tv.plugin {file} plays it back", file=sys.stderr)
 

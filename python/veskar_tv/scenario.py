@@ -4,6 +4,8 @@ import builtins
 import json
 import re
 
+from .tv import PATIENCE
+
 _ROUTING = {"signal_type_key", "signal_tvservice_key", "ui_param_ui_id", "ui_param_source_id"}
 _RESULTS = {2: "closed", 3: "back"}
 _WIDTH = 120
@@ -35,9 +37,10 @@ def _text_or_number(text, texts, name, number):
 
 
 class Scenario:
-    """Each method but the last two is called for one event, in their order."""
+    """Each method but the last two is called for one event, in their order; `pause` is the seconds before it."""
 
     def __init__(self, name, kinds):
+        self.pause = 0
         self._name = re.sub(r"\W", "_", name.removeprefix("test_"))
         self._kinds = {kind["type"]: (name, kind["options"]) for name, kind in kinds.items()}
         self._lines = []
@@ -80,7 +83,8 @@ class Scenario:
             self._count["requests"] += 1
         elif call in self._asked:
             variable, request = self._asked.pop(call)
-            self._add(f"{_INDENT}assert {variable}.answer(){self._outcome(request, *body[2:])}")
+            patience = f"timeout={self.pause * 2:.0f}" if self.pause > PATIENCE / 2 else ""
+            self._add(f"{_INDENT}assert {variable}.answer({patience}){self._outcome(request, *body[2:])}")
 
     def refusal(self, values):
         if values[0] in self._asked:
