@@ -31,7 +31,7 @@ public:
     {
         ScreenAnswer answer;
         /** It was closed because its feed had ended. */
-        bool isFinished;
+        bool isFinished = false;
     };
     /** Asks for a progress that the feed moves on; see FollowedProgress. Each line starts the time again. */
     Followed Follow(const Request& progress, ProgressFeed& feed);
