@@ -4,8 +4,9 @@
 def test_update_with_progress_to_100_percent(middleware, viewer):
     update = middleware.ask("progress", title="Module update", text="Loading", percent_from="-")
     viewer.wait("shown", ui_id=update.ui_id)
+    viewer.wait("still")
     screen = viewer.shot("0.png")
-    for percent in range(10, 101, 10):
+    for percent in (20, 40, 60, 80, 100):
         update.write(percent)
         screen = viewer.changed(screen, f"{percent}.png")
     assert not update.is_answered()

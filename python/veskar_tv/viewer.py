@@ -42,11 +42,12 @@ class Viewer:
         return file
 
     def changed(self, picture, name="screen.png", timeout=PATIENCE):
-        """Waits until the screen looks different from the picture, and saves it: the file's path."""
+        """Waits until the screen looks different from the picture and nothing moves, and saves it: the file's path."""
         __tracebackhide__ = True
         old = picture.read_bytes()
         until(lambda: self.shot(name).read_bytes() != old, lambda: f"the screen still looks as in {picture}", timeout)
-        return pathlib.Path(self._tv.folder, name)
+        self.wait("still", timeout=timeout)
+        return self.shot(name)
 
     def _remote(self, *words):
         __tracebackhide__ = True
