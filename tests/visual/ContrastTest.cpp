@@ -7,6 +7,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iostream>
+#include <limits>
 #include <map>
 #include <sstream>
 
@@ -41,13 +42,13 @@ const std::vector<Demand> CONTRAST_DEMANDS = {
     {"outline", {"ground"}, 4.5},
     {"focus_fill", {"ground"}, 7.0},
 };
-/** The least opacity of the scrim, at the top of the screen. */
-constexpr double SCRIM = 0.3;
+/** What can be behind a screen: a programme of snow or a dark film, and the scrim at the screen's top and bottom. */
+constexpr double PROGRAMMES[] = {1, 0};
+constexpr double SCRIMS[] = {0.3, 0.7};
 
 Palette ReadPalette(const std::string& file)
 {
-    // The worst case: the theme over a white programme.
-    Palette palette = {{"programme", {1, 1, 1, 1}}, {"#7F7F7F", {127 / 255.0, 127 / 255.0, 127 / 255.0, 1}}};
+    Palette palette = {{"#7F7F7F", {127 / 255.0, 127 / 255.0, 127 / 255.0, 1}}};
     Eina_File* mapped = eina_file_open(file.c_str(), EINA_FALSE);
     Eina_Iterator* colours = mapped ? edje_mmap_color_class_iterator_new(mapped) : nullptr;
     const Edje_Color_Class* colour = nullptr;
@@ -80,15 +81,30 @@ double Luminance(const Colour& colour)
     return 0.2126 * linear(colour[0]) + 0.7152 * linear(colour[1]) + 0.0722 * linear(colour[2]);
 }
 
-double Contrast(const Palette& palette, const char* foreground, const char* ground)
+double ContrastOver(const Colour& behind, const Palette& palette, const char* foreground, const char* ground)
 {
-    Colour scrim = palette.at("dim");
-    scrim[3] *= SCRIM;
-    const Colour panel = Over(palette.at("ground"), Over(scrim, palette.at("programme")));
+    const Colour panel = Over(palette.at("ground"), behind);
     const Colour below = Over(palette.at(ground), panel);
     const double one = Luminance(Over(palette.at(foreground), below));
     const double other = Luminance(below);
     return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
+}
+
+/** The least that a viewer meets. */
+double Contrast(const Palette& palette, const char* foreground, const char* ground)
+{
+    double least = std::numeric_limits<double>::max();
+    Colour scrim = palette.at("dim");
+    for (const double programme : PROGRAMMES)
+    {
+        for (const double opacity : SCRIMS)
+        {
+            scrim[3] = palette.at("dim")[3] * opacity;
+            const Colour behind = Over(scrim, {programme, programme, programme, 1});
+            least = std::min(least, ContrastOver(behind, palette, foreground, ground));
+        }
+    }
+    return least;
 }
 
 std::string Row(const Palette& palette, const Demand& demand)
