@@ -23,6 +23,14 @@ int RowWidth(const Evas_Object* list)
     return ThemeSize(list, isText ? "text_width" : "cells_width");
 }
 
+/** The theme shows a whole number of pitches, so a row of several lines needs the next one. */
+int InPitches(int height, int pitch)
+{
+    const int rounding = pitch / 8; // of the sum, on a screen that is not 1920x1080
+    const int pitches = pitch > 0 ? (height - rounding + pitch - 1) / pitch : 0;
+    return std::max(height, pitches * pitch);
+}
+
 } // namespace
 
 ListHeight::ListHeight(Evas_Object* list)
@@ -49,11 +57,12 @@ void ListHeight::m_OnRowRealised(void* row)
 
 void ListHeight::m_Ask()
 {
-    const int rows = static_cast<int>(elm_genlist_items_count(m_list)) * ThemeSize(m_list, "row_height");
+    const int pitch = ThemeSize(m_list, "row_height");
+    const int rows = static_cast<int>(elm_genlist_items_count(m_list)) * pitch;
     int realised = 0;
     elm_scroller_child_size_get(m_list, nullptr, &realised);
-    const int height =
-        std::min(std::max(rows, realised) - 2 * ThemeSize(m_list, "row_room"), ThemeSize(m_list, "view_height"));
+    const int height = std::min(std::max(rows, InPitches(realised, pitch)) - 2 * ThemeSize(m_list, "row_room"),
+                                ThemeSize(m_list, "view_height"));
     SetOuterLeastSize(m_list, {RowWidth(m_list), height});
 }
 

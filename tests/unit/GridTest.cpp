@@ -249,6 +249,15 @@ TEST_P(GridTest, ColumnsThatMeetStandApart)
     EXPECT_NEAR(gap("a\tb\tc\td\te\tf\tg\th", "LLLLLLLL"), 16, 1);
 }
 
+TEST_P(GridTest, AFewRowsAreAllShownAlsoWhereOneIsHigher)
+{
+    manager->ShowList(1, 255, "T", "", "", {"a\tb", "c\tsome words that take two lines of this narrow cell"}, "LLLLL",
+                      false, {}, true);
+    WatchWithKeyboard();
+    const Evas_Object* list = elm_layout_edje_get(WidgetsOnScreen(tv.window, "elm_genlist").at(0));
+    EXPECT_STREQ(edje_object_part_state_get(list, "track", nullptr), "default");
+}
+
 TEST_P(GridTest, TextsFollowEachOtherInOneRhythm)
 {
     constexpr int EDGE = 2;
