@@ -292,7 +292,7 @@ def main(what, *more):
     elif what == "faults":
         faults(float(more[0]))
     elif what == "load":
-        watched = f"VESKAR_LOG=warn LD_PRELOAD={BUILD}/tests/stress/veskar-stress-watchdog.so exec "
+        watched = f"VESKAR_LOG=warn LD_PRELOAD={BUILD}/host/tools/veskar-watchdog.so exec "
         sys.exit(in_tv(["load", *more], watched).returncode)
     else:
         bad = BUILD / "stress-bad-ends"
