@@ -196,6 +196,7 @@ TEST_F(Surroundings, WhoWatchesTheBusHearsOfEachScreen)
         return application->getProperty(name).onInterface(Applications::SCREEN_INTERFACE);
     };
     EXPECT_EQ(property(Applications::TEXT).get<std::string>().find_first_of("987"), std::string::npos);
+    EXPECT_EQ(property("Kind").get<std::string>() + property("Title").get<std::string>(), "ui_type_pin_entryPIN");
     EXPECT_THAT(property("HeldKeys").get<Words>(), testing::Contains("XF86Exit"));
     Press({"6"});
     EXPECT_TRUE(watcher.Says("member=Closed\n   int32 8\n   byte 5\n"));

@@ -238,6 +238,12 @@ TEST_F(ToolkitTest, ALongTextIsAsHighAsItsLinesUpToAPageAndEveryWordIsInIt)
         sentence += "\u0e20\u0e32\u0e29\u0e32\u0e44\u0e17\u0e22";
     }
     EXPECT_GT(PageHeight(sentence + sentence), PageHeight(sentence)) << "what is wider than a page is cut off";
+    std::string tabs;
+    while (tabs.size() < 320)
+    {
+        tabs += "a\t";
+    }
+    EXPECT_GT(PageHeight(tabs), PageHeight(std::string(320, 'a'))) << "a tab has no width";
 }
 
 TEST_F(ToolkitTest, APageHasWholeLinesOnlyAndLooksTheSameWhenItComesBack)
@@ -256,6 +262,7 @@ TEST_F(ToolkitTest, APageHasWholeLinesOnlyAndLooksTheSameWhenItComesBack)
         const std::vector<int> heights = LineHeights(last, BoxOf(Find("elm_scroller")));
         EXPECT_GT(heights.size(), 5U);
         EXPECT_THAT(heights, testing::Each(heights.front())) << "page " << pages.size();
+        EXPECT_EQ(TextOf(Find("elm_scroller"), "veskar.text.page").rfind(std::to_string(pages.size()) + "/"), 0U);
     }
     EXPECT_TRUE(pages[0] != pages[1] && pages[1] != pages[2]);
     Keys({"Up", "Up"});
