@@ -12,8 +12,8 @@ namespace
 
 using namespace veskar;
 
-/** Whether a client of that user gets a reply. */
-bool IsHeard(wl_event_loop* loop, const std::string& path, uid_t user)
+/** Whether a client of that user who sends this gets a reply. */
+bool IsHeard(wl_event_loop* loop, const std::string& path, uid_t user, const std::string& text = "hello\n")
 {
     const pid_t child = fork();
     if (child == 0)
@@ -25,7 +25,7 @@ bool IsHeard(wl_event_loop* loop, const std::string& path, uid_t user)
         const int client = socket(AF_UNIX, SOCK_STREAM, 0);
         const bool sent = setuid(user) == 0 &&
                           connect(client, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0 &&
-                          send(client, "hello\n", 6, MSG_NOSIGNAL) == 6;
+                          send(client, text.data(), text.size(), MSG_NOSIGNAL) == static_cast<ssize_t>(text.size());
         _exit(sent && read(client, &reply, 1) == 1 ? 0 : 1);
     }
     int status = 0;
@@ -36,18 +36,19 @@ bool IsHeard(wl_event_loop* loop, const std::string& path, uid_t user)
     return status == 0;
 }
 
-TEST(RemoteSocketTest, AClientOfAnotherUserIsDisconnectedWithoutAReply)
+TEST(RemoteSocketTest, AClientOfAnotherUserOrWithoutAnEndOfTheLineIsDisconnectedWithoutAReply)
 {
-    if (geteuid() != 0)
-    {
-        GTEST_SKIP() << "only root can be another user";
-    }
     const std::unique_ptr<wl_event_loop, FreeWith<wl_event_loop_destroy>> loop(wl_event_loop_create());
     const std::string path = "/tmp/veskar-remote-test." + std::to_string(getpid());
     RemoteSocket socket(loop.get(), path);
     socket.SetCommand("hello", [](const std::string&, const RemoteAnswer& answer) { answer({}); });
     chmod(path.c_str(), 0777);
-    EXPECT_TRUE(IsHeard(loop.get(), path, 0));
+    EXPECT_TRUE(IsHeard(loop.get(), path, geteuid()));
+    EXPECT_FALSE(IsHeard(loop.get(), path, geteuid(), std::string(40'000, 'x') + "\n"));
+    if (geteuid() != 0)
+    {
+        GTEST_SKIP() << "only root can be another user";
+    }
     EXPECT_FALSE(IsHeard(loop.get(), path, 65534));
 }
 
