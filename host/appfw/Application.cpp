@@ -162,7 +162,10 @@ void Application::m_RunLoop()
     const WindowWatch window([this](bool shown)
                              { m_queue->AddWindowEvent(shown ? LifecycleKind::Resume : LifecycleKind::Pause); });
     const FontCheck fonts;
-    const SettingsWatch language({LANGUAGE_KEY, ORIENTATION_KEY}, [this] { m_LanguageFileChanged(); });
+    const SettingsWatch language({LANGUAGE_KEY, ORIENTATION_KEY},
+                                 [this] {
+                                     m_queue->AddCall({LifecycleKind::LanguageChanged, nullptr, nullptr});
+                                 });
     m_queue->Start();
     elm_run();
     m_queue->Stop();
@@ -221,7 +224,6 @@ void Application::m_Tell(const LifecycleEvent& event)
 
 void Application::m_TellLanguageChanged()
 {
-    m_languageChangeQueued = false;
     app_event_info info = {APP_EVENT_LANGUAGE_CHANGED};
     // By index, because a callback may add a handler.
     for (size_t i = 0; i < m_eventHandlers.size(); ++i)
@@ -231,16 +233,6 @@ void Application::m_TellLanguageChanged()
         {
             handler.callback(&info, handler.userData);
         }
-    }
-}
-
-/** One write of the file is reported as several changes. A single event, after the first of them, is enough. */
-void Application::m_LanguageFileChanged()
-{
-    if (!m_languageChangeQueued)
-    {
-        m_languageChangeQueued = true;
-        m_queue->AddCall({LifecycleKind::LanguageChanged, nullptr, nullptr});
     }
 }
 

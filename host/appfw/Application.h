@@ -69,13 +69,11 @@ private:
     void m_Deliver(LifecycleEvent& event);
     void m_Tell(const LifecycleEvent& event);
     void m_TellLanguageChanged();
-    void m_LanguageFileChanged();
 
     const std::string m_id;
     ui_app_lifecycle_callback_s m_callbacks = {};
     void* m_userData = nullptr;
     std::vector<std::unique_ptr<app_event_handler>> m_eventHandlers;
-    bool m_languageChangeQueued = false;
 
     // These exist during Run. Each may use those above it.
     BusConnection m_connection;

@@ -27,15 +27,20 @@ std::filesystem::path MakeFolderOf(const std::string& key)
 } // namespace
 
 SettingsWatch::SettingsWatch(std::initializer_list<const char*> keys, std::function<void()> changed)
-    : m_keys(keys.begin(), keys.end()), m_changed(std::move(changed))
+    : m_changed(std::move(changed))
 {
+    for (const char* key : keys)
+    {
+        m_values[key] = ReadSetting(key);
+    }
     ecore_file_init();
-    const auto folder = MakeFolderOf(m_keys.front());
+    const std::string& first = m_values.begin()->first;
+    const auto folder = MakeFolderOf(first);
     m_monitor = folder.empty() ? nullptr : ecore_file_monitor_add(folder.c_str(), s_OnChange, this);
     if (m_monitor == nullptr)
     {
         __dlog_print(LOG_ID_MAIN, DLOG_WARN, "VESKAR-SETTINGS", "changes of %s are not noticed: no folder to watch",
-                     m_keys.front().c_str());
+                     first.c_str());
     }
 }
 
@@ -50,12 +55,17 @@ SettingsWatch::~SettingsWatch()
 
 void SettingsWatch::s_OnChange(void* data, Ecore_File_Monitor*, Ecore_File_Event, const char* path)
 {
-    const auto* watch = static_cast<SettingsWatch*>(data);
-    // The temporary file beside a setting that is being replaced is not a change yet.
-    const bool ours = std::any_of(watch->m_keys.begin(), watch->m_keys.end(),
-                                  [path](const std::string& key) { return path == SettingFile(key); });
-    if (ours)
+    auto* watch = static_cast<SettingsWatch*>(data);
+    const auto known = std::find_if(watch->m_values.begin(), watch->m_values.end(),
+                                    [path](const auto& value) { return path == SettingFile(value.first); });
+    if (known == watch->m_values.end())
     {
+        return; // another setting, or the temporary file beside one that is being replaced
+    }
+    // One write is several events of the file system.
+    if (auto value = ReadSetting(known->first); value != known->second)
+    {
+        known->second = std::move(value);
         watch->m_changed();
     }
 }
