@@ -150,10 +150,3 @@ TEST_F(KeyRouter, RefusesAKeyThatDoesNotExist)
     EXPECT_FALSE(m_upper->Grab("XF86Nonsense", KEYROUTER_MODE_REGISTERED));
     EXPECT_THROW(m_remote.Ask("press Nonsense"), veskar::RemoteRefusal);
 }
-
-TEST_F(KeyRouter, LiesInACompositorThatShowsLowerWindowsThroughTheUpperOnes)
-{
-    const Picture both = Shot();
-    CloseUpper();
-    EXPECT_NE(both, Shot());
-}

@@ -2,8 +2,6 @@
 
 #include "Shown.h"
 
-#include "keyguard/OwnScreen.h"
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -318,23 +316,3 @@ TEST_F(ToolkitTest, UpFromPastTheLastPictureIsAStepFromTheLastRow)
 }
 
 } // namespace
-
-TEST_F(ToolkitTest, NoDigitIsMeantForAScreenBeforeItsFirstFrameNorAfterIt)
-{
-    unsigned press = 0;
-    const auto isMeant = [&press]
-    {
-        veskar::KeyGuard& guard = veskar::OwnScreen::Instance().Keys();
-        return guard.Lets({"1", 10, ++press}, {}, std::chrono::milliseconds(1));
-    };
-    EXPECT_FALSE(isMeant()) << "there is no screen";
-    for (int id = 1; id <= 2; ++id)
-    {
-        manager->ShowMmiPinEntry(id, 255, "PIN", "", "", 4, "");
-        EXPECT_FALSE(isMeant()) << "screen " << id << " is not drawn";
-        Watch();
-        EXPECT_TRUE(isMeant()) << "screen " << id;
-    }
-    manager->Close(2, 255);
-    EXPECT_FALSE(isMeant()) << "the screen has gone";
-}
