@@ -307,6 +307,14 @@ TEST_F(ToolkitTest, RowsAreWalkedOneByOneAsFastAsKeysCome)
     EXPECT_THAT(tv.Did("answer"), ElementsAre("answer 7 255 0 0 0 \"11145\""));
 }
 
+TEST_F(ToolkitTest, ARowHigherThanItsListIsShown)
+{
+    manager->ShowList(1, 255, "T", "", "", {std::string(3000, 'n'), "b"}, "L", false, {}, true);
+    const Frame whole = Picture();
+    const Eina_Rectangle list = BoxOf(Find("elm_genlist"));
+    EXPECT_FALSE(IsBlank({whole.begin() + list.y, whole.begin() + list.y + list.h}, list.x + 40, list.x + list.w / 2));
+}
+
 TEST_F(ToolkitTest, UpFromPastTheLastPictureIsAStepFromTheLastRow)
 {
     manager->ShowMultipleImageList(7, 255, "T", "", "", {"head", "a", "b", "c"}, "L", true, {}, images, 40, 30, true);
