@@ -178,15 +178,9 @@ void Application::m_RunLoop()
 void Application::m_Deliver(LifecycleEvent& event)
 {
     const Replies replies(m_connection.get(), *m_bus);
-    const auto lack = event.kind == LifecycleKind::Request ? LackOfRoom() : "";
-    if (lack.empty())
-    {
-        m_Tell(event);
-        replies.Done(event.call.get());
-        m_freed->GiveBackSoon(); // a request may have replaced a screen, a pause tells that one was hidden
-        return;
-    }
-    replies.Refused(event.call.get(), Applications::CANNOT_RUN_ERROR, lack.c_str());
+    m_Tell(event);
+    replies.Done(event.call.get());
+    m_freed->GiveBackSoon(); // a request may have replaced a screen, a pause tells that one was hidden
 }
 
 void Application::m_Tell(const LifecycleEvent& event)

@@ -7,16 +7,12 @@
 
 #include <ecore_wayland.h>
 #include <poll.h>
-#include <sys/statvfs.h>
 #include <wayland-client.h>
 
 namespace veskar
 {
 namespace
 {
-
-/** Bytes: the toolkit draws into two pictures of the screen by turns, sometimes three. */
-constexpr unsigned long long ROOM_FOR_PICTURES = 3ULL * 1920 * 1080 * 4;
 
 /** Empty when unset. */
 std::string_view Variable(const char* name)
@@ -69,20 +65,6 @@ std::string LostCompositor()
     }
     // A write that fails ends the toolkit's loop too, and is no error of the connection.
     return HasHungUp(wl_display_get_fd(display)) ? strerror(EPIPE) : "";
-}
-
-std::string LackOfRoom()
-{
-    struct statvfs disk = {};
-    const std::string folder(Variable("XDG_RUNTIME_DIR"));
-    if (!UsesWayland() || folder.empty() || statvfs(folder.c_str(), &disk) != 0)
-    {
-        return "";
-    }
-    const auto room = disk.f_frsize * static_cast<unsigned long long>(disk.f_bavail);
-    return room >= ROOM_FOR_PICTURES ? ""
-                                     : folder + " is full: " + std::to_string(room) +
-                                           " bytes are left, a screen takes " + std::to_string(ROOM_FOR_PICTURES);
 }
 
 } // namespace veskar

@@ -15,10 +15,4 @@ std::string MissingCompositor();
 /** What has ended the toolkit's connection; empty while it lasts. The toolkit itself tells the main loop to end. */
 std::string LostCompositor();
 
-/**
- * Why the next picture may not fit into memory shared with the compositor; empty when it does. The toolkit takes that
- * memory from files in the runtime folder, and a process that draws into one on a full disk is killed.
- */
-std::string LackOfRoom();
-
 } // namespace veskar

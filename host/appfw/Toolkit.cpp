@@ -38,10 +38,6 @@ std::string StartToolkit(int argc, char** argv)
     {
         return missing;
     }
-    if (auto lack = LackOfRoom(); !lack.empty())
-    {
-        return lack;
-    }
     // The toolkit waits 0.2 s at most for its drawing thread before it frees a window's memory. On a busy machine that
     // is too short, and the thread then crashes. Without that thread each picture is drawn on the main loop.
     setenv("ECORE_EVAS_FORCE_SYNC_RENDER", "1", 0);

@@ -4,7 +4,7 @@ import pathlib
 
 from .tv import PATIENCE, NotSeen, TvFailed, line_with, read, until
 
-_IN_VAIN = 2
+_IN_VAIN = 3
 
 
 class Viewer:

