@@ -5,20 +5,6 @@ namespace veskar
 namespace
 {
 
-/** From its top to its bottom, in the window. */
-struct Extent
-{
-    int top = 0;
-    int bottom = 0;
-
-    int Height() const { return bottom - top; }
-    bool Holds(const Extent& other) const
-    {
-        constexpr int ROUNDING = 1; // on a screen that is not 1920x1080
-        return top - other.top <= ROUNDING && other.bottom - bottom <= ROUNDING;
-    }
-};
-
 Extent ExtentOf(const Evas_Object* object)
 {
     Extent extent;
@@ -38,6 +24,18 @@ Extent ViewOf(const Evas_Object* list)
     return {top, top + height};
 }
 
+std::vector<void*> RealisedRows(const Evas_Object* list)
+{
+    std::vector<void*> rows;
+    void* row = nullptr;
+    Eina_List* realised = elm_genlist_realized_items_get(list);
+    EINA_LIST_FREE(realised, row)
+    {
+        rows.push_back(row);
+    }
+    return rows;
+}
+
 } // namespace
 
 WholeRows::WholeRows(Evas_Object* list)
@@ -51,20 +49,27 @@ void WholeRows::m_OnRowRealised(void* row)
     // What drew a hidden row before may draw this one.
     m_hidden.insert(static_cast<Elm_Object_Item*>(row));
     m_Show(static_cast<Elm_Object_Item*>(row), true);
+    m_seen = {};
 }
 
 void WholeRows::m_BeforeDrawing()
 {
     evas_smart_objects_calculate(evas_object_evas_get(m_list));
-    const Extent view = ViewOf(m_list);
-    void* item = nullptr;
-    Eina_List* rows = elm_genlist_realized_items_get(m_list);
-    EINA_LIST_FREE(rows, item)
+    Arrangement now{ViewOf(m_list), 0, 0, RealisedRows(m_list)};
+    elm_scroller_region_get(m_list, nullptr, &now.top, nullptr, nullptr);
+    elm_scroller_child_size_get(m_list, nullptr, &now.height);
+    // To look where a row is changes the canvas: done each time, it would be drawn without an end.
+    if (now == m_seen)
+    {
+        return;
+    }
+    m_seen = now;
+    for (void* item : now.rows)
     {
         auto* row = static_cast<Elm_Object_Item*>(item);
         const Extent place = ExtentOf(elm_object_item_track(row));
         elm_object_item_untrack(row);
-        m_Show(row, view.Holds(place) || place.Height() > view.Height());
+        m_Show(row, now.view.Holds(place) || place.Height() > now.view.Height());
     }
 }
 
