@@ -267,6 +267,21 @@ TEST_F(ToolkitTest, APageHasWholeLinesOnlyAndLooksTheSameWhenItComesBack)
     EXPECT_TRUE(Picture() == pages[0]);
 }
 
+TEST_F(ToolkitTest, AListThatNobodyMovesIsNotDrawnAgain)
+{
+    manager->ShowList(1, 255, "T", "", "", {"a", "b"}, "L", false, {"OK"}, true);
+    Picture();
+    int drawn = 0;
+    const auto count = [](void* number, Evas*, void*)
+    {
+        ++*static_cast<int*>(number);
+    };
+    evas_event_callback_add(canvas, EVAS_CALLBACK_RENDER_PRE, count, &drawn);
+    LoopEnds(0.3);
+    evas_event_callback_del_full(canvas, EVAS_CALLBACK_RENDER_PRE, count, &drawn);
+    EXPECT_EQ(drawn, 0);
+}
+
 TEST_F(ToolkitTest, RowsBesideAnImageKeepTheirRoomInThePanel)
 {
     manager->ShowMultipleImageList(1, 255, "Delete Kavro Operator Profile", "", "", {"a", "b", "c"}, "L", false, {"OK"},
