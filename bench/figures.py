@@ -145,14 +145,19 @@ class Bench:
         return times, bare_frames, frames
 
     def idle(self, seconds=10):
-        """How often the process's threads woke up while a message is shown."""
+        """How often the process's threads woke up while a message is shown, and while a list is."""
         self._start(self.application)
-        time.sleep(5)  # what the toolkit and the framework do once after a start is done
+        counts = [self._wake_ups(seconds)]
+        self._show(programs.rows(self._next_id(), 10))
+        counts.append(self._wake_ups(seconds))
+        self._stop(self.application)
+        return counts
+
+    def _wake_ups(self, seconds):
+        time.sleep(5)  # what the toolkit and the framework do once after a start or a request is done
         before = processes.wake_ups(self.application.pid)
         time.sleep(seconds)
-        count = processes.wake_ups(self.application.pid) - before
-        self._stop(self.application)
-        return count
+        return processes.wake_ups(self.application.pid) - before
 
     # --- lists
 
