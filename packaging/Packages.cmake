@@ -33,11 +33,15 @@ for one command.")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME veskar-tools)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION misc)
+# The Python module; what records and tests with it is not everybody's.
+set(CPACK_DEBIAN_TOOLS_PACKAGE_DEPENDS python3)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS veskar)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SUGGESTS "python3-jeepney, python3-pytest")
 set(CPACK_DEBIAN_TOOLS_DESCRIPTION "middleware, remote control and settings for veskar
 Command-line programs beside a television's screen dialogues: veskar-mw asks
 for a screen and prints the viewer's answer, veskar-remote presses keys, waits
-for screens and saves them as pictures, veskar-setting changes settings.")
+for screens and saves them as pictures, veskar-setting changes settings. The
+Python module veskar_tv drives all of it from tests.")
 
 foreach(component tv tools)
     string(TOUPPER ${component} upper)
