@@ -130,6 +130,12 @@ struct GridTest : ShownTest, testing::WithParamInterface<Mode>
         ExpectAcross(TEXTS, Parts("elm_label", "text", "measure"));
         ExpectAcross(TEXTS, Parts("elm_scroller", "elm.swallow.content", "elm.swallow.content"));
         ExpectAcross(BAR, Parts("elm_scroller", "track", "track"));
+        ExpectAcross({840, 1080}, Parts("elm_progressbar", "track", "elm.cur.progressbar"));
+        for (const Box& field : Parts("elm_layout", "ground", "dot"))
+        {
+            EXPECT_EQ(Length(field.across), 120);
+            EXPECT_EQ((field.across.first - 672) % 152, 0);
+        }
         for (Evas_Object* list : WidgetsOnScreen(tv.window, "elm_genlist"))
         {
             ExpectRows(list);
