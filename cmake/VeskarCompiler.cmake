@@ -15,6 +15,8 @@ find_package(Threads REQUIRED)
 
 add_library(veskar-compile-options INTERFACE)
 target_compile_options(veskar-compile-options INTERFACE -Wall -Wextra -Wpedantic -Wshadow)
+# A log line names its source; an installed program must not name the folder in which it was built.
+target_compile_options(veskar-compile-options INTERFACE -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
 # Our presets set it. Other compilers, and later ones, have warnings that we have not seen.
 option(VESKAR_WERROR "Treat warnings as errors" OFF)
 if(VESKAR_WERROR)
