@@ -21,7 +21,8 @@ set(CPACK_DEBIAN_TV_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_TV_PACKAGE_DEPENDS
     "dbus-daemon, fontconfig, fonts-noto-core, fonts-noto-ui-core, libelementary-data, libevas1-engines-wayland, weston")
 set(CPACK_DEBIAN_TV_PACKAGE_RECOMMENDS "fonts-noto-cjk, fonts-noto-color-emoji, veskar-tools")
-set(CPACK_DEBIAN_TV_PACKAGE_SUGGESTS "locales-all, speech-dispatcher")
+set(CPACK_DEBIAN_TV_PACKAGE_SUGGESTS 
+    "locales-all, novnc, speech-dispatcher, tigervnc-standalone-server, websockify, xauth")
 set(CPACK_DEBIAN_TV_DESCRIPTION "screen dialogues of a television's access module
 Shows what a television's conditional-access service has to ask or tell the
 viewer: messages, lists, pictures, PIN entries and progress, over the running

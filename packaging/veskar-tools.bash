@@ -15,4 +15,4 @@ _veskar() {
     *) mapfile -t COMPREPLY < <(compgen -W "$subcommands" -- "$2") ;;
     esac
 }
-complete -o default -F _veskar veskar-tv veskar-mw veskar-remote veskar-setting
+complete -o default -F _veskar veskar-tv veskar-watch veskar-mw veskar-remote veskar-setting
