@@ -27,8 +27,8 @@ void PrepareToolkit()
     // The toolkit's threads write to its log while the main thread registers log domains. Without locks that crashes.
     eina_init();
     eina_log_threads_enable();
-    // What the toolkit has freed waits in a queue until the main loop is idle, which it is not while a long list measures
-    // its rows: 40 MiB, and what is allocated meanwhile lies between.
+    // What the toolkit has freed waits in a queue until the main loop is idle, which it is not while a long list
+    // measures its rows: 40 MiB, and what is allocated meanwhile lies between.
     eina_freeq_count_max_set(eina_freeq_main_get(), MOST_WAITING_TO_BE_FREED);
     // Menus and icons of a desktop, and news about batteries and the time zone: a TV's dialogues use none of them. They
     // cost a daemon, a thread and a third of the start.
