@@ -57,6 +57,7 @@ TEST_F(Settings, EachKeyIsKeptInTheFolderOfItsKind)
         EXPECT_EQ(ReadSetting(key), std::nullopt);
         EXPECT_EQ(WriteSetting(key, "two words"), std::error_code());
         EXPECT_EQ(ReadSetting(key), "two words");
+        EXPECT_EQ(std::filesystem::status(m_folder / file).permissions(), std::filesystem::perms(0644));
     }
 }
 
