@@ -7,6 +7,7 @@
 
 /** The toolkit's event when the compositor has answered a new window. Declared as in ecore_wayland.h. */
 extern int ECORE_WL2_EVENT_WINDOW_CONFIGURE_COMPLETE;
+// NOLINTNEXTLINE(readability-identifier-naming): the name is the toolkit's
 struct Ecore_Wl2_Event_Window_Configure_Complete
 {
     Ecore_Wl2_Window* win;

@@ -13,8 +13,11 @@ extern "C"
 
     void free(void* block)
     {
-        explicit_bzero(block, malloc_usable_size(block));
-        __libc_free(block);
+        if (block != nullptr)
+        {
+            explicit_bzero(block, malloc_usable_size(block));
+            __libc_free(block);
+        }
     }
 
     /** The C library's own would free the old block without a call of the function above. */

@@ -58,9 +58,9 @@ timer_t MakeTimer()
     return timer;
 }
 
-const pthread_t s_main = pthread_self();
-const long s_longest = Longest();
-const timer_t s_timer = MakeTimer();
+const pthread_t MAIN_THREAD = pthread_self();
+const long LONGEST = Longest();
+const timer_t TIMER = MakeTimer();
 long s_awakeSince = 0;
 bool s_hasSlept = false; // what comes before its first sleep does not count
 
@@ -68,7 +68,7 @@ bool s_hasSlept = false; // what comes before its first sleep does not count
 void SayWhereAfter(long milliseconds)
 {
     const itimerspec time{{0, 0}, {milliseconds / 1000, milliseconds % 1000 * NANOSECONDS}};
-    timer_settime(s_timer, 0, &time, nullptr);
+    timer_settime(TIMER, 0, &time, nullptr);
 }
 
 /** Calls the function of that name in the library, and looks at how long the main loop has been awake. */
@@ -76,19 +76,19 @@ template <typename Function, typename... Arguments>
 int Sleep(const char* name, Arguments... arguments)
 {
     const auto real = reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
-    if (pthread_equal(pthread_self(), s_main) == 0)
+    if (pthread_equal(pthread_self(), MAIN_THREAD) == 0)
     {
         return real(arguments...);
     }
     SayWhereAfter(0);
-    if (const long worked = ProcessorTime() - s_awakeSince; s_hasSlept && worked > s_longest)
+    if (const long worked = ProcessorTime() - s_awakeSince; s_hasSlept && worked > LONGEST)
     {
         std::fprintf(stderr, "watchdog: the main loop worked for %ld ms\n", worked);
     }
     const int result = real(arguments...);
     s_awakeSince = ProcessorTime();
     s_hasSlept = true;
-    SayWhereAfter(s_longest);
+    SayWhereAfter(LONGEST);
     return result;
 }
 
