@@ -1,6 +1,8 @@
 /** Which keys the desk holds back, and for how long. */
 #include "keyguard/KeyGuard.h"
 
+#include <OwnScreen.h>
+
 #include <gtest/gtest.h>
 
 using namespace std::chrono_literals;
@@ -103,4 +105,27 @@ TEST_F(KeyGuardTest, RepeatsNoKeyWhosePressItHeldBack)
     EXPECT_FALSE(Repeat("Return", 2000ms));
     EXPECT_FALSE(m_guard.LetsRelease(CODE));
     EXPECT_TRUE(Press("Return", 3000ms));
+}
+
+TEST(OwnScreenTest, AFrameOfTheScreenBeforeDoesNotShowTheNext)
+{
+    struct : veskar::OwnScreen::Display
+    {
+        void Changed(bool /*shown*/, int /*uiId*/) override {}
+        void AwaitFrame(std::function<void()> reached) override { frames.push_back(std::move(reached)); }
+        std::set<std::string> HeldKeys() const override { return {}; }
+        std::vector<std::function<void()>> frames;
+    } display;
+    auto& own = veskar::OwnScreen::Instance();
+    own.SetDisplay(&display);
+    own.Comes();
+    own.IsDrawn();
+    own.Comes();
+    display.frames[0]();
+    EXPECT_EQ(own.Shown(), nullptr);
+    own.IsDrawn();
+    display.frames[1]();
+    EXPECT_NE(own.Shown(), nullptr);
+    own.Goes();
+    own.SetDisplay(nullptr);
 }
