@@ -45,8 +45,8 @@ std::string WithoutTabs(std::string markup)
 }
 
 /**
- * What the TV's toolkit does by itself this one does when told: to align each paragraph by its own direction, and to
- * break a word wider than the page, as a sentence in Thai is, instead of cutting it off.
+ * A TV's toolkit does unasked what this one does on request: it aligns each paragraph by its own direction, and
+ * breaks a word that is wider than the page, as a sentence in Thai is, instead of cutting it off.
  */
 void Adapt(Evas_Textblock_Style* style)
 {
@@ -119,7 +119,7 @@ Evas_Object* AddCanvas(Evas* evas)
 /**
  * A text in a scroller, shown page by page. The scroller's content is as many views high as there are pages; the text
  * is moved along with the page shown and clipped to that page's own lines, so that no line is ever cut in half.
- * Lives on the scroller as its data and goes with it.
+ * Lives on the scroller as its data and is deleted with it.
  */
 class TextPage
 {
@@ -198,7 +198,7 @@ TextPage::~TextPage()
     evas_object_data_del(m_scroller, DATA_KEY);
     // The content outlives this a little, and may be laid out once more.
     evas_object_event_callback_del_full(m_content, EVAS_CALLBACK_RESIZE, s_OnResize, this);
-    // The textblock goes before the style that it was given.
+    // The textblock is deleted before the style that it was given.
     evas_object_del(m_text);
     if (m_pending)
     {
@@ -246,7 +246,7 @@ void TextPage::m_UpdateLater()
     m_pending = ecore_job_add(s_OnJob, this);
 }
 
-/** Breaks the text anew where the view is of another size. */
+/** Breaks the text again where the view has another size. */
 void TextPage::m_Fit()
 {
     int width = 0;

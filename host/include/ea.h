@@ -11,7 +11,7 @@ extern "C"
     /** Prepares the assistant; may be called again. */
     void ea_init(void);
 
-    /** A text in pages, numbered from 0; a child of `parent` that goes with it. Null when it cannot be made. */
+    /** A text in pages, numbered from 0; a child of `parent`, deleted with it. Null when it cannot be made. */
     Evas_Object* ea_textpage_add(Evas_Object* parent);
     /** Markup; the page takes ownership of the malloc'd `text`. */
     void ea_textpage_text_set(Evas_Object* page, char* text);
@@ -31,7 +31,7 @@ extern "C"
 
     /**
      * A field of `length` digits that takes "0" to "9" and "BackSpace" while it has the focus; emits "clicked". A child
-     * of `parent` that goes with it. `data` is kept on the object under the name "ea_pin_data".
+     * of `parent`, deleted with it. `data` is kept on the object under the name "ea_pin_data".
      */
     Evas_Object* ea_pin_add(Evas_Object* parent, int length, Ea_Pin_Entered_Cb callback, void* data);
     void ea_pin_reset(Ea_Pin* pin);

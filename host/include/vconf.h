@@ -1,4 +1,4 @@
-/** The settings store. Keys are paths as "db/menu_widget/language", which is kept; "memory/..." goes with the power. */
+/** The settings store. Keys are paths: "db/menu_widget/language" is kept, "memory/..." is lost with the power. */
 #pragma once
 
 #ifdef __cplusplus

@@ -5,7 +5,8 @@
 namespace veskar
 {
 
-/** Tells the desk's other parts in this program when a popup comes, when its first frame is drawn and when it goes. */
+/** Tells the desk's other parts in this program when a popup comes, when its first frame is drawn and when it is
+ * hidden. */
 class ScreenNews
 {
 public:
