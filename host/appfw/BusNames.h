@@ -29,8 +29,8 @@ public:
     bool IsReachable(const std::string& name) const { return HasOwner(name) || m_activatable.names.count(name) != 0; }
 
     /**
-     * Calls `absent` whenever the name is seen to have no owner: when the list comes, and when its owner disappears. One name
-     * at a time; null ends it.
+     * Calls `absent` whenever the name is seen to have no owner: when the list comes, and when its owner disappears.
+     * One name at a time; null ends it.
      */
     void OnAbsence(const std::string& name, std::function<void()> absent);
 
